@@ -1,0 +1,51 @@
+# Compiler settings of all targets, and the rooms the library is made of.
+
+function(wexa_strict target)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+endfunction()
+
+# wexa_room(name folder... LINKS target...): the sources of some folders as one object library.
+function(wexa_room name)
+  cmake_parse_arguments(ROOM "" "" "LINKS;FOLDERS" ${ARGN})
+  set(sources)
+  foreach(folder IN LISTS ROOM_FOLDERS)
+    file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp)
+    list(APPEND sources ${found})
+  endforeach()
+  if(NOT sources)
+    return()
+  endif()
+  add_library(${name} OBJECT ${sources})
+  wexa_strict(${name})
+  target_compile_definitions(${name} PRIVATE WEXA_BUILDING)
+  target_link_libraries(${name} PUBLIC wexa_headers ${ROOM_LINKS})
+  target_precompile_headers(${name} PRIVATE
+    <algorithm> <array> <cstdint> <functional> <map> <memory> <string> <string_view>
+    <unordered_map> <utility> <vector>)
+  set_property(GLOBAL APPEND PROPERTY WEXA_ROOMS ${name})
+endfunction()
+
+# wexa_test(name folder...): one test program of the sources in some folders, linked to the
+# rooms themselves, so that it sees what the shared library hides.
+function(wexa_test name)
+  cmake_parse_arguments(TEST "" "" "ROOMS;FOLDERS" ${ARGN})
+  set(sources)
+  foreach(folder IN LISTS TEST_FOLDERS)
+    file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp)
+    list(APPEND sources ${found})
+  endforeach()
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${name} ${sources})
+  wexa_strict(${name})
+  target_compile_definitions(${name} PRIVATE WEXA_BUILDING
+    WEXA_SHARED_DIR="${PROJECT_SOURCE_DIR}/../shared" WEXA_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE ${TEST_ROOMS} GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <memory> <string> <vector>)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES
+    ENVIRONMENT "WEXA_DISPLAY=offscreen;WEXA_DPI=96;FONTCONFIG_FILE=${PROJECT_SOURCE_DIR}/tests/support/fonts.conf;LC_ALL=C.UTF-8"
+    TIMEOUT 300)
+endfunction()

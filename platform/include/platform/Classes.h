@@ -1,0 +1,193 @@
+#pragma once
+
+// The class layer: objects attached to windows. A CWnd owns its window when it created it and
+// destroys one that still exists when it goes.
+
+#include <memory>
+#include <string>
+
+#include "platform/DialogManager.h"
+#include "platform/Font.h"
+#include "platform/Theme.h"
+#include "platform/Window.h"
+
+class CFont {
+ public:
+  CFont() = default;
+  CFont(const CFont&) = delete;
+  CFont& operator=(const CFont&) = delete;
+  ~CFont() { DeleteObject(); }
+  BOOL CreateFontIndirect(const LOGFONTW* description);
+  BOOL CreatePointFontIndirect(const LOGFONTW* description);  // lfHeight in tenths of a point
+  void DeleteObject();
+  HFONT GetSafeHandle() const { return font_; }
+
+ private:
+  HFONT font_ = nullptr;
+};
+
+// The device context of one WM_PAINT.
+class CPaintDC {
+ public:
+  explicit CPaintDC(HWND window) : window_(window) { BeginPaint(window_, &paint_); }
+  ~CPaintDC() { EndPaint(window_, &paint_); }
+  CPaintDC(const CPaintDC&) = delete;
+  CPaintDC& operator=(const CPaintDC&) = delete;
+  operator HDC() const { return paint_.hdc; }
+  const RECT& Area() const { return paint_.rcPaint; }
+
+ private:
+  HWND window_;
+  PAINTSTRUCT paint_{};
+};
+
+class CWnd {
+ public:
+  CWnd() = default;
+  CWnd(const CWnd&) = delete;
+  CWnd& operator=(const CWnd&) = delete;
+  virtual ~CWnd();
+
+  HWND m_hWnd = nullptr;
+  HWND GetSafeHwnd() const { return m_hWnd; }
+
+  // The object of a window; for one without an object, a temporary that lives until the window dies.
+  static CWnd* FromHandle(HWND window);
+  // The object of a window, or null.
+  static CWnd* FromHandlePermanent(HWND window);
+
+  // Creates a window whose messages go through WindowProc. FALSE when it could not be made.
+  BOOL CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style,
+                const RECT& rect, CWnd* parent, UINT id);
+  BOOL Attach(HWND window);  // takes over an existing window
+  HWND Detach();
+  virtual BOOL DestroyWindow();
+
+  LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+
+  DWORD GetStyle() const;
+  DWORD GetExStyle() const;
+  BOOL ModifyStyle(DWORD remove, DWORD add, UINT positionFlags = 0);
+  BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT positionFlags = 0);
+  int GetDlgCtrlID() const;
+  CWnd* GetParent() const;
+  CWnd* GetTopLevelParent() const;
+
+  void SetWindowText(const std::wstring& text);
+  std::wstring GetWindowText() const;
+  void SetFont(HFONT font, bool redraw = true);
+  HFONT GetFont() const;  // the system font when none was set
+
+  CRect GetWindowRect() const;
+  CRect GetClientRect() const;
+  void ScreenToClient(POINT* point) const;
+  void ScreenToClient(RECT* rect) const;
+  void ClientToScreen(POINT* point) const;
+  void MoveWindow(const RECT& rect, bool repaint = true);
+  BOOL SetWindowPos(HWND after, int x, int y, int width, int height, UINT flags);
+  BOOL ShowWindow(int command);
+  BOOL EnableWindow(BOOL enable = TRUE);
+  BOOL IsWindowEnabled() const;
+  BOOL IsWindowVisible() const;
+  HWND SetFocus();
+  void Invalidate(bool erase = true);
+  void InvalidateRect(const RECT* rect, bool erase = true);
+  BOOL RedrawWindow(const RECT* rect, HRGN region, UINT flags);
+  UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds);
+  BOOL KillTimer(UINT_PTR id);
+  int GetScrollPos(int bar) const;  // SB_VERT 1, SB_HORZ 0; 0 for a window that does not scroll
+  void SetScrollPos(int bar, int position);
+  void CenterWindow();
+
+  // Before a posted message or input is dispatched, from the focused window up its parents.
+  // TRUE: the message is consumed.
+  virtual BOOL PreTranslateMessage(MSG* message);
+
+ protected:
+  // All messages of the window. The default routes WM_COMMAND to OnCommand, WM_NOTIFY to OnNotify
+  // (after offering both to the sending control's object: OnChildNotify), WM_PAINT to OnPaint when
+  // the class draws itself, and everything else to the window's own procedure.
+  virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+  // TRUE: handled.
+  virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+  virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
+  // A notification this control sent to its parent comes back here first. TRUE: handled.
+  virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+  virtual void PostNcDestroy() {}
+  // The processing that the window's class gives the current message.
+  LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
+
+ private:
+  friend struct ClassLayer;
+  bool owned_ = false;
+};
+
+class CStatic : public CWnd {
+ public:
+  BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+};
+
+class CButton : public CWnd {
+ public:
+  virtual BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+  int GetCheck() const;
+  void SetCheck(int check);
+  UINT GetState() const;
+  DWORD GetButtonStyle() const;
+  void SetButtonStyle(DWORD style, bool redraw = true);
+};
+
+class CEdit : public CWnd {
+ public:
+  BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+  void SetSel(int from, int to);
+  void GetSel(int& from, int& to) const;
+  void ReplaceSel(const std::wstring& text);
+  void SetReadOnly(bool readOnly);
+  void SetLimitText(UINT characters);
+  void SetPasswordChar(wchar_t c);
+  void SetCueBanner(const std::wstring& text);
+};
+
+class CDialogEx : public CWnd {
+ public:
+  ~CDialogEx() override;
+
+  // Keeps the template for DoModal. The memory stays the caller's.
+  BOOL InitModalIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* owner);
+  // Shows the dialog, disables its owner's top-level window and pumps until EndDialog; returns what
+  // that was given, -1 when the window could not be made. An exception thrown by a handler leaves
+  // here after the dialog is destroyed and owner, focus and capture are restored.
+  virtual std::intptr_t DoModal();
+  BOOL CreateIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* owner);
+  void EndDialog(int result);
+  bool IsModal() const { return modal_; }
+  void SetDefID(UINT id);
+  UINT GetDefID() const;
+  void NextDlgCtrl();
+  void GotoDlgCtrl(HWND control);
+
+  BOOL PreTranslateMessage(MSG* message) override;
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  // FALSE: the dialog set the focus itself.
+  virtual BOOL OnInitDialog();
+  virtual void OnOK();      // Return without a default button; ends the dialog with IDOK
+  virtual void OnCancel();  // Escape or the close command; ends the dialog with IDCANCEL
+
+ private:
+  friend struct ClassLayer;
+  const DLGTEMPLATE* template_ = nullptr;
+  CWnd* owner_ = nullptr;
+  bool modal_ = false;
+  bool running_ = false;
+  int result_ = -1;
+};
+
+// Takes one message from the queue, lets the windows pre-translate it, and dispatches it. FALSE when
+// WM_QUIT came or nothing can happen any more. Modeless dialogs need their host to call this.
+BOOL AfxPumpMessage();
+// Pumps while there is something to do at once.
+void AfxPumpPending();

@@ -1,0 +1,33 @@
+#pragma once
+
+// The desktop's colours and its high-contrast state, from one provider that can change at run time.
+
+#include "platform/Types.h"
+
+inline constexpr int COLOR_SCROLLBAR = 0;
+inline constexpr int COLOR_BACKGROUND = 1;
+inline constexpr int COLOR_ACTIVECAPTION = 2;
+inline constexpr int COLOR_INACTIVECAPTION = 3;
+inline constexpr int COLOR_WINDOW = 5;
+inline constexpr int COLOR_WINDOWFRAME = 6;
+inline constexpr int COLOR_WINDOWTEXT = 8;
+inline constexpr int COLOR_CAPTIONTEXT = 9;
+inline constexpr int COLOR_ACTIVEBORDER = 10;
+inline constexpr int COLOR_INACTIVEBORDER = 11;
+inline constexpr int COLOR_HIGHLIGHT = 13;
+inline constexpr int COLOR_HIGHLIGHTTEXT = 14;
+inline constexpr int COLOR_BTNFACE = 15;
+inline constexpr int COLOR_BTNSHADOW = 16;
+inline constexpr int COLOR_GRAYTEXT = 17;
+inline constexpr int COLOR_BTNTEXT = 18;
+inline constexpr int COLOR_INACTIVECAPTIONTEXT = 19;
+inline constexpr int COLOR_3DLIGHT = 22;
+
+enum class SystemScheme { Light, Dark, HighContrast };
+
+// 0 (black) for an unknown index.
+DWORD GetSysColor(int index);
+// The scheme in force; at start-up high contrast when WEXA_HIGH_CONTRAST=1, else light.
+SystemScheme GetSystemScheme();
+// Replaces the scheme; the display tells open windows with WM_SYSCOLORCHANGE.
+void SetSystemScheme(SystemScheme scheme);

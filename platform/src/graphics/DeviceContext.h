@@ -1,0 +1,20 @@
+#pragma once
+
+// What an HDC stands for: a place on a surface that may be painted.
+
+#include "graphics/PixelRegion.h"
+#include "graphics/Surface.h"
+#include "platform/Types.h"
+
+struct DeviceContext {
+  Surface* surface = nullptr;
+  POINT origin{};         // of the window's coordinates, on the surface
+  PixelRegion clip;       // surface pixels that may be painted
+  int mirrorWidth = -1;   // width of a right-to-left window, -1 when not mirrored
+  HWND window = nullptr;
+};
+
+// The handle lives until DeleteDeviceContext.
+HDC CreateDeviceContext(DeviceContext context);
+void DeleteDeviceContext(HDC dc);
+DeviceContext* GetDeviceContext(HDC dc);
