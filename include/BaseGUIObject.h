@@ -1,0 +1,170 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "CallbackList.h"
+#include "FontData.h"
+#include "Point.h"
+#include "Rect.h"
+#include "Region.h"
+#include "Size.h"
+#include "SizePolicy.h"
+#include "SkinManager.h"
+#include "WexaExport.h"
+#include "WexaObject.h"
+#include "platform/Types.h"
+
+class CWnd;
+
+namespace Wexa {
+
+class BaseImpl;
+class Event;
+
+// The base of every widget: a name, a kind, the host's event procedure, and the operations that every
+// widget answers through its implementation. Sizes and positions are device pixels unless stated;
+// operations that need the native window throw WexaException "Control is not valid." without one.
+class WEXA_API BaseGUIObject : public WexaObject {
+ public:
+  // The kind of a widget.
+  enum class GuiType {
+    Dialog = 0,
+    Button = 1,
+    Edit = 2,
+    ListBox = 3,
+    CheckBox = 4,
+    RadioButton = 5,
+    GroupBox = 6,
+    ComboBox = 7,
+    Label = 8,
+    TabView = 9,
+    ChildDialog = 10,
+    Slider = 11,
+    SpinEdit = 13,
+    DoubleSpinEdit = 14,
+    StackedDialog = 15,
+    ButtonBox = 17,
+    TreeView = 18,
+    MultiLineEdit = 19,
+    RichEdit = 20,
+    Splitter = 21,
+    DrawElement = 22,
+    ScrollBar = 23,
+    ProgressBar = 24,
+    ToolBar = 25,
+    Line = 26,
+    ScrollArea = 27,
+    HyperLinkElement = 28,
+    DateEdit = 29,
+    ComboBoxFS = 30,
+    None = 31
+  };
+  using EventProcedureType = std::function<bool(BaseGUIObject*, Event*)>;
+  using PreTranslateProcedure = std::function<int(void*)>;
+
+  BaseGUIObject();
+  ~BaseGUIObject() override;
+  BaseGUIObject(const BaseGUIObject&) = delete;
+  BaseGUIObject& operator=(const BaseGUIObject&) = delete;
+
+  // -- Virtual operations --------------------------------------------------------------------------
+
+  // Makes the native window under `parent`; false when it cannot be made.
+  virtual bool Create(HWND parent) = 0;
+  // The size the content asks for, the least it can do with; (-1, -1) where there is no opinion.
+  virtual Size IdealSize();
+  virtual Size MinimumIdealSize();
+  // The limits set by the host, the form or the widget's layout.
+  virtual Size MinimumSize();
+  virtual Size MaximumSize();
+  // With updateLayout the layout that holds the widget takes the change into account.
+  virtual void Show(bool show, bool updateLayout);
+  virtual bool IsVisible();
+  // A remembered disable cannot be undone by an enable that is not remembered.
+  virtual void Enable(bool enable, bool remember);
+  virtual bool IsEnabled();
+  // Moves within the parent's client area, kept within the widget's limits. The last argument has no
+  // effect.
+  virtual void MoveWindow(int x, int y, int width, int height, bool repaint);
+  // The same in 96-DPI units.
+  virtual void MoveWindowUnscaled(int x, int y, int width, int height, bool repaint);
+  virtual void Update(const Region& region);
+  virtual void Update();
+  virtual void Repaint(const Region& region);
+  virtual void Repaint();
+  virtual int GetLogicalPixelsX();
+  virtual int GetLogicalPixelsY();
+  // In screen coordinates.
+  virtual Rect GetWindowRect();
+  // In 96-DPI units.
+  virtual Rect GetWindowRectUnscaled();
+  virtual Rect GetClientRect();
+  virtual Point ScreenToClient(Point point);
+  virtual Point ClientToScreen(Point point);
+  virtual HWND GetParentWindow();
+  virtual void SetParentWindow(HWND parent);
+  virtual void SetTopLevelDlg(CWnd* dialog);
+  // The top-level dialog's window object, null outside one.
+  virtual CWnd* GetTopLevelDlg();
+  virtual std::shared_ptr<BaseImpl> GetBaseImpl() const = 0;
+  // Timer events with this id follow until KillTimer. Returns the id, 0 on failure.
+  virtual unsigned SetTimer(unsigned id, unsigned milliseconds);
+  virtual void KillTimer(unsigned id);
+  virtual SizePolicy GetSizePolicy() const;
+  virtual void SetSizePolicy(const SizePolicy& policy);
+  virtual SkinManager& GetSkinManager();
+  // Loads a palette into the widget's skin and those of its children. With `repaint` the widget is
+  // redrawn. False for a mode that cannot be loaded.
+  virtual bool SetSkinMode(SkinMode mode, bool repaint);
+
+  // -- Common operations ---------------------------------------------------------------------------
+
+  // Limits in 96-DPI units, rounded to whole pixels.
+  void SetMinimumSize(const Size& size);
+  void SetMaximumSize(const Size& size);
+  // Half of what the frame adds to the client area's width.
+  int GetFrarmeWidth();
+  void SetAcceptDrops(bool accept);
+  bool IsAcceptDrops();
+  // Asks for hover and leave events until the pointer leaves.
+  void SetTrackMouseEvent();
+  // The native window object and its handle; null without a window.
+  CWnd* GetPlatformWindow() const;
+  HWND GetPlatformHandle() const;
+
+  void SetName(const std::wstring& name) { name_ = name; }
+  const std::wstring& GetName() const { return name_; }
+  GuiType Type() const { return guiType_; }
+
+  // Called with every event of the widget; true suppresses the default processing.
+  void SetEventProcedure(const EventProcedureType& procedure) { eventProcedure_ = procedure; }
+  const EventProcedureType& EventProcedure() const { return eventProcedure_; }
+  // Gets the native message record before the library's own pre-processing: 1 consumes it, 0 ends the
+  // pre-processing, anything else lets it go on.
+  void SetPreTranslateMessage(const PreTranslateProcedure& procedure) {
+    preTranslateMessage_ = procedure;
+  }
+  const PreTranslateProcedure& PreTranslateMessage() const { return preTranslateMessage_; }
+
+  // Width in pixels of a text in the given font, or in the widget's when null.
+  int GetWidthForText(std::wstring& text, FontData* font);
+
+  // Fired with the widget when its native window is destroyed.
+  CallbackList<BaseGUIObject*> Destroyed;
+
+ protected:
+  explicit BaseGUIObject(GuiType type);
+  void SetGuiType(GuiType type) { guiType_ = type; }
+
+ private:
+  std::wstring name_;
+  GuiType guiType_ = GuiType::None;
+  HWND parentWindow_ = nullptr;
+  EventProcedureType eventProcedure_;
+  PreTranslateProcedure preTranslateMessage_;
+  CWnd* topLevelDlg_ = nullptr;
+};
+
+}  // namespace Wexa
