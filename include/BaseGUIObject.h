@@ -61,7 +61,7 @@ class WEXA_API BaseGUIObject : public WexaObject {
     ComboBoxFS = 30,
     None = 31
   };
-  using EventProcedureType = std::function<bool(BaseGUIObject*, Event*)>;
+  using EventHandler = std::function<bool(BaseGUIObject*, Event*)>;
   using PreTranslateProcedure = std::function<int(void*)>;
 
   BaseGUIObject();
@@ -139,8 +139,8 @@ class WEXA_API BaseGUIObject : public WexaObject {
   GuiType Type() const { return guiType_; }
 
   // Called with every event of the widget; true suppresses the default processing.
-  void SetEventProcedure(const EventProcedureType& procedure) { eventProcedure_ = procedure; }
-  const EventProcedureType& EventProcedure() const { return eventProcedure_; }
+  void SetEventProcedure(const EventHandler& procedure);
+  const EventHandler& EventProcedure() const { return *eventProcedure_; }
   // Gets the native message record before the library's own pre-processing: 1 consumes it, 0 ends the
   // pre-processing, anything else lets it go on.
   void SetPreTranslateMessage(const PreTranslateProcedure& procedure) {
@@ -156,13 +156,17 @@ class WEXA_API BaseGUIObject : public WexaObject {
 
  protected:
   explicit BaseGUIObject(GuiType type);
-  void SetGuiType(GuiType type) { guiType_ = type; }
+  // For destructors of concrete widgets: the native window goes while the widget is still whole.
+  void ReleaseImpl();
 
  private:
+  friend class EventDispatch;
+
   std::wstring name_;
   GuiType guiType_ = GuiType::None;
   HWND parentWindow_ = nullptr;
-  EventProcedureType eventProcedure_;
+  // Shared with a call under way, which may replace it or destroy the widget.
+  std::shared_ptr<const EventHandler> eventProcedure_;
   PreTranslateProcedure preTranslateMessage_;
   CWnd* topLevelDlg_ = nullptr;
 };

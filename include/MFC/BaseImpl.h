@@ -8,7 +8,9 @@
 #include "Region.h"
 #include "Size.h"
 #include "SizePolicy.h"
+#include "SkinManager.h"
 #include "WexaExport.h"
+#include "platform/Types.h"
 
 class CWnd;
 
@@ -16,7 +18,7 @@ namespace Wexa {
 
 class Layout;
 class WidgetItemV2;
-enum class BalloonTipIconType;
+struct FontData;
 
 // The axes on which a size was set by the host or its form, and so is not the layout's to change.
 struct ExplicitAxes {
@@ -74,6 +76,8 @@ class WEXA_API BaseImpl {
   virtual ~BaseImpl() = default;
   // The native window object; null when there is none.
   virtual CWnd* GetCWnd() = 0;
+  // Its handle; null when there is no native window.
+  virtual HWND GetHandle() = 0;
 
   // -- For layouts --------------------------------------------------------------------------------
 
@@ -92,6 +96,15 @@ class WEXA_API BaseImpl {
   virtual void SetFixedSize(Size size) = 0;
   // Redraws after a change of the skin.
   virtual void RefreshSkinColors() = 0;
+
+  // -- For facades --------------------------------------------------------------------------------
+
+  virtual bool Create(HWND parent) = 0;
+  virtual SkinManager& GetSkinManager() = 0;
+  virtual bool SetSkinMode(SkinMode mode, bool repaint) = 0;
+  virtual int GetTextWidth(const std::wstring& text, const FontData* font) = 0;
+  // The facade is going: destroys a native window that still exists and forgets the facade.
+  virtual void Release() = 0;
 
   LayoutLinks& Links() { return links_; }
 
