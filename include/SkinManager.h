@@ -1,0 +1,112 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "SkinManagerColor.h"
+#include "WexaExport.h"
+
+namespace Wexa {
+
+class BaseImpl;
+
+enum class SkinMode : std::int32_t { Default = 0, Dark = 1, XML = 2, HCMDark = 3, Custom = 4 };
+
+// Which names the colours have: those for input fields, or those for buttons.
+enum class SkinMap : std::int32_t { Inputs = 0, Buttons = 1 };
+
+// The 122 colours that a widget paints with. A slot that was not set explicitly shows the colour of
+// the same slot of the parent skin, or without a parent that of the palette loaded last. Explicit
+// changes tell the widget that owns the skin. The parent must outlive the skin, or be replaced by a
+// palette load before it goes. User-interface thread only.
+class WEXA_API SkinManager {
+ public:
+  static constexpr int kSlotCount = 122;
+
+  SkinManager(BaseImpl* owner, SkinMode mode);
+  explicit SkinManager(SkinMode mode);
+  // A copy has the colours, the parent and the state, but no owner: it tells no widget.
+  SkinManager(const SkinManager& other);
+  // Takes the colours of slots that are not locked, the parent and the state; the owner stays.
+  SkinManager& operator=(const SkinManager& other);
+
+  // Throws std::out_of_range for a number outside 0 to 121.
+  SkinManagerColor& Slot(int number) { return slots_.at(static_cast<unsigned>(number)); }
+  const SkinManagerColor& Slot(int number) const {
+    return slots_.at(static_cast<unsigned>(number));
+  }
+
+  // -- Palettes
+  // ------------------------------------------------------------------------------------
+
+  // Loads a palette: all its slots become unset. In a high-contrast system that is the
+  // high-contrast palette whatever the mode. With `detach` the parent is dropped. False, and
+  // nothing is loaded, for modes other than Default to HCMDark, and for XML without a parent.
+  bool LoadSkin(SkinMode mode, bool lockColors, bool detach);
+  // The same, unlocked and detached.
+  bool SetSkinMode(SkinMode mode);
+  // Takes over another skin and calls the mode Custom. Always true.
+  bool SetCustomSkin(const SkinManager& other);
+  // Loads a palette below a parent; null, or this skin, stands for none. A skin that is its own
+  // parent and was initialised before is left as it is.
+  bool InitSkinManager(const SkinManager* parent, SkinMode mode);
+  bool IsInitDone() const { return initDone_; }
+  void ResetInitilization() { initDone_ = false; }
+  void LoadDefaultSkin(bool detach);
+  void LoadDarkSkin(bool detach);
+  void LoadHCMDarkSkin(bool detach);
+  // A copy of the parent's resolved colours. Nothing happens without a parent.
+  void LoadXMLSkin(bool detach);
+
+  SkinMode GetSkinMode() const { return mode_; }
+  // Changes what GetSkinMode answers; loads nothing.
+  void ChangeSkinModeIdentificator(SkinMode mode) { mode_ = mode; }
+
+  // -- Parent
+  // --------------------------------------------------------------------------------------
+
+  // This skin itself when it has no parent.
+  const SkinManager& GetParentSkinManager() const { return parent_ ? *parent_ : *this; }
+  // Counts from the next palette load on.
+  void SetParentSkinManager(const SkinManager* parent) { parent_ = parent; }
+  SkinManager* GetPtr() { return this; }
+
+  // -- Changes
+  // -------------------------------------------------------------------------------------
+
+  bool GetColorChangeFlag() const { return colorChangeFlag_; }
+  // Setting the flag tells the owner first.
+  void SetColorChangeFlag(bool changed);
+  // Called before painting: has the owner refresh its colours when a slot changed since the last
+  // call.
+  void UpdateCustomColors();
+  void UpdateColorObjects() {}
+
+  // -- Colours by key
+  // ------------------------------------------------------------------------------
+
+  // Sets every slot that the map binds to the key, in any mix of upper and lower case, to the
+  // resolved colour; locked slots too. Unknown keys change nothing.
+  void AssignColor(SkinMap map, const std::wstring& key, SkinManagerColor color);
+  void InitSkinColorByMap(SkinMap map, const std::map<std::wstring, SkinManagerColor>& colors);
+  bool IsKeyMapApplied() const { return keyMapApplied_; }
+
+ private:
+  void LoadPalette(SkinMode mode, bool detach);
+  void SetParentFallbacks();
+  void CopyState(const SkinManager& other);
+  const SkinManagerColor* FallbackOf(std::size_t slot) const;
+
+  std::array<SkinManagerColor, kSlotCount> slots_;
+  const SkinManager* parent_ = nullptr;
+  BaseImpl* owner_ = nullptr;
+  SkinMode mode_ = SkinMode::Default;
+  bool keyMapApplied_ = false;
+  bool lockColors_ = false;
+  bool initDone_ = false;
+  bool colorChangeFlag_ = false;
+};
+
+}  // namespace Wexa

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "WexaExport.h"
+
+namespace Wexa {
+
+// A text of a component in the current language, else in the default language, else as given.
+class WEXA_API TrString {
+ public:
+  TrString(const std::wstring& name, const std::wstring& id, const std::wstring& fallback);
+
+  operator std::wstring() const { return text_.empty() ? fallback_ : text_; }
+
+ private:
+  std::wstring text_;
+  std::wstring fallback_;
+};
+
+}  // namespace Wexa
