@@ -25,10 +25,13 @@ function(wexa_room name)
   set_property(GLOBAL APPEND PROPERTY WEXA_ROOMS ${name})
 endfunction()
 
-# wexa_test(name folder...): one test program of the sources in some folders, linked to the
-# rooms themselves, so that it sees what the shared library hides.
+# The test programs that run under the thread sanitizer: those with the label "threads".
+add_custom_target(thread_tests)
+
+# wexa_test(name FOLDERS folder... ROOMS room... LABELS label...): one test program of the sources in
+# some folders, linked to the rooms themselves, so that it sees what the shared library hides.
 function(wexa_test name)
-  cmake_parse_arguments(TEST "" "" "ROOMS;FOLDERS" ${ARGN})
+  cmake_parse_arguments(TEST "" "" "ROOMS;FOLDERS;LABELS" ${ARGN})
   set(sources)
   foreach(folder IN LISTS TEST_FOLDERS)
     file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp)
@@ -47,5 +50,9 @@ function(wexa_test name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "WEXA_DISPLAY=offscreen;WEXA_DPI=96;FONTCONFIG_FILE=${PROJECT_SOURCE_DIR}/tests/support/fonts.conf;LC_ALL=C.UTF-8"
+    LABELS "${TEST_LABELS}"
     TIMEOUT 300)
+  if(threads IN_LIST TEST_LABELS)
+    add_dependencies(thread_tests ${name})
+  endif()
 endfunction()

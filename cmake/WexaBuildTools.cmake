@@ -1,0 +1,15 @@
+# Quick builds where the tools for it are installed: ccache for compiling, mold for linking.
+
+find_program(WEXA_CCACHE ccache)
+if(WEXA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  # Results with precompiled headers are kept only when ccache may trust their defines and times.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${WEXA_CCACHE})
+  add_compile_options(-fpch-preprocess)
+endif()
+
+include(CheckLinkerFlag)
+check_linker_flag(CXX -fuse-ld=mold WEXA_HAS_MOLD)
+if(WEXA_HAS_MOLD)
+  add_link_options(-fuse-ld=mold)
+endif()
