@@ -1,0 +1,29 @@
+#include "FileText.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "Utf8.h"
+
+namespace Wexa {
+
+std::string NativePath(const std::wstring& path) {
+  std::string native = NarrowUtf8(path);
+  std::replace(native.begin(), native.end(), '\\', '/');
+  return native;
+}
+
+std::optional<std::string> ReadFile(const std::wstring& path) {
+  const std::string native = NativePath(path);
+  std::error_code error;
+  const auto size = std::filesystem::file_size(native, error);
+  std::ifstream file(native, std::ios::binary);
+  if (error || !file) return std::nullopt;
+  std::string bytes(size, '\0');
+  file.read(bytes.data(), static_cast<std::streamsize>(size));
+  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  return file.bad() ? std::nullopt : std::optional(std::move(bytes));
+}
+
+}  // namespace Wexa
