@@ -6,10 +6,10 @@
 #include <memory>
 #include <string>
 
-#include "platform/DialogManager.h"
-#include "platform/Font.h"
-#include "platform/Theme.h"
-#include "platform/Window.h"
+#include "DialogManager.h"
+#include "Font.h"
+#include "Theme.h"
+#include "Window.h"
 
 class CFont {
  public:

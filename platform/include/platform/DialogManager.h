@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "platform/Window.h"
+#include "Window.h"
 
 #pragma pack(push, 2)
 struct DLGTEMPLATE {  // 18 bytes

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Types.h"
+#include "Types.h"
 
 inline constexpr int LF_FACESIZE = 32;
 inline constexpr int FW_NORMAL = 400;

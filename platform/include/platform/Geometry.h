@@ -2,7 +2,7 @@
 
 // Points, sizes and rectangles of the class layer: the records of Types.h with operations.
 
-#include "platform/Types.h"
+#include "Types.h"
 
 BOOL SetRect(RECT* rect, int left, int top, int right, int bottom);
 BOOL SetRectEmpty(RECT* rect);

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/Types.h"
+#include "Types.h"
 
 // Writes what a top-level window shows, its frame included, as a PNG file. Paints what is due first.
 // Throws std::runtime_error naming the file when it cannot be written, or a window that is none.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Types.h"
+#include "Types.h"
 
 inline constexpr int RGN_AND = 1;
 inline constexpr int RGN_OR = 2;

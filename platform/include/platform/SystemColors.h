@@ -2,7 +2,7 @@
 
 // The desktop's colours and its high-contrast state, from one provider that can change at run time.
 
-#include "platform/Types.h"
+#include "Types.h"
 
 inline constexpr int COLOR_SCROLLBAR = 0;
 inline constexpr int COLOR_BACKGROUND = 1;

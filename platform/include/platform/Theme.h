@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "platform/Painter.h"
+#include "Painter.h"
 
 // What a control paints with. A window is asked for its palette with WM_GETCONTROLPALETTE
 // (lParam = ControlPalette* to change); unanswered, the system colours stand.

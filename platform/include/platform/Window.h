@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/Geometry.h"
-#include "platform/Region.h"
-#include "platform/Types.h"
-#include "platform/WindowMessages.h"
-#include "platform/WindowStyles.h"
+#include "Geometry.h"
+#include "Region.h"
+#include "Types.h"
+#include "WindowMessages.h"
+#include "WindowStyles.h"
 
 using WNDPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM);
 using SUBCLASSPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM, UINT_PTR id, DWORD_PTR data);

@@ -2,7 +2,7 @@
 
 // Window messages, with their documented numbers.
 
-#include "platform/Types.h"
+#include "Types.h"
 
 inline constexpr UINT WM_NULL = 0x0000;
 inline constexpr UINT WM_CREATE = 0x0001;

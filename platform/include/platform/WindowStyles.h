@@ -2,7 +2,7 @@
 
 // Styles and other flag words of windows, with their documented values.
 
-#include "platform/Types.h"
+#include "Types.h"
 
 inline constexpr DWORD WS_OVERLAPPED = 0x00000000;
 inline constexpr DWORD WS_POPUP = 0x80000000;
