@@ -1,9 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
-#include "platform/Font.h"
-#include "platform/Types.h"
+#include "Font.h"
+#include "Types.h"
 
 inline constexpr UINT DT_LEFT = 0x0;
 inline constexpr UINT DT_CENTER = 0x1;
@@ -56,4 +57,5 @@ class Painter {
 
  private:
   struct DeviceContext* context_;
+  std::size_t outerClips_;  // clips that were pushed before this painter came
 };

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "graphics/RealizedFont.h"
+#include "platform/Font.h"
+
+// The font behind a handle; the system font for a null or stale one.
+RealizedFont& FontOf(HFONT font);

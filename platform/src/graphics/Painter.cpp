@@ -1,0 +1,59 @@
+#include "platform/Painter.h"
+
+#include <algorithm>
+
+#include "graphics/Canvas.h"
+
+Painter::Painter(HDC dc)
+    : context_(GetDeviceContext(dc)), outerClips_(context_ ? context_->savedClips.size() : 0) {}
+
+Painter::~Painter() {
+  while (context_ && context_->savedClips.size() > outerClips_) PopClip();
+}
+
+void Painter::PushClip(const RECT& rect) {
+  if (!context_) return;
+  context_->savedClips.push_back(context_->clip);
+  context_->clip.Intersect(ToSurface(*context_, rect));
+}
+
+void Painter::PopClip() {
+  if (!context_ || context_->savedClips.size() <= outerClips_) return;
+  context_->clip = std::move(context_->savedClips.back());
+  context_->savedClips.pop_back();
+}
+
+bool Painter::IsClippedOut(const RECT& rect) const {
+  return !context_ || !context_->clip.Intersects(ToSurface(*context_, rect));
+}
+
+void Painter::FillRect(const RECT& rect, COLORREF color) {
+  if (context_) FillPixels(*context_, ToSurface(*context_, rect), color);
+}
+
+void Painter::FrameRect(const RECT& rect, COLORREF color, int thickness) {
+  CRect outer(rect);
+  if (outer.IsEmpty() || thickness <= 0) return;
+  if (thickness >= (std::min(outer.Width(), outer.Height()) + 1) / 2) return FillRect(rect, color);
+  CRect inner = outer.Shrunk(thickness, thickness);
+  FillRect(RECT{outer.left, outer.top, outer.right, inner.top}, color);
+  FillRect(RECT{outer.left, inner.bottom, outer.right, outer.bottom}, color);
+  FillRect(RECT{outer.left, inner.top, inner.left, inner.bottom}, color);
+  FillRect(RECT{inner.right, inner.top, outer.right, inner.bottom}, color);
+}
+
+void Painter::FocusRect(const RECT& rect, COLORREF color) {
+  int dot = ScaleUnits(1);
+  CRect inner = CRect(rect).Shrunk(dot, dot);
+  if (IsClippedOut(rect) || inner.IsEmpty()) return;
+  for (int x = rect.left; x < rect.right; x += 2 * dot) {
+    int end = std::min<int>(x + dot, rect.right);
+    FillRect(RECT{x, rect.top, end, inner.top}, color);
+    FillRect(RECT{x, inner.bottom, end, rect.bottom}, color);
+  }
+  for (int y = inner.top + dot; y < inner.bottom; y += 2 * dot) {
+    int end = std::min<int>(y + dot, inner.bottom);
+    FillRect(RECT{rect.left, y, inner.left, end}, color);
+    FillRect(RECT{inner.right, y, rect.right, end}, color);
+  }
+}

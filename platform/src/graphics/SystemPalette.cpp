@@ -1,0 +1,57 @@
+#include "platform/SystemColors.h"
+#include "platform/Theme.h"
+
+namespace {
+
+BYTE MixChannel(BYTE from, BYTE to, int percent) {
+  return static_cast<BYTE>((from * (100 - percent) + to * percent + 50) / 100);
+}
+
+COLORREF Mix(COLORREF from, COLORREF to, int percent) {
+  return RGB(MixChannel(GetRValue(from), GetRValue(to), percent),
+             MixChannel(GetGValue(from), GetGValue(to), percent),
+             MixChannel(GetBValue(from), GetBValue(to), percent));
+}
+
+ControlPalette BasePalette() {
+  ControlPalette palette{};
+  palette.background = GetSysColor(COLOR_BTNFACE);
+  palette.face = GetSysColor(COLOR_WINDOW);
+  palette.text = GetSysColor(COLOR_BTNTEXT);
+  palette.disabledText = GetSysColor(COLOR_GRAYTEXT);
+  palette.border = GetSysColor(COLOR_BTNSHADOW);
+  palette.hoverBorder = GetSysColor(COLOR_HIGHLIGHT);
+  palette.accent = GetSysColor(COLOR_HIGHLIGHT);
+  palette.accentText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+  palette.selection = GetSysColor(COLOR_HIGHLIGHT);
+  palette.selectionText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+  palette.placeholder = GetSysColor(COLOR_GRAYTEXT);
+  return palette;
+}
+
+// Tints lie between the system's colours.
+void AddTints(ControlPalette& palette) {
+  palette.disabledFace = Mix(palette.background, palette.face, 40);
+  palette.disabledBorder = Mix(palette.border, palette.background, 60);
+  palette.hoverFace = Mix(palette.face, palette.accent, 10);
+  palette.pressedFace = Mix(palette.face, palette.accent, 24);
+  palette.pressedText = palette.text;
+}
+
+// High contrast knows the system's colours only.
+void AddPlainColors(ControlPalette& palette) {
+  palette.disabledFace = palette.face;
+  palette.disabledBorder = palette.disabledText;
+  palette.hoverFace = palette.face;
+  palette.pressedFace = palette.accent;
+  palette.pressedText = palette.accentText;
+}
+
+}  // namespace
+
+ControlPalette SystemPalette() {
+  ControlPalette palette = BasePalette();
+  bool contrast = GetSystemScheme() == SystemScheme::HighContrast;
+  contrast ? AddPlainColors(palette) : AddTints(palette);
+  return palette;
+}
