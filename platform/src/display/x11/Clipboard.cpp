@@ -1,0 +1,125 @@
+#include "Clipboard.h"
+
+#include "Connection.h"
+#include "Text.h"
+#include "Waker.h"
+
+namespace display::x11 {
+namespace {
+
+constexpr std::uint64_t kPatience = 1000;  // milliseconds, for the owner's answer or its next piece
+
+}  // namespace
+
+void Clipboard::Own(const std::wstring& text, xcb_timestamp_t time) {
+  text_ = text;
+  since_ = time;
+  owned_ = true;
+  xcb_set_selection_owner(connection_.Get(), connection_.Helper(), connection_[Atom::Clipboard],
+                          time);
+}
+
+std::wstring Clipboard::Ask(xcb_timestamp_t time, const std::function<void(std::uint64_t)>& pump) {
+  if (owned_) return text_;
+  if (AskAs(connection_[Atom::Utf8String], time, pump)) return Widen(FromUtf8(received_));
+  if (AskAs(XCB_ATOM_STRING, time, pump)) return FromLatin1(received_);
+  return {};
+}
+
+bool Clipboard::AskAs(xcb_atom_t type, xcb_timestamp_t time,
+                      const std::function<void(std::uint64_t)>& pump) {
+  if (IsOpen()) return false;
+  transfer_ = Transfer::Waiting;
+  received_.clear();
+  xcb_convert_selection(connection_.Get(), connection_.Helper(), connection_[Atom::Clipboard], type,
+                        connection_[Atom::WexaSelection], time);
+  pump(0);
+  std::size_t length = 0;
+  for (auto deadline = Waker::Now() + kPatience; IsOpen() && Waker::Now() < deadline;) {
+    pump(deadline);
+    if (received_.size() != length) deadline = Waker::Now() + kPatience;
+    length = received_.size();
+  }
+  const bool done = transfer_ == Transfer::Done;
+  transfer_ = Transfer::None;
+  return done;
+}
+
+void Clipboard::Answered(const xcb_selection_notify_event_t& answer) {
+  if (transfer_ != Transfer::Waiting) return;
+  transfer_ = Transfer::Refused;
+  if (answer.property == XCB_ATOM_NONE) return;
+  xcb_atom_t type = XCB_ATOM_NONE;
+  received_ = connection_.ReadProperty(connection_.Helper(), answer.property, true, &type);
+  transfer_ = Transfer::Done;
+  if (type != connection_[Atom::Incr]) return;
+  transfer_ = Transfer::InPieces;
+  received_.clear();
+}
+
+// A long text comes in pieces, each after the one before was taken; an empty one is the end.
+void Clipboard::PropertyChanged(const xcb_property_notify_event_t& event) {
+  if (transfer_ != Transfer::InPieces || event.state != XCB_PROPERTY_NEW_VALUE ||
+      event.atom != connection_[Atom::WexaSelection]) {
+    return;
+  }
+  const std::string piece = connection_.ReadProperty(connection_.Helper(), event.atom, true);
+  if (piece.empty()) transfer_ = Transfer::Done;
+  received_ += piece;
+}
+
+void Clipboard::Lost(const xcb_selection_clear_event_t& event) {
+  if (event.selection != connection_[Atom::Clipboard]) return;
+  owned_ = false;
+  text_.clear();
+}
+
+void Clipboard::Requested(const xcb_selection_request_event_t& request) {
+  const xcb_atom_t property = request.property ? request.property : request.target;
+  xcb_selection_notify_event_t answer{};
+  answer.response_type = XCB_SELECTION_NOTIFY;
+  answer.time = request.time;
+  answer.requestor = request.requestor;
+  answer.selection = request.selection;
+  answer.target = request.target;
+  answer.property = owned_ && Write(request, property) ? property : xcb_atom_t{XCB_ATOM_NONE};
+  xcb_send_event(connection_.Get(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT,
+                 reinterpret_cast<const char*>(&answer));
+}
+
+bool Clipboard::Write(const xcb_selection_request_event_t& request, xcb_atom_t property) {
+  const xcb_atom_t utf8 = connection_[Atom::Utf8String];
+  const xcb_atom_t targets = connection_[Atom::Targets];
+  const xcb_atom_t timestamp = connection_[Atom::Timestamp];
+  xcb_connection_t* c = connection_.Get();
+  if (request.target == targets) {
+    const xcb_atom_t offered[] = {targets, timestamp, utf8, XCB_ATOM_STRING};
+    xcb_change_property(c, XCB_PROP_MODE_REPLACE, request.requestor, property, XCB_ATOM_ATOM, 32,
+                        std::size(offered), offered);
+    return true;
+  }
+  if (request.target == timestamp) {
+    xcb_change_property(c, XCB_PROP_MODE_REPLACE, request.requestor, property, XCB_ATOM_INTEGER, 32,
+                        1, &since_);
+    return true;
+  }
+  if (request.target != utf8 && request.target != XCB_ATOM_STRING) return false;
+  const std::string bytes = request.target == utf8 ? ToUtf8(text_) : ToLatin1(text_);
+  if (!Fits(bytes)) return false;
+  WriteText(request.requestor, property, request.target, bytes);
+  return true;
+}
+
+bool Clipboard::Fits(const std::string& bytes) {
+  constexpr std::size_t kHeader = 64;
+  return bytes.size() + kHeader <
+         std::size_t{xcb_get_maximum_request_length(connection_.Get())} * 4;
+}
+
+void Clipboard::WriteText(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
+                          const std::string& bytes) {
+  xcb_change_property(connection_.Get(), XCB_PROP_MODE_REPLACE, window, property, type, 8,
+                      static_cast<std::uint32_t>(bytes.size()), bytes.data());
+}
+
+}  // namespace display::x11

@@ -1,0 +1,47 @@
+#pragma once
+
+// The texts that programs exchange through the server's selection CLIPBOARD.
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace display::x11 {
+
+class Connection;
+
+class Clipboard {
+ public:
+  explicit Clipboard(Connection& connection) : connection_(connection) {}
+
+  void Own(const std::wstring& text, xcb_timestamp_t time);
+  // The text of whoever owns the clipboard; empty when there is none, or no answer in time.
+  // `pump` sleeps until an event or the deadline given to it, and handles what has come.
+  std::wstring Ask(xcb_timestamp_t time, const std::function<void(std::uint64_t)>& pump);
+
+  void Requested(const xcb_selection_request_event_t& request);
+  void Lost(const xcb_selection_clear_event_t& event);
+  void Answered(const xcb_selection_notify_event_t& answer);
+  void PropertyChanged(const xcb_property_notify_event_t& event);
+
+ private:
+  enum class Transfer { None, Waiting, InPieces, Done, Refused };
+
+  bool IsOpen() const { return transfer_ == Transfer::Waiting || transfer_ == Transfer::InPieces; }
+  bool AskAs(xcb_atom_t type, xcb_timestamp_t time, const std::function<void(std::uint64_t)>& pump);
+  bool Write(const xcb_selection_request_event_t& request, xcb_atom_t property);
+  void WriteText(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
+                 const std::string& bytes);
+  bool Fits(const std::string& bytes);
+
+  Connection& connection_;
+  bool owned_ = false;
+  xcb_timestamp_t since_ = XCB_CURRENT_TIME;
+  std::wstring text_;
+  Transfer transfer_ = Transfer::None;
+  std::string received_;
+};
+
+}  // namespace display::x11

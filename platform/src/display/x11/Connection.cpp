@@ -1,0 +1,167 @@
+#include "Connection.h"
+
+#include <xcb/shm.h>
+
+#include <bit>
+#include <cstring>
+#include <stdexcept>
+
+#include "XkbProtocol.h"
+
+namespace display::x11 {
+namespace {
+
+constexpr std::uint8_t kDepth = 24;
+
+std::string DisplayName() {
+  const char* name = std::getenv("DISPLAY");
+  return name ? name : "";
+}
+
+const xcb_screen_t* ScreenAt(const xcb_setup_t* setup, int number) {
+  auto screens = xcb_setup_roots_iterator(setup);
+  for (; number > 0 && screens.rem > 1; --number) {
+    xcb_screen_next(&screens);
+  }
+  return screens.data;
+}
+
+bool IsUsable(const xcb_visualtype_t& visual) {
+  return visual._class == XCB_VISUAL_CLASS_TRUE_COLOR && visual.red_mask == 0xFF0000 &&
+         visual.green_mask == 0xFF00 && visual.blue_mask == 0xFF;
+}
+
+// The root's own visual where it will do, else the first that will; 0 if none.
+xcb_visualid_t FindVisual(const xcb_screen_t& screen) {
+  xcb_visualid_t found = 0;
+  for (auto depths = xcb_screen_allowed_depths_iterator(&screen); depths.rem;
+       xcb_depth_next(&depths)) {
+    if (depths.data->depth != kDepth) continue;
+    for (auto it = xcb_depth_visuals_iterator(depths.data); it.rem; xcb_visualtype_next(&it)) {
+      if (!IsUsable(*it.data)) continue;
+      if (!found || it.data->visual_id == screen.root_visual) found = it.data->visual_id;
+    }
+  }
+  return found;
+}
+
+// Our pixels are words of 32 bits in this machine's byte order.
+bool HasOurPixelFormat(const xcb_setup_t* setup) {
+  constexpr auto kOrder = std::endian::native == std::endian::little ? XCB_IMAGE_ORDER_LSB_FIRST
+                                                                     : XCB_IMAGE_ORDER_MSB_FIRST;
+  for (auto it = xcb_setup_pixmap_formats_iterator(setup); it.rem; xcb_format_next(&it)) {
+    if (it.data->depth == kDepth) {
+      return it.data->bits_per_pixel == 32 && setup->image_byte_order == kOrder;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+Connection::Connection() : name_(DisplayName()) {
+  try {
+    Open();
+  } catch (...) {
+    xcb_disconnect(connection_);
+    throw;
+  }
+}
+
+Connection::~Connection() {
+  xcb_disconnect(connection_);
+}
+
+void Connection::Open() {
+  int number = 0;
+  connection_ = xcb_connect(nullptr, &number);
+  if (xcb_connection_has_error(connection_)) {
+    throw std::runtime_error("no X server answers at display \"" + name_ + "\"");
+  }
+  xcb_prefetch_extension_data(connection_, &xcb_shm_id);
+  xcb_prefetch_extension_data(connection_, &xcb_xkb_id);
+  atoms_.Request(connection_);
+  screen_ = ScreenAt(xcb_get_setup(connection_), number);
+  ChooseVisual();
+  CreateHelper();
+  atoms_.Collect(connection_);
+}
+
+void Connection::ChooseVisual() {
+  visual_ = FindVisual(*screen_);
+  if (!visual_ || !HasOurPixelFormat(xcb_get_setup(connection_))) {
+    throw std::runtime_error("the X display \"" + name_ + "\" has no 24-bit true colour");
+  }
+  colormap_ = screen_->default_colormap;
+  if (visual_ != screen_->root_visual) {
+    colormap_ = xcb_generate_id(connection_);
+    xcb_create_colormap(connection_, XCB_COLORMAP_ALLOC_NONE, colormap_, Root(), visual_);
+  }
+}
+
+void Connection::CreateHelper() {
+  const std::uint32_t values[] = {0, XCB_EVENT_MASK_PROPERTY_CHANGE, colormap_};
+  helper_ = xcb_generate_id(connection_);
+  xcb_create_window(connection_, kDepth, helper_, Root(), -1, -1, 1, 1, 0,
+                    XCB_WINDOW_CLASS_INPUT_OUTPUT, visual_,
+                    XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP, values);
+  const std::uint32_t exposures = 0;
+  context_ = xcb_generate_id(connection_);
+  xcb_create_gc(connection_, context_, helper_, XCB_GC_GRAPHICS_EXPOSURES, &exposures);
+  const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+  xcb_change_window_attributes(connection_, Root(), XCB_CW_EVENT_MASK, &events);
+}
+
+Owned<xcb_generic_event_t> Connection::NextEvent() {
+  auto event = Own(xcb_poll_for_event(connection_));
+  if (event) passed_ = event->full_sequence;
+  return event;
+}
+
+void Connection::ThrowIfLost() const {
+  if (xcb_connection_has_error(connection_)) {
+    throw std::runtime_error("the connection to the X display \"" + name_ + "\" is lost");
+  }
+}
+
+void Connection::Synchronize() {
+  Own(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+}
+
+bool Connection::HasPassed(unsigned sequence) const {
+  return static_cast<std::int32_t>(passed_ - sequence) >= 0;
+}
+
+std::string Connection::ReadProperty(xcb_window_t window, xcb_atom_t property, bool remove,
+                                     xcb_atom_t* type) {
+  constexpr std::uint32_t kWholeLength = 0x1FFFFFFF;
+  const auto cookie = xcb_get_property(connection_, remove, window, property,
+                                       XCB_GET_PROPERTY_TYPE_ANY, 0, kWholeLength);
+  const auto reply = Own(xcb_get_property_reply(connection_, cookie, nullptr));
+  if (type) *type = reply ? reply->type : xcb_atom_t{XCB_ATOM_NONE};
+  if (!reply) return {};
+  return {static_cast<const char*>(xcb_get_property_value(reply.get())),
+          static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+}
+
+std::uint32_t Connection::ReadNumber(xcb_window_t window, xcb_atom_t property) {
+  const std::string bytes = ReadProperty(window, property);
+  std::uint32_t number = 0;
+  if (bytes.size() >= sizeof number) std::memcpy(&number, bytes.data(), sizeof number);
+  return number;
+}
+
+void Connection::AskWindowManager(xcb_window_t window, Atom message,
+                                  const std::uint32_t (&data)[5]) {
+  xcb_client_message_event_t event{};
+  event.response_type = XCB_CLIENT_MESSAGE;
+  event.format = 32;
+  event.window = window;
+  event.type = atoms_[message];
+  std::memcpy(event.data.data32, data, sizeof data);
+  xcb_send_event(connection_, 0, Root(),
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                 reinterpret_cast<const char*>(&event));
+}
+
+}  // namespace display::x11

@@ -1,0 +1,42 @@
+#include "Records.h"
+
+namespace display::x11 {
+namespace {
+
+bool IsPlace(const Input& input) {
+  return input.kind == Input::Kind::Moved || input.kind == Input::Kind::Resized;
+}
+
+bool Replaces(const Input& later, const Input& earlier) {
+  return later.kind == earlier.kind && later.surface == earlier.surface &&
+         (IsPlace(later) || later.kind == Input::Kind::PointerMoved);
+}
+
+}  // namespace
+
+void Records::Push(Record record) {
+  if (!records_.empty() && Replaces(record.input, records_.back().input)) {
+    records_.back().input = std::move(record.input);
+  } else {
+    records_.push_back(std::move(record));
+  }
+}
+
+std::optional<Record> Records::Pop() {
+  if (records_.empty()) return std::nullopt;
+  Record record = std::move(records_.front());
+  records_.pop_front();
+  return record;
+}
+
+void Records::DropPlaces(SurfaceId id) {
+  std::erase_if(records_, [id](const Record& record) {
+    return record.input.surface == id && IsPlace(record.input);
+  });
+}
+
+void Records::DropAll(SurfaceId id) {
+  std::erase_if(records_, [id](const Record& record) { return record.input.surface == id; });
+}
+
+}  // namespace display::x11

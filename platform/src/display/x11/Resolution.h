@@ -1,0 +1,25 @@
+#pragma once
+
+// The resolution: WEXA_DPI, else "Xft.dpi" of the server's resource database, else 96.
+
+#include <optional>
+
+namespace display::x11 {
+
+class Connection;
+
+class Resolution {
+ public:
+  explicit Resolution(Connection& connection) : connection_(connection) {}
+
+  // Throws std::runtime_error when WEXA_DPI is not a positive number.
+  int Dpi() const;
+  // Asks again; true when it is another one now.
+  bool Refresh();
+
+ private:
+  Connection& connection_;
+  mutable std::optional<int> dpi_;
+};
+
+}  // namespace display::x11

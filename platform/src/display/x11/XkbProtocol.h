@@ -1,0 +1,8 @@
+#pragma once
+
+// The keyboard extension's requests. Their C header names a member with a word of C++.
+
+#pragma push_macro("explicit")
+#define explicit explicit_
+#include <xcb/xkb.h>
+#pragma pop_macro("explicit")
