@@ -121,11 +121,14 @@ class CWnd {
  private:
   friend struct ClassLayer;
   bool owned_ = false;
+  int scrollPositions_[2] = {};  // SB_HORZ, SB_VERT
 };
 
 class CStatic : public CWnd {
  public:
   BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+  // In which the text fits; wrapped to `width` when that is not negative.
+  SIZE GetIdealSize(int width = -1) const;
 };
 
 class CButton : public CWnd {
@@ -136,6 +139,8 @@ class CButton : public CWnd {
   UINT GetState() const;
   DWORD GetButtonStyle() const;
   void SetButtonStyle(DWORD style, bool redraw = true);
+  // In which the text fits, with the button's frame or its check mark.
+  SIZE GetIdealSize() const;
 };
 
 class CEdit : public CWnd {
@@ -147,7 +152,8 @@ class CEdit : public CWnd {
   void SetReadOnly(bool readOnly);
   void SetLimitText(UINT characters);
   void SetPasswordChar(wchar_t c);
-  void SetCueBanner(const std::wstring& text);
+  void SetCueBanner(const std::wstring& text);  // shown while the edit is empty
+  int GetIdealHeight() const;                   // of a line of its font with the frame
 };
 
 class CDialogEx : public CWnd {
@@ -161,8 +167,9 @@ class CDialogEx : public CWnd {
   // here after the dialog is destroyed and owner, focus and capture are restored.
   virtual std::intptr_t DoModal();
   BOOL CreateIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* owner);
+  // Hides the dialog; a modal one is destroyed when its loop is left, a modeless one by its host.
   void EndDialog(int result);
-  bool IsModal() const { return modal_; }
+  bool IsModal() const { return run_ != nullptr; }  // inside DoModal
   void SetDefID(UINT id);
   UINT GetDefID() const;
   void NextDlgCtrl();
@@ -172,6 +179,8 @@ class CDialogEx : public CWnd {
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  // Calls OnOK and OnCancel.
+  BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
   // FALSE: the dialog set the focus itself.
   virtual BOOL OnInitDialog();
   virtual void OnOK();      // Return without a default button; ends the dialog with IDOK
@@ -180,10 +189,8 @@ class CDialogEx : public CWnd {
  private:
   friend struct ClassLayer;
   const DLGTEMPLATE* template_ = nullptr;
-  CWnd* owner_ = nullptr;
-  bool modal_ = false;
-  bool running_ = false;
-  int result_ = -1;
+  HWND owner_ = nullptr;
+  struct ModalRun* run_ = nullptr;  // while DoModal runs
 };
 
 // Takes one message from the queue, lets the windows pre-translate it, and dispatches it. FALSE when

@@ -2,7 +2,7 @@
 
 // Styles, messages and notifications of the standard controls, with their documented values.
 
-#include "platform/Types.h"
+#include "Types.h"
 
 inline constexpr wchar_t WC_BUTTON[] = L"BUTTON";
 inline constexpr wchar_t WC_STATIC[] = L"STATIC";
@@ -47,6 +47,8 @@ inline constexpr DWORD SS_LEFTNOWORDWRAP = 0xC;
 inline constexpr DWORD SS_NOPREFIX = 0x80;
 inline constexpr DWORD SS_NOTIFY = 0x100;
 inline constexpr DWORD SS_CENTERIMAGE = 0x200;  // text centred vertically
+inline constexpr int STN_CLICKED = 0;
+inline constexpr int STN_DBLCLK = 1;
 
 inline constexpr DWORD ES_LEFT = 0x0;
 inline constexpr DWORD ES_CENTER = 0x1;
@@ -66,6 +68,11 @@ inline constexpr UINT EM_GETPASSWORDCHAR = 0x00D2;
 inline constexpr UINT EM_SETREADONLY = 0x00CF;
 inline constexpr UINT EM_CHARFROMPOS = 0x00D7;
 inline constexpr UINT EM_POSFROMCHAR = 0x00D6;
+inline constexpr UINT EM_SCROLLCARET = 0x00B7;
+inline constexpr UINT EM_SETMARGINS = 0x00D3;
+inline constexpr UINT EM_GETMARGINS = 0x00D4;
+inline constexpr WPARAM EC_LEFTMARGIN = 0x1;
+inline constexpr WPARAM EC_RIGHTMARGIN = 0x2;
 inline constexpr UINT EM_SETCUEBANNER = 0x1501;
 inline constexpr UINT EM_GETCUEBANNER = 0x1502;
 inline constexpr int EN_SETFOCUS = 0x0100;
@@ -73,3 +80,8 @@ inline constexpr int EN_KILLFOCUS = 0x0200;
 inline constexpr int EN_CHANGE = 0x0300;
 inline constexpr int EN_UPDATE = 0x0400;
 inline constexpr int EN_MAXTEXT = 0x0501;
+
+inline constexpr DWORD PBS_VERTICAL = 0x04;
+inline constexpr DWORD TBS_VERT = 0x2;
+inline constexpr DWORD SBS_VERT = 0x1;
+inline constexpr DWORD LVS_SORTASCENDING = 0x10;

@@ -1,0 +1,44 @@
+#include "classes/MessagePump.h"
+
+#include "platform/Classes.h"
+
+namespace {
+
+HWND Above(HWND window) {
+  const bool isChild = (GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD) != 0;
+  return isChild ? GetParent(window) : nullptr;
+}
+
+// Asks the objects from the message's window up to its top-level window.
+bool PreTranslate(MSG& message) {
+  for (HWND window = message.hwnd; window; window = Above(window)) {
+    CWnd* object = CWnd::FromHandlePermanent(window);
+    if (object && object->PreTranslateMessage(&message)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+Pumped PumpOneMessage() {
+  MSG message{};
+  if (!GetMessageW(&message)) {
+    return message.message == WM_QUIT ? Pumped::Quit : Pumped::NothingLeft;
+  }
+  if (!PreTranslate(message)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  return Pumped::Message;
+}
+
+BOOL AfxPumpMessage() {
+  return PumpOneMessage() == Pumped::Message;
+}
+
+void AfxPumpPending() {
+  MSG message{};
+  while (PeekMessageW(&message, PM_NOREMOVE) && message.message != WM_QUIT) {
+    if (!AfxPumpMessage()) return;
+  }
+}

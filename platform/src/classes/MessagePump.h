@@ -1,0 +1,9 @@
+#pragma once
+
+#include "platform/Window.h"
+
+enum class Pumped { Message, Quit, NothingLeft };
+
+// Takes one message from the queue and handles it. Quit: WM_QUIT came; NothingLeft: no message can
+// ever come.
+Pumped PumpOneMessage();
