@@ -32,9 +32,9 @@ class WEXA_API RGBColor : public SkinManagerColor {
 
  private:
   static constexpr unsigned long Compose(int r, int g, int b, int transparency) {
-    return Part(r, 0) | Part(g, 8) | Part(b, 16) | Part(transparency, 24);
+    return Shifted(r, 0) | Shifted(g, 8) | Shifted(b, 16) | Shifted(transparency, 24);
   }
-  static constexpr unsigned long Part(int component, int shift) {
+  static constexpr unsigned long Shifted(int component, int shift) {
     return static_cast<unsigned long>(component & 0xFF) << shift;
   }
   int Byte(int shift) const {

@@ -33,10 +33,9 @@ class WEXA_API Translator {
 
   // The text of a language file, decrypted where encrypted files are expected; empty on failure.
   std::wstring ReadTranslationFile(const std::wstring& path) const;
-  // The text of an encrypted form file with its strings in the current language; empty on failure.
+  // The text of an encrypted form file with its strings in the current language and without its
+  // line ends; empty on failure.
   std::wstring TranslateUIFile(const std::wstring& path);
-  // Puts the translations for a form file's name ("print.ui") into the text of the form.
-  std::wstring TranslateForm(const std::wstring& text, const std::wstring& formName) const;
 
  private:
   using Texts = std::unordered_map<std::wstring, std::wstring>;

@@ -8,10 +8,13 @@
 
 namespace Wexa {
 
+std::string NativePath(std::string path) {
+  std::ranges::replace(path, '\\', '/');
+  return path;
+}
+
 std::string NativePath(const std::wstring& path) {
-  std::string native = NarrowUtf8(path);
-  std::replace(native.begin(), native.end(), '\\', '/');
-  return native;
+  return NativePath(NarrowUtf8(path));
 }
 
 std::optional<std::string> ReadFile(const std::wstring& path) {

@@ -10,5 +10,6 @@ std::optional<std::string> ReadFile(const std::wstring& path);
 
 // The path as the file system wants it.
 std::string NativePath(const std::wstring& path);
+std::string NativePath(std::string path);
 
 }  // namespace Wexa

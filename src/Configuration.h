@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "LogFont.h"
+#include "SkinManager.h"
+
+namespace Wexa {
+
+// The one configuration object. Making it starts the library up.
+class WexaConfig {
+ public:
+  // Made on first use; throws WexaException when the host's executable cannot be found.
+  static WexaConfig& Instance();
+
+  std::wstring workingDirPath;
+  std::wstring currentLanguage;
+  std::shared_ptr<logFont> fontInfo = std::make_shared<logFont>();
+  char decimalChar = '.';
+  bool layoutRTL = false;
+  SkinManager globalSkin{SkinMode::Default};
+  SkinManager keyMapSkin{SkinMode::Default};
+  bool expectsEncryptedLanguageFiles = true;
+  std::wstring localeName;
+  int comboboxRadius = 0;
+  int checkboxRadius = 0;
+  int editRadius = 0;
+  int contextMenuRadius = 10;
+
+ private:
+  WexaConfig();
+  // Fills the factory with the library's widgets; defined beside them.
+  void RegisterWexaControls();
+};
+
+}  // namespace Wexa

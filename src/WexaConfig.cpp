@@ -1,0 +1,118 @@
+#include "WexaConfig.h"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "Configuration.h"
+#include "FileText.h"
+#include "Utf8.h"
+#include "WexaException.h"
+#include "WexaLogger.h"
+
+namespace Wexa {
+
+namespace {
+
+std::wstring ExecutableDirectory() {
+  std::error_code error;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+  const auto path = WidenUtf8(program.string());
+  if (error || !path)
+    throw WexaException("src/WexaConfig.cpp", __LINE__, "Cannot get modul's path.");
+  return path->substr(0, path->rfind(L'/') + 1);
+}
+
+std::wstring ResourceDirectory(const std::wstring& name, const wchar_t* kind) {
+  return GetWorkingDirPath() + L"wexaresources\\" + name + kind + L"\\";
+}
+
+}  // namespace
+
+WexaConfig::WexaConfig() {
+  RegisterWexaControls();
+  workingDirPath = ExecutableDirectory();
+}
+
+WexaConfig& WexaConfig::Instance() {
+  static WexaConfig config;
+  return config;
+}
+
+std::wstring GetWorkingDirPath() {
+  return WexaConfig::Instance().workingDirPath;
+}
+void SetWorkingDirPath(const std::wstring& path) {
+  WexaConfig::Instance().workingDirPath = path;
+}
+std::wstring GetUiDirPath(const std::wstring& name) {
+  return ResourceDirectory(name, L"ui");
+}
+std::wstring GetImageDirPath(const std::wstring& name) {
+  return ResourceDirectory(name, L"img");
+}
+
+std::shared_ptr<logFont> GetFontInfo() {
+  return WexaConfig::Instance().fontInfo;
+}
+char GetDecimalChar() {
+  return WexaConfig::Instance().decimalChar;
+}
+void SetForcedDecimalChar(char decimalChar) {
+  WexaConfig::Instance().decimalChar = decimalChar;
+}
+bool GetLayoutRTL() {
+  return WexaConfig::Instance().layoutRTL;
+}
+void SetLayoutRTL(bool rtl) {
+  WexaConfig::Instance().layoutRTL = rtl;
+}
+
+int GetCheckboxRadius() {
+  return WexaConfig::Instance().checkboxRadius;
+}
+void SetCheckboxRadius(int radius) {
+  WexaConfig::Instance().checkboxRadius = radius;
+}
+int GetComboboxRadius() {
+  return WexaConfig::Instance().comboboxRadius;
+}
+void SetComboboxRadius(int radius) {
+  WexaConfig::Instance().comboboxRadius = radius;
+}
+int GetEditRadius() {
+  return WexaConfig::Instance().editRadius;
+}
+void SetEditRadius(int radius) {
+  WexaConfig::Instance().editRadius = radius;
+}
+int GetContextMenuRadius() {
+  return WexaConfig::Instance().contextMenuRadius;
+}
+void SetContextMenuRadius(int radius) {
+  WexaConfig::Instance().contextMenuRadius = radius;
+}
+
+SkinMode GetGlobalSkinMode() {
+  return WexaConfig::Instance().globalSkin.GetSkinMode();
+}
+
+bool SetGlobalSkinMode(SkinMode mode) {
+  return WexaConfig::Instance().globalSkin.LoadSkin(mode, true, false);
+}
+
+bool SetGlobalCustomSkin(const SkinManager& skin) {
+  return WexaConfig::Instance().globalSkin.SetCustomSkin(skin);
+}
+
+void InitSkinColorByMap(SkinMap map, const std::map<std::wstring, SkinManagerColor>& colors) {
+  WexaConfig::Instance().keyMapSkin.InitSkinColorByMap(map, colors);
+}
+
+void WriteLogToFile(const std::string& path) {
+  std::wostringstream log;
+  WexaLogger::GetInstance().WriteLog(log);
+  std::ofstream(NativePath(path), std::ios::binary) << NarrowUtf8(log.str());
+}
+
+}  // namespace Wexa

@@ -1,0 +1,159 @@
+#include "SkinManager.h"
+
+#include "MFC/BaseImpl.h"
+#include "SlotTable.h"
+#include "WexaUtils.h"
+#include "platform/SystemColors.h"
+
+namespace Wexa {
+
+namespace {
+
+constexpr std::uint32_t kNoColor = 0xFFFFFFFF;
+
+const PaletteEntry& EntryOf(const SlotRow& row, SkinMode palette) {
+  switch (palette) {
+    case SkinMode::Dark: return row.dark;
+    case SkinMode::HCMDark: return row.highContrast;
+    default: return row.light;
+  }
+}
+
+}  // namespace
+
+SkinManager::SkinManager(BaseImpl* owner, SkinMode mode) : owner_(owner) {
+  for (auto& slot : slots_) {
+    slot.value_ = kNoColor;
+    slot.changed_ = true;
+    slot.owner_ = this;
+  }
+  LoadSkin(mode, false, false);
+}
+
+SkinManager::SkinManager(SkinMode mode) : SkinManager(nullptr, mode) {}
+
+SkinManager::SkinManager(const SkinManager& other) : slots_(other.slots_) {
+  for (auto& slot : slots_) slot.owner_ = this;
+  CopyState(other);
+}
+
+SkinManager& SkinManager::operator=(const SkinManager& other) {
+  if (this == &other) return *this;
+  const SkinManager* oldParent = parent_;
+  slots_ = other.slots_;
+  CopyState(other);
+  if (parent_ == this) parent_ = nullptr;
+  if (parent_ != oldParent) SetParentFallbacks();
+  return *this;
+}
+
+void SkinManager::CopyState(const SkinManager& other) {
+  parent_ = other.parent_;
+  mode_ = other.mode_;
+  keyMapApplied_ = other.keyMapApplied_;
+  lockColors_ = other.lockColors_;
+  initDone_ = other.initDone_;
+  colorChangeFlag_ = colorChangeFlag_ || other.colorChangeFlag_;
+}
+
+// The old parent may be gone.
+void SkinManager::SetParentFallbacks() {
+  for (std::size_t n = 0; n < slots_.size(); ++n) slots_[n].fallback_ = FallbackOf(n);
+}
+
+const SkinManagerColor* SkinManager::FallbackOf(std::size_t slot) const {
+  return parent_ && parent_ != this ? &parent_->slots_[slot] : nullptr;
+}
+
+// -- Palettes
+// ----------------------------------------------------------------------------------------
+
+bool SkinManager::LoadSkin(SkinMode mode, bool lockColors, bool detach) {
+  lockColors_ = lockColors;
+  if (mode < SkinMode::Default || mode > SkinMode::HCMDark) return false;
+  if (WexaUtils::IsSystemHighContrastMode()) {
+    LoadHCMDarkSkin(detach);
+  } else if (mode == SkinMode::XML) {
+    if (parent_ == nullptr) return false;
+    LoadXMLSkin(detach);
+  } else if (mode == SkinMode::Dark) {
+    LoadDarkSkin(detach);
+  } else {
+    LoadDefaultSkin(detach);
+  }
+  return true;
+}
+
+bool SkinManager::SetSkinMode(SkinMode mode) {
+  return LoadSkin(mode, false, true);
+}
+
+bool SkinManager::SetCustomSkin(const SkinManager& other) {
+  *this = other;
+  mode_ = SkinMode::Custom;
+  return true;
+}
+
+bool SkinManager::InitSkinManager(const SkinManager* parent, SkinMode mode) {
+  if (parent == this) {
+    parent_ = nullptr;
+    if (initDone_) return true;
+  } else {
+    parent_ = parent;
+  }
+  const bool loaded = LoadSkin(mode, false, false);
+  initDone_ = true;
+  return loaded;
+}
+
+void SkinManager::LoadDefaultSkin(bool detach) {
+  LoadPalette(SkinMode::Default, detach);
+}
+void SkinManager::LoadDarkSkin(bool detach) {
+  LoadPalette(SkinMode::Dark, detach);
+}
+void SkinManager::LoadHCMDarkSkin(bool detach) {
+  LoadPalette(SkinMode::HCMDark, detach);
+}
+
+void SkinManager::LoadPalette(SkinMode mode, bool detach) {
+  mode_ = mode;
+  if (detach) parent_ = nullptr;
+  for (std::size_t n = 0; n < slots_.size(); ++n) {
+    const PaletteEntry& entry = EntryOf(kSlotTable[n], mode);
+    unsigned long color = entry.value;
+    switch (entry.kind) {
+      case PaletteEntry::Kind::Unchanged: continue;
+      case PaletteEntry::Kind::Color: break;
+      case PaletteEntry::Kind::System: color = GetSysColor(static_cast<int>(entry.value)); break;
+      case PaletteEntry::Kind::SameAs: color = slots_[entry.value]; break;
+    }
+    slots_[n].SetDefaultColor(color, FallbackOf(n), lockColors_, this);
+  }
+}
+
+void SkinManager::LoadXMLSkin(bool detach) {
+  const SkinManager* source = parent_;
+  if (source == nullptr) return;
+  mode_ = SkinMode::XML;
+  if (detach) parent_ = nullptr;
+  for (std::size_t n = 0; n < slots_.size(); ++n) {
+    slots_[n].SetDefaultColor(source->slots_[n], FallbackOf(n), lockColors_, this);
+  }
+}
+
+// -- Changes
+// -----------------------------------------------------------------------------------------
+
+void SkinManager::SetColorChangeFlag(bool changed) {
+  if (owner_ && changed) owner_->OnSkinColorsChanged();
+  colorChangeFlag_ = changed;
+}
+
+void SkinManager::UpdateCustomColors() {
+  if (!colorChangeFlag_) return;
+  if (owner_) owner_->RefreshSkinColors();
+  colorChangeFlag_ = false;
+}
+
+}  // namespace Wexa

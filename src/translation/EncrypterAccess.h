@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+
+#include "Encrypter.h"
+
+// The writing side of encrypted files: for the packing tool and for tests.
+struct EncrypterAccess {
+  using Digest = std::array<unsigned char, 16>;
+
+  static Digest DigestOf(std::vector<unsigned char> data) {
+    Digest digest{};
+    Encrypter::MD5Generate(data.data(), static_cast<unsigned int>(data.size()), digest.data());
+    return digest;
+  }
+  // What ReadAndDecryptFile turns back into `text`.
+  static std::vector<unsigned char> Pack(std::string_view text) {
+    std::vector<unsigned char> bytes(text.begin(), text.end());
+    Encrypter::RC4CryptBlock(bytes);
+    const Digest digest = DigestOf(bytes);
+    bytes.insert(bytes.end(), digest.begin(), digest.end());
+    return bytes;
+  }
+};

@@ -1,0 +1,111 @@
+#include <algorithm>
+#include <array>
+#include <bit>
+
+#include "Encrypter.h"
+
+// MD5, RFC 1321.
+
+namespace {
+
+using Word = std::uint32_t;
+
+constexpr unsigned kBlockLength = 64;
+constexpr unsigned kLengthOffset = 56;  // of the message's length in the last block
+
+// floor(2^32 * abs(sin(i + 1)))
+constexpr std::array<Word, 64> kSines = {
+    0xd76aa478, 0xe8c7b756, 0x242070db, 0xc1bdceee, 0xf57c0faf, 0x4787c62a, 0xa8304613, 0xfd469501,
+    0x698098d8, 0x8b44f7af, 0xffff5bb1, 0x895cd7be, 0x6b901122, 0xfd987193, 0xa679438e, 0x49b40821,
+    0xf61e2562, 0xc040b340, 0x265e5a51, 0xe9b6c7aa, 0xd62f105d, 0x02441453, 0xd8a1e681, 0xe7d3fbc8,
+    0x21e1cde6, 0xc33707d6, 0xf4d50d87, 0x455a14ed, 0xa9e3e905, 0xfcefa3f8, 0x676f02d9, 0x8d2a4c8a,
+    0xfffa3942, 0x8771f681, 0x6d9d6122, 0xfde5380c, 0xa4beea44, 0x4bdecfa9, 0xf6bb4b60, 0xbebfbc70,
+    0x289b7ec6, 0xeaa127fa, 0xd4ef3085, 0x04881d05, 0xd9d4d039, 0xe6db99e5, 0x1fa27cf8, 0xc4ac5665,
+    0xf4292244, 0x432aff97, 0xab9423a7, 0xfc93a039, 0x655b59c3, 0x8f0ccc92, 0xffeff47d, 0x85845dd1,
+    0x6fa87e4f, 0xfe2ce6e0, 0xa3014314, 0x4e0811a1, 0xf7537e82, 0xbd3af235, 0x2ad7d2bb, 0xeb86d391};
+
+// One of the four rounds: how far its steps rotate, and which input word step i takes.
+struct Round {
+  int shifts[4];
+  unsigned factor;
+  unsigned offset;
+};
+
+constexpr Round kRounds[4] = {{{7, 12, 17, 22}, 1, 0},
+                              {{5, 9, 14, 20}, 5, 1},
+                              {{4, 11, 16, 23}, 3, 5},
+                              {{6, 10, 15, 21}, 7, 0}};
+
+constexpr Word Mix(unsigned round, Word b, Word c, Word d) {
+  switch (round) {
+    case 0: return (b & c) | (~b & d);
+    case 1: return (d & b) | (~d & c);
+    case 2: return b ^ c ^ d;
+    default: return c ^ (b | ~d);
+  }
+}
+
+Word ReadWord(const unsigned char* bytes) {
+  return Word{bytes[0]} | Word{bytes[1]} << 8 | Word{bytes[2]} << 16 | Word{bytes[3]} << 24;
+}
+
+void WriteWord(Word word, unsigned char* bytes) {
+  for (int i = 0; i < 4; ++i) bytes[i] = static_cast<unsigned char>(word >> (8 * i));
+}
+
+}  // namespace
+
+const unsigned char Encrypter::md5_padding_[64] = {0x80};
+
+void Encrypter::MD5Start(MD5Context* context) {
+  *context = {{0, 0}, {0x67452301, 0xefcdab89, 0x98badcfe, 0x10325476}, {}};
+}
+
+void Encrypter::MD5Update(MD5Context* context, const unsigned char* input, unsigned int length) {
+  unsigned filled = context->total[0] % kBlockLength;
+  context->total[0] += length;
+  if (context->total[0] < length) ++context->total[1];
+  while (length > 0) {
+    const unsigned part = std::min(length, kBlockLength - filled);
+    std::copy_n(input, part, context->buffer + filled);
+    filled = (filled + part) % kBlockLength;
+    input += part;
+    length -= part;
+    if (filled == 0) MD5Process(context, context->buffer);
+  }
+}
+
+void Encrypter::MD5Process(MD5Context* context, const unsigned char block[64]) {
+  Word words[16];
+  for (int i = 0; i < 16; ++i) words[i] = ReadWord(block + 4 * i);
+  auto [a, b, c, d] = context->state;
+  for (unsigned step = 0; step < 64; ++step) {
+    const Round& round = kRounds[step / 16];
+    const Word word = words[(round.factor * step + round.offset) % 16];
+    const Word sum = a + Mix(step / 16, b, c, d) + kSines[step] + word;
+    a = d;
+    d = c;
+    c = b;
+    b += std::rotl(sum, round.shifts[step % 4]);
+  }
+  const Word result[4] = {a, b, c, d};
+  for (int i = 0; i < 4; ++i) context->state[i] += result[i];
+}
+
+void Encrypter::MD5Finish(MD5Context* context, unsigned char digest[16]) {
+  unsigned char bits[8];
+  WriteWord(context->total[0] << 3, bits);
+  WriteWord(context->total[1] << 3 | context->total[0] >> 29, bits + 4);
+  const unsigned filled = context->total[0] % kBlockLength;
+  const unsigned padding = (filled < kLengthOffset ? kLengthOffset : kLengthOffset + 64) - filled;
+  MD5Update(context, md5_padding_, padding);
+  MD5Update(context, bits, sizeof bits);
+  for (int i = 0; i < 4; ++i) WriteWord(context->state[i], digest + 4 * i);
+}
+
+void Encrypter::MD5Generate(unsigned char* input, unsigned int length, unsigned char digest[16]) {
+  MD5Context context;
+  MD5Start(&context);
+  MD5Update(&context, input, length);
+  MD5Finish(&context, digest);
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <unordered_map>
+
+#include "LogFont.h"
+
+namespace Wexa {
+
+// The languages whose strings files are read.
+struct Languages {
+  std::wstring current;
+  std::wstring fallback;
+};
+
+// Adds the texts of a strings file, by their ids, and sets the default font where the file names
+// one. Ids that are there already keep their text. A file for another language gives nothing.
+// Throws rapidxml::parse_error for a text that is not well-formed.
+void LoadStringsText(std::wstring text, const Languages& languages,
+                     std::unordered_map<std::wstring, std::wstring>& texts, logFont& font);
+
+}  // namespace Wexa
