@@ -1,0 +1,63 @@
+#include "form/FormParser.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "XmlDocument.h"
+#include "form/FormTree.h"
+
+namespace Wexa {
+namespace {
+
+std::vector<std::wstring> ReadTabOrder(const XmlNode& ui) {
+  std::vector<std::wstring> order;
+  const auto* stops = ui.first_node(L"tabstops");
+  if (stops == nullptr) return order;
+  for (const auto* stop = stops->first_node(L"tabstop"); stop != nullptr;
+       stop = stop->next_sibling(L"tabstop")) {
+    order.push_back(TextOf(*stop));
+  }
+  return order;
+}
+
+FormModel::BaseClasses ReadCustomClasses(const XmlNode& ui) {
+  FormModel::BaseClasses classes;
+  const auto* list = ui.first_node(L"customwidgets");
+  if (list == nullptr) return classes;
+  for (const auto* widget = list->first_node(L"customwidget"); widget != nullptr;
+       widget = widget->next_sibling(L"customwidget")) {
+    const auto* name = widget->first_node(L"class");
+    const auto* base = widget->first_node(L"extends");
+    if (name != nullptr && base != nullptr) classes.emplace(TextOf(*name), TextOf(*base));
+  }
+  return classes;
+}
+
+}  // namespace
+
+bool FormParser::Parse(std::wstring text, FormModel& model) {
+  errorText_.clear();
+  model = {};
+  try {
+    return ReadForm(std::move(text), model);
+  } catch (const std::runtime_error& error) {
+    return Fail(error.what());
+  }
+}
+
+bool FormParser::ReadForm(std::wstring text, FormModel& model) {
+  const XmlDocument document(std::move(text));
+  const auto* ui = document.First(L"ui");
+  if (ui == nullptr) return Fail("No UI node has been found.");
+  const auto* root = ui->first_node(L"widget");
+  if (root == nullptr) return Fail("No root widget has been found.");
+  model = {ReadFormTree(*root), ReadTabOrder(*ui), ReadCustomClasses(*ui)};
+  return true;
+}
+
+bool FormParser::Fail(const char* error) {
+  errorText_ = error;
+  return false;
+}
+
+}  // namespace Wexa

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "form/FormModel.h"
+
+namespace Wexa {
+
+// Turns the text of a form file into a model. Opens no file and translates nothing.
+class FormParser {
+ public:
+  // Reads the whole text; a leading byte-order mark is skipped. False, with an error text and an
+  // empty model, when the form or its root widget is missing. A rectangle or size that lacks a
+  // number drops its widget with all ancestors: the answer is true and the model has no root.
+  // Throws rapidxml::parse_error for malformed XML, and std::invalid_argument or std::out_of_range
+  // for a cell number that is no integer.
+  bool Parse(std::wstring text, FormModel& model);
+
+  // Why the last Parse answered false; empty when it did not.
+  const std::string& ErrorText() const { return errorText_; }
+
+ private:
+  bool Fail(const char* error);
+  bool ReadForm(std::wstring text, FormModel& model);
+
+  std::string errorText_;
+};
+
+}  // namespace Wexa
