@@ -1,11 +1,15 @@
 #include "classes/ClassLayer.h"
 #include "controls/StandardControls.h"
 
+// What handlers throw at the end of their windows cannot leave a destructor.
 CWnd::~CWnd() {
   const HWND window = m_hWnd;
   const bool owned = owned_;
   ClassLayer::Detach(*this);
-  if (owned) ::DestroyWindow(window);
+  try {
+    if (owned) ::DestroyWindow(window);
+  } catch (...) {
+  }
 }
 
 CWnd* CWnd::FromHandle(HWND window) {

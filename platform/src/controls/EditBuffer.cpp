@@ -51,23 +51,30 @@ void EditBuffer::Record(Step step) {
 
 // Lets a step that continues the last one become part of it.
 bool EditBuffer::Merge(const Step& step) {
-  if (!canMerge_ || history_.empty() || step.change == Change::Single) return false;
-  Step& last = history_.back();
-  if (last.change != step.change) return false;
-  if (step.change == Change::Typing && step.removed.empty() &&
-      step.position == last.position + last.inserted.size()) {
-    last.inserted += step.inserted;
-    return true;
+  if (!canMerge_ || history_.empty() || step.change != history_.back().change) return false;
+  switch (step.change) {
+    case Change::Typing: return MergeTyping(history_.back(), step);
+    case Change::Erasing: return MergeErasing(history_.back(), step);
+    case Change::Single: break;
   }
-  if (step.change != Change::Erasing) return false;
+  return false;
+}
+
+bool EditBuffer::MergeTyping(Step& last, const Step& step) {
+  if (!step.removed.empty() || step.position != last.position + last.inserted.size()) return false;
+  last.inserted += step.inserted;
+  return true;
+}
+
+bool EditBuffer::MergeErasing(Step& last, const Step& step) {
+  if (!last.inserted.empty() || !step.inserted.empty()) return false;
   if (step.position == last.position) {
     last.removed += step.removed;
-  } else if (step.position + step.removed.size() == last.position) {
-    last.removed.insert(0, step.removed);
-    last.position = step.position;
-  } else {
-    return false;
+    return true;
   }
+  if (step.position + step.removed.size() != last.position) return false;
+  last.removed.insert(0, step.removed);
+  last.position = step.position;
   return true;
 }
 

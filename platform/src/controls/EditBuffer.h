@@ -51,6 +51,8 @@ class EditBuffer {
   void Apply(std::size_t from, std::size_t to, std::wstring_view text, Change change);
   void Record(Step step);
   bool Merge(const Step& step);
+  static bool MergeTyping(Step& last, const Step& step);
+  static bool MergeErasing(Step& last, const Step& step);
 
   std::wstring text_;
   std::size_t anchor_ = 0;
