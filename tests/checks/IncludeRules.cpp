@@ -22,7 +22,7 @@ struct Place {
 // bottom.
 constexpr std::array kPlaces = {
     Place{"platform/include/platform/Window.h", Floor::Window},
-    Place{"platform/include/platform/DialogManager.h", Floor::Window},
+    Place{"platform/include/platform/DialogManager.h", Floor::Controls},
     Place{"platform/include/platform/Picture.h", Floor::Window},
     Place{"platform/include/platform/Classes.h", Floor::Classes},
     Place{"platform/include/", Floor::Graphics},
