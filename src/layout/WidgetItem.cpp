@@ -1,0 +1,181 @@
+#include "layout/WidgetItem.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "BaseGUIObject.h"
+#include "MFC/BaseImpl.h"
+#include "layout/Axis.h"
+#include "layout/Layout.h"
+#include "layout/SizeLimits.h"
+#include "layout/WidgetSizes.h"
+
+namespace Wexa {
+
+namespace {
+
+// A widget whose policy lets it grow expands where its own layout does.
+Orientation InnerExpanding(const SizePolicy& policy, Layout& layout) {
+  const auto inner = layout.ExpandingDirections();
+  auto growing = Orientation::None;
+  for (auto axis : {Orientation::Horizontal, Orientation::Vertical}) {
+    if ((PolicyAlong(axis, policy) & SizePolicy::GrowBit) != 0) growing |= inner & axis;
+  }
+  return growing;
+}
+
+bool IsSizedComboBox(BaseGUIObject& widget) {
+  return widget.Type() == BaseGUIObject::GuiType::ComboBox && widget.MinimumSize().Height() != 0;
+}
+
+// The widget's place inside a cell.
+Rect PlaceInCell(const Rect& cell, const Size& maximum) {
+  int x = cell.Left();
+  int width = std::min(cell.Width(), maximum.Width());
+  int height = std::min(cell.Height(), maximum.Height());
+  int y = Saturated(cell.Top() + (std::int64_t{cell.Height()} - height) / 2);
+  if (x < 0) {
+    width = SaturatedSum(width, x);
+    x = 0;
+  }
+  if (y < 0) {
+    height = SaturatedSum(height, y);
+    y = 0;
+  }
+  return {x, y, width, height};
+}
+
+}  // namespace
+
+bool WidgetItem::IsEmpty() {
+  BaseGUIObject* widget = link_.Widget();
+  return !widget || widget->Type() == BaseGUIObject::GuiType::Dialog || !widget->IsVisible();
+}
+
+Size WidgetItem::SizeHint() {
+  return IsEmpty() ? Size() : WidgetSizes::Of(*link_.Widget()).SmartHint();
+}
+
+Size WidgetItem::MinimumSize() {
+  return IsEmpty() ? Size() : WidgetSizes::Of(*link_.Widget()).SmartMinimum();
+}
+
+Size WidgetItem::MaximumSize() {
+  return IsEmpty() ? Size() : WidgetSizes::Of(*link_.Widget()).SmartMaximum(Alignment());
+}
+
+Orientation WidgetItem::ExpandingDirections() {
+  if (IsEmpty()) return Orientation::None;
+  const SizePolicy policy = link_.Widget()->GetSizePolicy();
+  Layout* layout = link_.Impl()->Links().layout;
+  const auto own = policy.ExpandingDirections();
+  return layout ? own | InnerExpanding(policy, *layout) : own;
+}
+
+// Moving may destroy the widget, its layout and this item.
+void WidgetItem::SetGeometry(const Rect& rect) {
+  if (IsEmpty()) return;
+  const WidgetLink link = link_;
+  const bool isSizedComboBox = IsSizedComboBox(*link.Widget());
+  const Rect place = PlaceInCell(rect, MaximumSize());
+  const int scrolled = isSizedComboBox ? 0 : link.Impl()->ParentScrollOffset();
+  const Rect before = link.Impl()->LayoutGeometry();
+
+  link.Widget()->MoveWindow(place.Left(), SaturatedSum(place.Top(), -scrolled), place.Width(),
+                            place.Height(), true);
+  if (link && isSizedComboBox) link.Impl()->RefreshDropDownSelection();
+  if (link && link.Impl()->LayoutGeometry() != before) link.Widget()->Update();
+}
+
+Rect WidgetItem::Geometry() {
+  return link_ ? link_.Impl()->LayoutGeometry() : Rect();
+}
+
+bool WidgetItem::HasHeightForWidth() {
+  return !IsEmpty() && link_.Impl()->HasHeightForWidth();
+}
+
+int WidgetItem::HeightForWidth(int width) {
+  if (IsEmpty()) return -1;
+  BaseGUIObject& widget = *link_.Widget();
+  Layout* layout = link_.Impl()->Links().layout;
+  int height = layout ? layout->TotalHeightForWidth(width) : link_.Impl()->HeightForWidth(width);
+  height = std::min(height, widget.MaximumSize().Height());
+  return std::max({height, widget.MinimumSize().Height(), 0});
+}
+
+// -- The cache ------------------------------------------------------------------------------------
+
+std::optional<int> HeightForWidthCache::Find(int width) {
+  for (int i = 0; i < count_; ++i) {
+    const int index = (first_ + i) % kCapacity;
+    const Entry& entry = entries_[static_cast<std::size_t>(index)];
+    if (entry.width != width) continue;
+    if (count_ == kCapacity) first_ = index;
+    return entry.height;
+  }
+  return std::nullopt;
+}
+
+void HeightForWidthCache::Store(int width, int height) {
+  count_ = std::min(count_ + 1, kCapacity);
+  first_ = (first_ + kCapacity - 1) % kCapacity;
+  entries_[static_cast<std::size_t>(first_)] = {width, height};
+}
+
+WidgetItemV2::WidgetItemV2(Layout* owner, BaseGUIObject* widget)
+    : WidgetItem(widget), owner_(owner) {
+  if (Link() && !Link().Impl()->Links().layoutItem) Link().Impl()->Links().layoutItem = this;
+}
+
+WidgetItemV2::~WidgetItemV2() {
+  if (IsRegistered()) Link().Impl()->Links().layoutItem = nullptr;
+}
+
+bool WidgetItemV2::IsRegistered() const {
+  return Link() && Link().Impl()->Links().layoutItem == this;
+}
+
+const WidgetItemV2::CachedSizes& WidgetItemV2::Sizes() {
+  if (!sizes_ || !IsRegistered()) {
+    const auto sizes = WidgetSizes::Of(*Link().Widget());
+    sizes_ = {sizes.SmartHint(), sizes.SmartMinimum(), sizes.SmartMaximum(Alignment())};
+  }
+  return *sizes_;
+}
+
+Size WidgetItemV2::SizeHint() {
+  return IsEmpty() ? Size() : Sizes().hint;
+}
+Size WidgetItemV2::MinimumSize() {
+  return IsEmpty() ? Size() : Sizes().minimum;
+}
+Size WidgetItemV2::MaximumSize() {
+  return IsEmpty() ? Size() : Sizes().maximum;
+}
+
+int WidgetItemV2::HeightForWidth(int width) {
+  if (!IsRegistered()) return WidgetItem::HeightForWidth(width);
+  if (IsEmpty()) return -1;
+  if (const auto known = heights_.Find(width)) return *known;
+  const int height = WidgetItem::HeightForWidth(width);
+  heights_.Store(width, height);
+  return height;
+}
+
+void WidgetItemV2::InvalidateSizeCache() {
+  for (WidgetItemV2* item = this; item;) {
+    item->sizes_.reset();
+    item->heights_.Clear();
+    if (!item->owner_) return;
+    item->owner_->MarkDirtyUpward();
+    item = NearestItemOf(item->owner_->ParentWidget());
+  }
+}
+
+void WidgetItemV2::InvalidateSizes() {
+  InvalidateSizeCache();
+  if (owner_) owner_->Invalidate(true);
+}
+
+}  // namespace Wexa

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "layout/LayoutItem.h"
+#include "layout/WidgetLink.h"
+
+namespace Wexa {
+
+// Places one widget. A widget that is hidden, is a dialog or has died makes the item empty.
+class WidgetItem : public LayoutItem {
+ public:
+  // The widget is not owned.
+  explicit WidgetItem(BaseGUIObject* widget) : link_(widget) {}
+
+  Size SizeHint() override;
+  Size MinimumSize() override;
+  Size MaximumSize() override;
+  Orientation ExpandingDirections() override;
+  // Keeps the widget within its maximum: at the left of the rectangle, in the middle of its height.
+  void SetGeometry(const Rect& rect) override;
+  Rect Geometry() override;
+  bool IsEmpty() override;
+  BaseGUIObject* Widget() override { return link_.Widget(); }
+  bool HasHeightForWidth() override;
+  int HeightForWidth(int width) override;
+
+ protected:
+  const WidgetLink& Link() const { return link_; }
+
+ private:
+  WidgetLink link_;
+};
+
+// The heights for the three widths asked for last.
+class HeightForWidthCache {
+ public:
+  std::optional<int> Find(int width);
+  void Store(int width, int height);
+  void Clear() { count_ = 0; }
+
+ private:
+  static constexpr int kCapacity = 3;
+  struct Entry {
+    int width = 0;
+    int height = 0;
+  };
+
+  std::array<Entry, kCapacity> entries_;
+  int first_ = 0;
+  int count_ = 0;
+};
+
+// Places a widget and remembers its sizes until they are invalidated. It is known to the widget,
+// unless the widget already has such an item.
+class WidgetItemV2 : public WidgetItem {
+ public:
+  WidgetItemV2(Layout* owner, BaseGUIObject* widget);
+  ~WidgetItemV2() override;
+
+  Size SizeHint() override;
+  Size MinimumSize() override;
+  Size MaximumSize() override;
+  int HeightForWidth(int width) override;
+
+  // Forgets the sizes, and those of all that holds the widget, up to the top.
+  void InvalidateSizeCache();
+  // The widget asks for other sizes than before: the layouts take it into account in a new pass.
+  void InvalidateSizes();
+
+  // The layout that holds the item; null once it was taken out.
+  Layout* Owner() const { return owner_; }
+  void SetOwner(Layout* owner) { owner_ = owner; }
+
+ private:
+  struct CachedSizes {
+    Size hint;
+    Size minimum;
+    Size maximum;
+  };
+
+  bool IsRegistered() const;
+  const CachedSizes& Sizes();
+
+  Layout* owner_;
+  std::optional<CachedSizes> sizes_;
+  HeightForWidthCache heights_;
+};
+
+}  // namespace Wexa
