@@ -25,7 +25,7 @@ EnumWord SplitWord(std::wstring_view word) {
 // What follows one more scope at the start of `text`; `text` itself when it starts with none.
 std::wstring_view WithoutInnerScope(std::wstring_view text) {
   const auto end = text.find_first_not_of(kIdentifier);
-  const bool scoped = end != text.npos && end > 0 && text.substr(end).starts_with(kScope);
+  const bool scoped = end != text.npos && text.substr(end).starts_with(kScope);
   return scoped ? text.substr(end + kScope.size()) : text;
 }
 
