@@ -29,7 +29,7 @@ struct ExplicitAxes {
 // What a widget's implementation knows for the layout it owns and for the layout that holds it.
 // Sizes are device pixels.
 struct LayoutLinks {
-  Layout* layout = nullptr;           // the widget's own top-level layout
+  Layout* layout = nullptr;            // the widget's own top-level layout
   WidgetItemV2* layoutItem = nullptr;  // the item that places the widget
   ExplicitAxes explicitMinimum;
   ExplicitAxes explicitMaximum;
@@ -79,7 +79,7 @@ class WEXA_API BaseImpl {
   // Its handle; null when there is no native window.
   virtual HWND GetHandle() = 0;
 
-  // -- For layouts --------------------------------------------------------------------------------
+  // -- For layouts --------------------------------------------------------------
 
   // -1 when the height does not depend on the width.
   virtual int HeightForWidth(int width) = 0;
@@ -94,10 +94,12 @@ class WEXA_API BaseImpl {
   virtual int ParentScrollOffset() = 0;
   // Gives the widget exactly this size.
   virtual void SetFixedSize(Size size) = 0;
+  // A layout has placed the widget; a combo box brings its drop-down list into line.
+  virtual void RefreshDropDownSelection() {}
   // Redraws after a change of the skin.
   virtual void RefreshSkinColors() = 0;
 
-  // -- For facades --------------------------------------------------------------------------------
+  // -- For facades --------------------------------------------------------------
 
   virtual bool Create(HWND parent) = 0;
   virtual SkinManager& GetSkinManager() = 0;
