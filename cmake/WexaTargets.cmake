@@ -30,8 +30,9 @@ add_custom_target(thread_tests)
 
 # wexa_test(name FOLDERS folder... ROOMS room... LABELS label...): one test program of the sources in
 # some folders, linked to the rooms themselves, so that it sees what the shared library hides.
+# LAUNCHER is a program that runs it, if not the test driver itself.
 function(wexa_test name)
-  cmake_parse_arguments(TEST "" "" "ROOMS;FOLDERS;LABELS" ${ARGN})
+  cmake_parse_arguments(TEST "" "LAUNCHER" "ROOMS;FOLDERS;LABELS" ${ARGN})
   set(sources)
   foreach(folder IN LISTS TEST_FOLDERS)
     file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp)
@@ -47,7 +48,7 @@ function(wexa_test name)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${TEST_ROOMS} GTest::gmock GTest::gtest_main)
   target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <memory> <string> <vector>)
-  add_test(NAME ${name} COMMAND ${name})
+  add_test(NAME ${name} COMMAND ${TEST_LAUNCHER} $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES
     ENVIRONMENT "WEXA_DISPLAY=offscreen;WEXA_DPI=96;FONTCONFIG_FILE=${PROJECT_SOURCE_DIR}/tests/support/fonts.conf;LC_ALL=C.UTF-8"
     LABELS "${TEST_LABELS}"

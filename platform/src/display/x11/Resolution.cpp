@@ -8,6 +8,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "Connection.h"
 
@@ -53,9 +54,8 @@ int Resolution::Dpi() const {
 }
 
 bool Resolution::Refresh() {
-  const int old = Dpi();
-  dpi_.reset();
-  return Dpi() != old;
+  const auto old = std::exchange(dpi_, std::nullopt);
+  return old && Dpi() != *old;
 }
 
 }  // namespace display::x11

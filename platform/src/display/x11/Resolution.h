@@ -14,7 +14,7 @@ class Resolution {
 
   // Throws std::runtime_error when WEXA_DPI is not a positive number.
   int Dpi() const;
-  // Asks again; true when it is another one now.
+  // Asks again; true when it is not the one told before.
   bool Refresh();
 
  private:
