@@ -56,6 +56,8 @@ class Painter {
   bool IsClippedOut(const RECT& rect) const;
 
  private:
-  struct DeviceContext* context_;
+  struct DeviceContext* Context() const;
+
+  HDC dc_;  // looked up by every operation: the painter may outlive it
   std::size_t outerClips_;  // clips that were pushed before this painter came
 };

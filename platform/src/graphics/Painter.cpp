@@ -1,34 +1,44 @@
 #include "platform/Painter.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "graphics/Canvas.h"
 
-Painter::Painter(HDC dc)
-    : context_(GetDeviceContext(dc)), outerClips_(context_ ? context_->savedClips.size() : 0) {}
+Painter::Painter(HDC dc) : dc_(dc), outerClips_(Context() ? Context()->savedClips.size() : 0) {}
 
 Painter::~Painter() {
-  while (context_ && context_->savedClips.size() > outerClips_) PopClip();
+  DeviceContext* context = Context();
+  while (context && context->savedClips.size() > outerClips_) PopClip();
+}
+
+DeviceContext* Painter::Context() const {
+  return GetDeviceContext(dc_);
 }
 
 void Painter::PushClip(const RECT& rect) {
-  if (!context_) return;
-  context_->savedClips.push_back(context_->clip);
-  context_->clip.Intersect(ToSurface(*context_, rect));
+  DeviceContext* context = Context();
+  if (!context) return;
+  context->savedClips.push_back(context->clip);
+  context->clip.Intersect(ToSurface(*context, rect));
 }
 
 void Painter::PopClip() {
-  if (!context_ || context_->savedClips.size() <= outerClips_) return;
-  context_->clip = std::move(context_->savedClips.back());
-  context_->savedClips.pop_back();
+  DeviceContext* context = Context();
+  if (!context || context->savedClips.size() <= outerClips_) return;
+  context->clip = std::move(context->savedClips.back());
+  context->savedClips.pop_back();
 }
 
 bool Painter::IsClippedOut(const RECT& rect) const {
-  return !context_ || !context_->clip.Intersects(ToSurface(*context_, rect));
+  const DeviceContext* context = Context();
+  return !context || !context->clip.Intersects(ToSurface(*context, rect));
 }
 
 void Painter::FillRect(const RECT& rect, COLORREF color) {
-  if (context_) FillPixels(*context_, ToSurface(*context_, rect), color);
+  if (const DeviceContext* context = Context()) {
+    FillPixels(*context, ToSurface(*context, rect), color);
+  }
 }
 
 void Painter::FrameRect(const RECT& rect, COLORREF color, int thickness) {

@@ -23,20 +23,22 @@ int Diameter(const CRect& rect, int radius) {
   return radius >= shortest / 2 ? shortest : 2 * radius;
 }
 
-void FillCentred(const DeviceContext& context, const RECT& rect, Shape shape, COLORREF color) {
-  CRect area = ToSurface(context, rect);
+void FillCentred(const DeviceContext* context, const RECT& rect, Shape shape, COLORREF color) {
+  if (!context) return;
+  CRect area = ToSurface(*context, rect);
   int size = std::min(area.Width(), area.Height());
-  if (size <= 0 || !context.clip.Intersects(area)) return;
+  if (size <= 0 || !context->clip.Intersects(area)) return;
   POINT place{area.left + (area.Width() - size) / 2, area.top + (area.Height() - size) / 2};
-  FillMask(context, GetShapeMask(shape, size, size), CRect(0, 0, size, size), place, color);
+  FillMask(*context, GetShapeMask(shape, size, size), CRect(0, 0, size, size), place, color);
 }
 
-void FillShape(const DeviceContext& context, const RECT& rect, Shape shape, int thickness,
+void FillShape(const DeviceContext* context, const RECT& rect, Shape shape, int thickness,
                COLORREF color) {
-  CRect area = ToSurface(context, rect);
-  if (area.IsEmpty() || !context.clip.Intersects(area)) return;
+  if (!context) return;
+  CRect area = ToSurface(*context, rect);
+  if (area.IsEmpty() || !context->clip.Intersects(area)) return;
   const ShapeMask& mask = GetShapeMask(shape, area.Width(), area.Height(), thickness);
-  FillMask(context, mask, CRect(0, 0, mask.width, mask.height), area.TopLeft(), color);
+  FillMask(*context, mask, CRect(0, 0, mask.width, mask.height), area.TopLeft(), color);
 }
 
 Shape ArrowShape(ArrowDirection direction, bool mirrored) {
@@ -53,52 +55,55 @@ Shape ArrowShape(ArrowDirection direction, bool mirrored) {
 void Painter::FillRoundRect(const RECT& rect, int radius, COLORREF color) {
   if (radius <= 0) return FillRect(rect, color);
   if (IsClippedOut(rect)) return;
-  CRect area = ToSurface(*context_, rect);
+  const DeviceContext& context = *Context();
+  CRect area = ToSurface(context, rect);
   int diameter = Diameter(area, radius);
   int corner = diameter / 2;
   const ShapeMask& disc = GetShapeMask(Shape::Ellipse, diameter, diameter);
-  FillCorners(*context_, area, disc, corner, color);
+  FillCorners(context, area, disc, corner, color);
   int top = area.top + corner;
   int bottom = area.bottom - corner;
-  FillPixels(*context_, CRect(area.left + corner, area.top, area.right - corner, top), color);
-  FillPixels(*context_, CRect(area.left, top, area.right, bottom), color);
-  FillPixels(*context_, CRect(area.left + corner, bottom, area.right - corner, area.bottom), color);
+  FillPixels(context, CRect(area.left + corner, area.top, area.right - corner, top), color);
+  FillPixels(context, CRect(area.left, top, area.right, bottom), color);
+  FillPixels(context, CRect(area.left + corner, bottom, area.right - corner, area.bottom), color);
 }
 
 void Painter::FrameRoundRect(const RECT& rect, int radius, COLORREF color, int thickness) {
   if (radius <= 0) return FrameRect(rect, color, thickness);
   if (IsClippedOut(rect) || thickness <= 0) return;
-  CRect area = ToSurface(*context_, rect);
+  const DeviceContext& context = *Context();
+  CRect area = ToSurface(context, rect);
   int diameter = Diameter(area, radius);
   int corner = diameter / 2;
   int line = std::min({thickness, area.Width() / 2, area.Height() / 2});
   const ShapeMask& ring = GetShapeMask(Shape::Ring, diameter, diameter, line);
-  FillCorners(*context_, area, ring, corner, color);
+  FillCorners(context, area, ring, corner, color);
   CRect columns(area.left + corner, area.top, area.right - corner, area.bottom);
   CRect rows(area.left, area.top + corner, area.right, area.bottom - corner);
-  FillPixels(*context_, CRect(columns.left, area.top, columns.right, area.top + line), color);
-  FillPixels(*context_, CRect(columns.left, area.bottom - line, columns.right, area.bottom), color);
-  FillPixels(*context_, CRect(area.left, rows.top, area.left + line, rows.bottom), color);
-  FillPixels(*context_, CRect(area.right - line, rows.top, area.right, rows.bottom), color);
+  FillPixels(context, CRect(columns.left, area.top, columns.right, area.top + line), color);
+  FillPixels(context, CRect(columns.left, area.bottom - line, columns.right, area.bottom), color);
+  FillPixels(context, CRect(area.left, rows.top, area.left + line, rows.bottom), color);
+  FillPixels(context, CRect(area.right - line, rows.top, area.right, rows.bottom), color);
 }
 
 void Painter::FillEllipse(const RECT& rect, COLORREF color) {
-  if (context_) FillShape(*context_, rect, Shape::Ellipse, 0, color);
+  FillShape(Context(), rect, Shape::Ellipse, 0, color);
 }
 
 void Painter::FrameEllipse(const RECT& rect, COLORREF color, int thickness) {
-  if (context_) FillShape(*context_, rect, Shape::Ring, thickness, color);
+  FillShape(Context(), rect, Shape::Ring, thickness, color);
 }
 
 void Painter::CheckMark(const RECT& rect, COLORREF color) {
-  if (context_) FillCentred(*context_, rect, Shape::CheckMark, color);
+  FillCentred(Context(), rect, Shape::CheckMark, color);
 }
 
 void Painter::Arrow(const RECT& rect, ArrowDirection direction, COLORREF color) {
-  if (!context_) return;
-  FillCentred(*context_, rect, ArrowShape(direction, context_->mirrorWidth >= 0), color);
+  const DeviceContext* context = Context();
+  bool mirrored = context && context->mirrorWidth >= 0;
+  FillCentred(context, rect, ArrowShape(direction, mirrored), color);
 }
 
 void Painter::Cross(const RECT& rect, COLORREF color) {
-  if (context_) FillCentred(*context_, rect, Shape::Cross, color);
+  FillCentred(Context(), rect, Shape::Cross, color);
 }

@@ -135,27 +135,29 @@ int LineLeft(const RECT& rect, int width, UINT format) {
 void Painter::Text(std::wstring_view text, const RECT& rect, UINT format, HFONT font,
                    COLORREF color) {
   if (text.empty() || AlphaOf(color) == 0 || IsClippedOut(rect)) return;
+  const DeviceContext& context = *Context();
   RealizedFont& realized = FontOf(font);
   TextBlock block(realized, text, CRect(rect).Width(), format);
-  LinePainter painter(*context_, realized, ToSurface(*context_, rect), color);
+  LinePainter painter(context, realized, ToSurface(context, rect), color);
   int height = realized.Metrics().height;
   int top = FirstLineTop(rect, block.Size().cy, format);
   for (const TextBlock::Line& line : block.Lines()) {
     int left = LineLeft(rect, line.width, format);
-    CRect box = ToSurface(*context_, CRect(left, top, left + line.width, top + height));
+    CRect box = ToSurface(context, CRect(left, top, left + line.width, top + height));
     painter.Draw(line, block.Direction(), box, !(format & DT_HIDEPREFIX));
     top += height;
   }
 }
 
 void Painter::Text(const TextLine& line, int x, int y, COLORREF color) {
-  if (!context_ || !line.impl_ || AlphaOf(color) == 0) return;
+  const DeviceContext* context = Context();
+  if (!context || !line.impl_ || AlphaOf(color) == 0) return;
   const TextLine::Impl& impl = *line.impl_;
-  CRect box = ToSurface(*context_, CRect(x, y, x + impl.width, y + impl.height));
+  CRect box = ToSurface(*context, CRect(x, y, x + impl.width, y + impl.height));
   CRect ink = InkBounds(box);
-  if (!context_->clip.Intersects(ink)) return;
-  ClipScope clip(*context_, ink, ink);
-  cairo_t* cairo = context_->surface->Context();
+  if (!context->clip.Intersects(ink)) return;
+  ClipScope clip(*context, ink, ink);
+  cairo_t* cairo = context->surface->Context();
   SetColor(cairo, color);
   ShowLayout(cairo, impl.layout.get(), {box.left, box.top + impl.ascent});
 }

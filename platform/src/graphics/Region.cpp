@@ -6,6 +6,7 @@
 
 #include "graphics/HandleTable.h"
 #include "graphics/PixelRegion.h"
+#include "graphics/RegionTable.h"
 
 namespace {
 
@@ -49,6 +50,10 @@ bool Combine(PixelRegion& area, const PixelRegion& other, int mode) {
 }
 
 }  // namespace
+
+const PixelRegion* GetPixelRegion(HRGN region) {
+  return Table().Find(region);
+}
 
 HRGN CreateRectRgn(int left, int top, int right, int bottom) {
   return Add(PixelRegion(Ordered(left, top, right, bottom)));

@@ -26,7 +26,7 @@ std::size_t Next(PangoLayout* layout, std::size_t index, Accepts accepts) {
   int count = 0;
   const PangoLogAttr* attributes = pango_layout_get_log_attrs_readonly(layout, &count);
   std::size_t end = static_cast<std::size_t>(std::max(count, 1)) - 1;
-  for (std::size_t i = index + 1; i < end; ++i) {
+  for (std::size_t i = std::min(index, end) + 1; i < end; ++i) {
     if (accepts(attributes[i])) return i;
   }
   return end;

@@ -26,7 +26,7 @@ BoxColors PlainColors(const ControlState& state, const ControlPalette& palette) 
 
 // A checked box or radio is filled with the accent.
 BoxColors CheckedColors(const ControlState& state, const ControlPalette& palette) {
-  if (!state.enabled) return {palette.disabledBorder, palette.disabledBorder};
+  if (!state.enabled) return PlainColors(state, palette);
   if (state.pressed) return {palette.pressedFace, palette.accent};
   return {palette.accent, palette.accent};
 }

@@ -1,0 +1,230 @@
+#include "platform/Theme.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "TestCanvas.h"
+#include "platform/SystemColors.h"
+
+namespace {
+
+constexpr ControlState kPlain;
+
+ControlState With(bool ControlState::*flag, bool value = true) {
+  ControlState state;
+  state.*flag = value;
+  return state;
+}
+
+// How each part is drawn into a rectangle.
+struct Part {
+  const char* name;
+  std::function<void(Painter&, const RECT&, const ControlState&)> draw;
+};
+
+std::vector<Part> AllParts() {
+  static const ControlPalette palette = SystemPalette();
+  return {
+      {"button", [](auto& p, auto& r, auto& s) { Theme::DrawPushButton(p, r, s, palette, 0); }},
+      {"round", [](auto& p, auto& r, auto& s) { Theme::DrawPushButton(p, r, s, palette, 5); }},
+      {"check", [](auto& p, auto& r, auto& s) { Theme::DrawCheckBox(p, r, s, palette, 0); }},
+      {"radio", [](auto& p, auto& r, auto& s) { Theme::DrawRadioButton(p, r, s, palette); }},
+      {"field", [](auto& p, auto& r, auto& s) { Theme::DrawField(p, r, s, palette, 3); }},
+      {"drop", [](auto& p, auto& r, auto& s) { Theme::DrawDropDownArrow(p, r, s, palette); }},
+      {"spin", [](auto& p, auto& r, auto& s) { Theme::DrawSpinArrows(p, r, s, palette); }},
+      {"group",
+       [](auto& p, auto& r, auto& s) { Theme::DrawGroupBox(p, r, L"Title", nullptr, s, palette); }},
+      {"tab",
+       [](auto& p, auto& r, auto& s) { Theme::DrawTab(p, r, L"Tab", nullptr, true, s, palette); }},
+      {"line", [](auto& p, auto& r, auto&) { Theme::DrawLine(p, r, true, palette); }},
+      {"bar", [](auto& p, auto& r, auto&) { Theme::DrawProgress(p, r, 0.4, false, palette); }},
+      {"slider", [](auto& p, auto& r, auto& s) { Theme::DrawSlider(p, r, 2, true, s, palette); }},
+      {"scroll",
+       [](auto& p, auto& r, auto& s) { Theme::DrawScrollBar(p, r, 0.9, 7, true, s, palette); }},
+      {"caption",
+       [](auto& p, auto& r, auto&) {
+         Theme::DrawCaption(p, r, L"T", true, true, FramePart::Close, FramePart::None);
+       }},
+      {"frame", [](auto& p, auto& r, auto&) { Theme::DrawWindowFrame(p, r, 4, false); }},
+  };
+}
+
+std::vector<std::uint32_t> Picture(const Part& part, const ControlState& state) {
+  TestCanvas canvas(60, 60);
+  canvas.Paint([&](Painter& p) { part.draw(p, {10, 12, 50, 47}, state); });
+  return canvas.Pixels();
+}
+
+const Part& Find(const std::vector<Part>& parts, std::string_view name) {
+  return *std::find_if(parts.begin(), parts.end(), [&](auto& part) { return name == part.name; });
+}
+
+class Scheme : public testing::Test {
+ protected:
+  ~Scheme() override { SetSystemScheme(SystemScheme::Light); }
+};
+
+double Linear(BYTE channel) {
+  double value = channel / 255.0;
+  return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double Contrast(COLORREF a, COLORREF b) {
+  auto luminance = [](COLORREF c) {
+    return 0.2126 * Linear(GetRValue(c)) + 0.7152 * Linear(GetGValue(c)) +
+           0.0722 * Linear(GetBValue(c));
+  };
+  auto [dark, light] = std::minmax({luminance(a), luminance(b)});
+  return (light + 0.05) / (dark + 0.05);
+}
+
+}  // namespace
+
+TEST(Theme, PartsStayInsideTheirRectangle) {
+  CRect rect(10, 12, 50, 47);
+  ControlState busy{.hovered = true, .focused = true, .focusCue = true, .isDefault = true};
+  busy.check = 1;
+  for (const Part& part : AllParts()) {
+    TestCanvas canvas(60, 60);
+    canvas.Paint([&](Painter& p) { part.draw(p, rect, busy); });
+    EXPECT_TRUE(rect.Contains(canvas.Ink())) << part.name;
+    EXPECT_FALSE(canvas.Ink().IsEmpty()) << part.name;
+  }
+}
+
+TEST(Theme, TinyAndEmptyRectanglesAreHarmless) {
+  ControlState busy{.focused = true, .focusCue = true, .isDefault = true};
+  for (const Part& part : AllParts()) {
+    for (CRect rect : {CRect(5, 5, 5, 5), CRect(5, 5, 6, 7), CRect(9, 9, 4, 4)}) {
+      TestCanvas canvas(30, 30);
+      canvas.Paint([&](Painter& p) { part.draw(p, rect, busy); });
+    }
+  }
+}
+
+TEST(Theme, ButtonStatesLookDifferent) {
+  auto parts = AllParts();
+  for (const char* name : {"button", "round", "check", "radio"}) {
+    const Part& part = Find(parts, name);
+    EXPECT_NE(Picture(part, kPlain), Picture(part, With(&ControlState::hovered))) << name;
+    EXPECT_NE(Picture(part, With(&ControlState::hovered)),
+              Picture(part, With(&ControlState::pressed)));
+    EXPECT_NE(Picture(part, kPlain), Picture(part, With(&ControlState::enabled, false))) << name;
+  }
+  const Part& button = Find(parts, "button");
+  EXPECT_NE(Picture(button, kPlain), Picture(button, With(&ControlState::isDefault)));
+}
+
+TEST(Theme, FocusShowsOnlyToKeyboardUsers) {
+  auto parts = AllParts();
+  const Part& button = Find(parts, "button");
+  ControlState focused = With(&ControlState::focused);
+  EXPECT_EQ(Picture(button, kPlain), Picture(button, focused));
+  focused.focusCue = true;
+  EXPECT_NE(Picture(button, kPlain), Picture(button, focused));
+}
+
+TEST(Theme, CheckStatesLookDifferent) {
+  auto parts = AllParts();
+  ControlState on;
+  on.check = 1;
+  ControlState partial;
+  partial.check = 2;
+  EXPECT_NE(Picture(Find(parts, "check"), on), Picture(Find(parts, "check"), kPlain));
+  EXPECT_NE(Picture(Find(parts, "check"), on), Picture(Find(parts, "check"), partial));
+  EXPECT_NE(Picture(Find(parts, "radio"), on), Picture(Find(parts, "radio"), kPlain));
+}
+
+TEST(Theme, RadioDotIsCentredAtEveryScale) {
+  ControlState on;
+  on.check = 1;
+  for (int dpi : {96, 120, 144, 192}) {
+    SetScreenDpi(dpi);
+    int size = Theme::CheckSize();
+    TestCanvas canvas(size, size);
+    canvas.Paint([&](Painter& p) {
+      Theme::DrawRadioButton(p, {0, 0, size, size}, on, SystemPalette());
+    });
+    canvas.ForEachPixel([&](int x, int y, COLORREF color) {
+      EXPECT_NEAR(GetRValue(color), GetRValue(canvas.At(size - 1 - x, size - 1 - y)), 24);
+    });
+  }
+  SetScreenDpi(96);
+}
+
+TEST(Theme, GroupFrameIsOpenBehindItsTitle) {
+  TestCanvas canvas(120, 60);
+  ControlPalette palette = SystemPalette();
+  canvas.Paint([&](Painter& p) {
+    Theme::DrawGroupBox(p, {0, 0, 120, 60}, L"iiii", nullptr, kPlain, palette);
+  });
+  int y = GetFontMetrics(nullptr).height / 2;
+  EXPECT_EQ(canvas.At(2, y), palette.border);
+  EXPECT_EQ(canvas.At(9, y), kWhite);
+  EXPECT_EQ(canvas.At(110, y), palette.border);
+  EXPECT_EQ(canvas.At(0, 0), kWhite);
+}
+
+TEST(Theme, ProgressFillsItsShare) {
+  ControlPalette palette = SystemPalette();
+  for (auto [fraction, pixels] : {std::pair{0.0, 0}, {0.5, 50}, {1.0, 100}, {9.0, 100}}) {
+    TestCanvas canvas(102, 3);
+    canvas.Paint([&](Painter& p) {
+      Theme::DrawProgress(p, {0, 0, 102, 3}, fraction, false, palette);
+    });
+    EXPECT_EQ(canvas.Count(palette.accent), pixels);
+  }
+}
+
+TEST(Theme, ButtonsAndFieldsAreEquallyHigh) {
+  EXPECT_EQ(Theme::PushButtonPadding().cy, Theme::FieldPadding().cy);
+  EXPECT_EQ(GetFontMetrics(nullptr).height + 2 * Theme::PushButtonPadding().cy, 23);
+}
+
+TEST(Theme, CloseButtonEndsTheCaption) {
+  CRect close(Theme::CloseButtonRect({3, 4, 203, 34}));
+  EXPECT_EQ(close.right, 203);
+  EXPECT_EQ(close.top, 4);
+  EXPECT_EQ(close.bottom, 34);
+  EXPECT_GT(close.Width(), 20);
+}
+
+TEST_F(Scheme, HighContrastTextIsReadable) {
+  SetSystemScheme(SystemScheme::HighContrast);
+  ControlPalette p = SystemPalette();
+  for (auto [text, back] : {std::pair{p.text, p.face},
+                            {p.text, p.background},
+                            {p.disabledText, p.disabledFace},
+                            {p.pressedText, p.pressedFace},
+                            {p.accentText, p.accent},
+                            {p.selectionText, p.selection},
+                            {p.text, p.hoverFace},
+                            {p.border, p.background}}) {
+    EXPECT_GE(Contrast(text, back), 7);
+  }
+  for (auto [text, back] : {std::pair{COLOR_BTNTEXT, COLOR_BTNFACE},
+                            {COLOR_WINDOWTEXT, COLOR_WINDOW},
+                            {COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT},
+                            {COLOR_GRAYTEXT, COLOR_BTNFACE},
+                            {COLOR_CAPTIONTEXT, COLOR_ACTIVECAPTION},
+                            {COLOR_INACTIVECAPTIONTEXT, COLOR_INACTIVECAPTION}}) {
+    EXPECT_GE(Contrast(GetSysColor(text), GetSysColor(back)), 7);
+  }
+}
+
+TEST_F(Scheme, LightAndDarkTextIsReadable) {
+  for (SystemScheme scheme : {SystemScheme::Light, SystemScheme::Dark}) {
+    SetSystemScheme(scheme);
+    ControlPalette p = SystemPalette();
+    EXPECT_GE(Contrast(p.text, p.face), 7);
+    EXPECT_GE(Contrast(p.text, p.pressedFace), 7);
+    EXPECT_GE(Contrast(p.accentText, p.accent), 4);
+    EXPECT_GE(Contrast(p.disabledText, p.disabledFace), 4);
+  }
+}
+
+TEST_F(Scheme, UnknownColorIsBlack) {
+  EXPECT_EQ(GetSysColor(-1), 0u);
+  EXPECT_EQ(GetSysColor(1000), 0u);
+  EXPECT_EQ(GetSysColor(COLOR_BTNFACE), RGB(240, 240, 240));
+}
