@@ -53,8 +53,8 @@ LRESULT ButtonControl::HandleInput(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONUP: OnRelease(); return 0;
     case WM_CANCELMODE:
     case WM_CAPTURECHANGED: CancelPress(); return 0;
-    case WM_KEYDOWN: OnKeyDown(wParam, lParam); return 0;
-    case WM_KEYUP: OnKeyUp(wParam); return 0;
+    case WM_KEYDOWN: OnKeyDown(wParam, lParam); break;
+    case WM_KEYUP: OnKeyUp(wParam); break;
     default: break;
   }
   return Control::Handle(message, wParam, lParam);

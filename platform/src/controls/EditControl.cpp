@@ -148,8 +148,8 @@ bool EditControl::HandleInput(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     case WM_LBUTTONDOWN: OnPress(point); return true;
     case WM_LBUTTONDBLCLK: OnDoubleClick(point); return true;
     case WM_MOUSEMOVE: OnDrag(point); return false;
-    case WM_LBUTTONUP: OnRelease(); return true;
-    case WM_CANCELMODE:
+    case WM_LBUTTONUP:
+    case WM_CANCELMODE: OnRelease(); return true;
     case WM_CAPTURECHANGED: StopDragging(); return true;
     case WM_TIMER: return OnTimer(wParam);
     case WM_SETFOCUS:
