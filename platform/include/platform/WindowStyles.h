@@ -69,6 +69,10 @@ inline constexpr UINT SIZE_RESTORED = 0;
 inline constexpr UINT WA_INACTIVE = 0;
 inline constexpr UINT WA_ACTIVE = 1;
 inline constexpr UINT WA_CLICKACTIVE = 2;
+inline constexpr int MA_ACTIVATE = 1;
+inline constexpr int MA_ACTIVATEANDEAT = 2;
+inline constexpr int MA_NOACTIVATE = 3;
+inline constexpr int MA_NOACTIVATEANDEAT = 4;
 inline constexpr UINT SC_CLOSE = 0xF060;
 
 inline constexpr int HTNOWHERE = 0;

@@ -52,9 +52,9 @@ struct Input {
   int scanCode = 0;              // set-1 scan code of the key's place
   bool extendedKey = false;      // arrows, right Control and their like
   bool repeated = false;         // KeyDown by auto-repeat
-  std::u32string text;           // KeyDown: the characters the layout gives, composed; may be empty
+  std::u32string text{};         // KeyDown: the characters the layout gives, composed; may be empty
   int dpi = 0;                   // ResolutionChanged
-  std::vector<std::wstring> files;  // FilesDropped
+  std::vector<std::wstring> files{};  // FilesDropped
   std::uint32_t time = 0;        // milliseconds of the display's clock
 };
 

@@ -1,0 +1,82 @@
+#include "window/Cursor.h"
+
+#include "window/Dispatch.h"
+#include "window/WindowClass.h"
+
+namespace core {
+namespace {
+
+using display::CursorShape;
+
+struct CursorState {
+  const wchar_t* shown = IDC_ARROW;
+  HWND root = nullptr;  // under the pointer
+};
+
+CursorState& State() {
+  static CursorState state;
+  return state;
+}
+
+CursorShape ShapeOf(const wchar_t* cursor) {
+  struct Shape {
+    const wchar_t* name;
+    CursorShape shape;
+  };
+  constexpr Shape kShapes[] = {
+      {IDC_ARROW, CursorShape::Arrow},       {IDC_IBEAM, CursorShape::IBeam},
+      {IDC_WAIT, CursorShape::Wait},         {IDC_CROSS, CursorShape::Cross},
+      {IDC_UPARROW, CursorShape::UpArrow},   {IDC_SIZE, CursorShape::SizeAll},
+      {IDC_SIZENWSE, CursorShape::SizeNwse}, {IDC_SIZENESW, CursorShape::SizeNesw},
+      {IDC_SIZEWE, CursorShape::SizeWe},     {IDC_SIZENS, CursorShape::SizeNs},
+      {IDC_SIZEALL, CursorShape::SizeAll},   {IDC_NO, CursorShape::No},
+      {IDC_HAND, CursorShape::Hand}};
+  for (const Shape& s : kShapes)
+    if (s.name[0] == cursor[0]) return s.shape;
+  return CursorShape::Arrow;
+}
+
+const wchar_t* FrameCursor(int part) {
+  switch (part) {
+    case HTLEFT:
+    case HTRIGHT: return IDC_SIZEWE;
+    case HTTOP:
+    case HTBOTTOM: return IDC_SIZENS;
+    case HTTOPLEFT:
+    case HTBOTTOMRIGHT: return IDC_SIZENWSE;
+    case HTTOPRIGHT:
+    case HTBOTTOMLEFT: return IDC_SIZENESW;
+    default: return IDC_ARROW;
+  }
+}
+
+}  // namespace
+
+void AskForCursor(const Hit& hit, UINT mouseMessage) {
+  const HWND root = Root(*hit.window).handle;
+  if (State().root != root) State() = {nullptr, root};
+  Send(*hit.window, WM_SETCURSOR, reinterpret_cast<WPARAM>(hit.window->handle),
+       MAKELPARAM(hit.part, static_cast<int>(mouseMessage)));
+}
+
+LRESULT ChooseCursor(Window& window, WPARAM under, LPARAM hitAndMessage) {
+  Hold hold(&window);
+  if (window.parent && Send(*window.parent, WM_SETCURSOR, under, hitAndMessage)) return TRUE;
+  if (!hold.Alive() || reinterpret_cast<HWND>(under) != window.handle) return FALSE;
+  const int part = GET_X_LPARAM(hitAndMessage);
+  SetCursor(part == HTCLIENT ? window.windowClass->cursor : FrameCursor(part));
+  return TRUE;
+}
+
+}  // namespace core
+
+const wchar_t* SetCursor(const wchar_t* cursor) {
+  core::CursorState& state = core::State();
+  const wchar_t* before = state.shown;
+  const wchar_t* wanted = cursor ? cursor : IDC_ARROW;
+  const core::Window* root = core::Find(state.root);
+  if (wanted == before || !root || root->top->surfaceId == 0) return before ? before : IDC_ARROW;
+  display::Current().SetCursor(root->top->surfaceId, core::ShapeOf(wanted));
+  state.shown = wanted;
+  return before ? before : IDC_ARROW;
+}

@@ -1,0 +1,39 @@
+#include "window/Desktop.h"
+
+#include "window/WindowClass.h"
+
+namespace core {
+namespace {
+
+// Whatever change is asked for, nothing changes.
+LRESULT DesktopProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_WINDOWPOSCHANGING) return DefWindowProcW(window, message, wParam, lParam);
+  reinterpret_cast<WINDOWPOS*>(lParam)->flags =
+      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
+  return 0;
+}
+
+Window& MakeDesktop() {
+  static const WindowClass desktopClass{L"#32769", DesktopProcedure, 0, IDC_ARROW};
+  auto made = std::make_unique<Window>();
+  made->windowClass = &desktopClass;
+  made->top = std::make_unique<TopLevel>();
+  made->style = WS_POPUP | WS_DISABLED;
+  made->destroying = true;
+  return AddWindow(std::move(made));
+}
+
+}  // namespace
+
+Window& Desktop() {
+  static Window& desktop = MakeDesktop();
+  desktop.rect = display::Current().WorkArea();
+  desktop.client = desktop.Bounds();
+  return desktop;
+}
+
+}  // namespace core
+
+HWND GetDesktopWindow() {
+  return core::Desktop().handle;
+}

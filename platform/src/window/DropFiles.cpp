@@ -1,0 +1,87 @@
+#include "window/DropFiles.h"
+
+#include "graphics/HandleTable.h"
+#include "window/Coordinates.h"
+#include "window/HitTest.h"
+
+namespace core {
+namespace {
+
+struct Drop {
+  HWND window;
+  POINT point;
+  std::vector<std::wstring> files;
+};
+
+HandleTable<HDROP, Drop>& Drops() {
+  static HandleTable<HDROP, Drop> drops;
+  return drops;
+}
+
+std::vector<HDROP>& Untaken() {
+  static std::vector<HDROP> drops;
+  return drops;
+}
+
+Window* Accepting(Window* window) {
+  while (window && !(window->exStyle & WS_EX_ACCEPTFILES)) window = window->parent;
+  return window;
+}
+
+}  // namespace
+
+std::optional<MSG> DropMessage(const display::Input& input) {
+  Window* root = FindBySurface(input.surface);
+  Window* window = root ? Accepting(HitTest(*root, input.position).window) : nullptr;
+  if (!window) return std::nullopt;
+  const POINT point = ToClient(*window, input.position);
+  const HDROP drop = Drops().Add(std::make_unique<Drop>(Drop{window->handle, point, input.files}));
+  Untaken().push_back(drop);
+  return MSG{window->handle, WM_DROPFILES,  reinterpret_cast<WPARAM>(drop), 0,
+             input.time,     input.position};
+}
+
+void ForgetDrops(HWND window) {
+  std::erase_if(Untaken(), [&](HDROP handle) {
+    const Drop* drop = Drops().Find(handle);
+    if (drop && drop->window != window) return false;
+    Drops().Remove(handle);
+    return true;
+  });
+}
+
+}  // namespace core
+
+BOOL DragAcceptFiles(HWND window, BOOL accept) {
+  core::Window* w = core::Find(window);
+  if (!w) return FALSE;
+  w->exStyle = accept ? w->exStyle | WS_EX_ACCEPTFILES : w->exStyle & ~WS_EX_ACCEPTFILES;
+  return TRUE;
+}
+
+UINT DragQueryFileW(HDROP handle, UINT index, wchar_t* buffer, UINT count) {
+  constexpr UINT kCountOfFiles = 0xFFFFFFFF;
+  const core::Drop* drop = core::Drops().Find(handle);
+  if (!drop) return 0;
+  if (index == kCountOfFiles) return static_cast<UINT>(drop->files.size());
+  if (index >= drop->files.size()) return 0;
+  const std::wstring& file = drop->files[index];
+  if (!buffer) return static_cast<UINT>(file.size());
+  if (count == 0) return 0;
+  const std::size_t length = file.copy(buffer, count - 1);
+  buffer[length] = 0;
+  return static_cast<UINT>(length);
+}
+
+BOOL DragQueryPoint(HDROP handle, POINT* point) {
+  const core::Drop* drop = core::Drops().Find(handle);
+  if (!drop || !point) return FALSE;
+  *point = drop->point;
+  const core::Window* window = core::Find(drop->window);
+  return window && CRect(0, 0, window->client.Width(), window->client.Height()).Contains(*point);
+}
+
+void DragFinish(HDROP handle) {
+  core::Drops().Remove(handle);
+  std::erase(core::Untaken(), handle);
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+// The frame that windows carry around their client area.
+
+#include "window/WindowObject.h"
+
+namespace core {
+
+// The frame's width on each side.
+RECT FrameInsets(DWORD style, DWORD exStyle);
+// The part of the window under a screen point, as WM_NCHITTEST answers.
+int FramePartAt(const Window& window, POINT screen);
+// Draws what is due of the frame.
+void PaintFrame(Window& window);
+// The close button's look under the pointer.
+void SetHoveredPart(Window& root, FramePart part);
+void SetPressedPart(Window& root, FramePart part);
+void InvalidateCaption(Window& root);
+
+}  // namespace core

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/Window.h"
+
+namespace core {
+
+// Whether posted messages wait.
+bool HasPosted();
+
+}  // namespace core
