@@ -20,13 +20,12 @@ std::uint32_t PixelOf(COLORREF color) {
 
 // Calls paint(rect) for each rectangle of the part that may be painted.
 template <typename Paint>
-void ForEachVisible(const DeviceContext& context, const CRect& rect, Paint paint) {
-  const Surface* surface = context.surface;
-  if (!surface || !surface->Pixels()) return;
-  CRect inside = rect.Intersected(CRect(0, 0, surface->Width(), surface->Height()));
-  if (inside.IsEmpty()) return;
-  for (const RECT& allowed : context.clip.Rects()) {
-    CRect visible = inside.Intersected(allowed);
+void ForEachVisible(const Surface& surface, std::span<const RECT> allowed, const CRect& rect,
+                    Paint paint) {
+  CRect inside = rect.Intersected(CRect(0, 0, surface.Width(), surface.Height()));
+  if (inside.IsEmpty() || !surface.Pixels()) return;
+  for (const RECT& part : allowed) {
+    CRect visible = inside.Intersected(part);
     if (!visible.IsEmpty()) paint(visible);
   }
 }
@@ -63,6 +62,20 @@ void FillBlended(const Surface& surface, const CRect& rect, std::uint32_t pixel,
   }
 }
 
+// The mask's own origin lies at maskOrigin.
+void BlendMask(const Surface& surface, const CRect& visible, const ShapeMask& mask,
+               POINT maskOrigin, COLORREF color) {
+  unsigned alpha = AlphaOf(color);
+  std::uint32_t pixel = PixelOf(color);
+  for (int y = visible.top; y < visible.bottom; ++y) {
+    const std::uint8_t* coverage = mask.Row(y - maskOrigin.y) - maskOrigin.x;
+    std::uint32_t* row = PixelRow(surface, y);
+    for (int x = visible.left; x < visible.right; ++x) {
+      if (coverage[x]) Blend(row[x], pixel, coverage[x] * alpha / 255);
+    }
+  }
+}
+
 }  // namespace
 
 CRect ToSurface(const DeviceContext& context, const RECT& rect) {
@@ -79,9 +92,9 @@ CRect ToSurface(const DeviceContext& context, const RECT& rect) {
 
 void FillPixels(const DeviceContext& context, const CRect& rect, COLORREF color) {
   unsigned alpha = AlphaOf(color);
-  if (alpha == 0) return;
+  if (alpha == 0 || !context.surface) return;
   std::uint32_t pixel = PixelOf(color);
-  ForEachVisible(context, rect, [&](const CRect& visible) {
+  ForEachVisible(*context.surface, context.clip.Rects(), rect, [&](const CRect& visible) {
     if (alpha == 255) return FillOpaque(*context.surface, visible, pixel);
     FillBlended(*context.surface, visible, pixel, alpha);
   });
@@ -89,16 +102,17 @@ void FillPixels(const DeviceContext& context, const CRect& rect, COLORREF color)
 
 void FillMask(const DeviceContext& context, const ShapeMask& mask, const CRect& part, POINT place,
               COLORREF color) {
-  unsigned alpha = AlphaOf(color);
-  std::uint32_t pixel = PixelOf(color);
+  if (!context.surface) return;
   CRect target = CRect(0, 0, part.Width(), part.Height()).Moved(place.x, place.y);
-  ForEachVisible(context, target, [&](const CRect& visible) {
-    for (int y = visible.top; y < visible.bottom; ++y) {
-      const std::uint8_t* coverage = mask.Row(part.top + y - place.y) + part.left - place.x;
-      std::uint32_t* row = PixelRow(*context.surface, y);
-      for (int x = visible.left; x < visible.right; ++x) {
-        if (coverage[x]) Blend(row[x], pixel, coverage[x] * alpha / 255);
-      }
-    }
+  POINT maskOrigin{place.x - part.left, place.y - part.top};
+  ForEachVisible(*context.surface, context.clip.Rects(), target, [&](const CRect& visible) {
+    BlendMask(*context.surface, visible, mask, maskOrigin, color);
   });
+}
+
+void FillMask(const Surface& surface, std::span<const RECT> allowed, const ShapeMask& mask,
+              POINT place, COLORREF color) {
+  CRect target = CRect(0, 0, mask.width, mask.height).Moved(place.x, place.y);
+  ForEachVisible(surface, allowed, target,
+                 [&](const CRect& visible) { BlendMask(surface, visible, mask, place, color); });
 }

@@ -40,16 +40,6 @@ void SetColor(cairo_t* cairo, COLORREF color) {
                         GetBValue(color) / 255.0, AlphaOf(color) / 255.0);
 }
 
-void ShowGlyphs(cairo_t* cairo, cairo_scaled_font_t* font, const GlyphRun& run, POINT baseline) {
-  static auto& glyphs = *new std::vector<cairo_glyph_t>;
-  glyphs.clear();
-  for (const PlacedGlyph& glyph : run.glyphs) {
-    glyphs.push_back({glyph.id, double(baseline.x + glyph.x), double(baseline.y + glyph.y)});
-  }
-  cairo_set_scaled_font(cairo, font);
-  cairo_show_glyphs(cairo, glyphs.data(), static_cast<int>(glyphs.size()));
-}
-
 void ShowLayout(cairo_t* cairo, PangoLayout* layout, POINT baseline) {
   cairo_move_to(cairo, baseline.x, baseline.y);
   pango_cairo_show_layout_line(cairo, pango_layout_get_line_readonly(layout, 0));
@@ -82,11 +72,22 @@ class LinePainter {
   using Span = std::pair<int, int>;
 
   void Show(const ShapedLine& shaped, const CRect& ink, POINT baseline) {
+    if (!shaped.layout) return ShowGlyphs(shaped.run, ink, baseline);
     ClipScope clip(context_, ink, limit_);
     cairo_t* cairo = context_.surface->Context();
     SetColor(cairo, color_);
-    if (shaped.layout) return ShowLayout(cairo, shaped.layout.get(), baseline);
-    ShowGlyphs(cairo, font_.ScaledFont(), shaped.run, baseline);
+    ShowLayout(cairo, shaped.layout.get(), baseline);
+  }
+
+  void ShowGlyphs(const GlyphRun& run, const CRect& ink, POINT baseline) {
+    CRect limit = ink.Intersected(limit_);
+    PixelRegion visible(limit);
+    if (!context_.clip.Contains(limit)) visible.Intersect(context_.clip);
+    for (const PlacedGlyph& glyph : run.glyphs) {
+      const GlyphMask& shape = font_.Glyph(glyph.id);
+      POINT place{baseline.x + glyph.x + shape.offset.x, baseline.y + glyph.y + shape.offset.y};
+      FillMask(*context_.surface, visible.Rects(), shape.mask, place, color_);
+    }
   }
 
   void Underline(Span span, const CRect& box) {

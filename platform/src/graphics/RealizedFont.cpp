@@ -53,6 +53,7 @@ RealizedFont::RealizedFont(const FontKey& key)
       strikeOut_(key.strikeOut),
       lineThickness_(std::max(1, key.size / kLinesPerEm)),
       words_(font_.get()),
+      glyphs_(scaled_),
       metrics_(Measure()) {}
 
 FontMetrics RealizedFont::Measure() {

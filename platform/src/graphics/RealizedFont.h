@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "graphics/GlyphMasks.h"
 #include "graphics/TextEngine.h"
 #include "graphics/WordShaper.h"
 #include "platform/Font.h"
@@ -37,7 +38,7 @@ class RealizedFont {
 
   const FontMetrics& Metrics() const { return metrics_; }
   const PangoFontDescription* Description() const { return description_.get(); }
-  cairo_scaled_font_t* ScaledFont() const { return scaled_; }
+  const GlyphMask& Glyph(unsigned id) { return glyphs_.Get(id); }
   // Underline and strike-out lines.
   int LineThickness() const { return lineThickness_; }
   bool HasUnderline() const { return underline_; }
@@ -59,6 +60,7 @@ class RealizedFont {
   bool strikeOut_;
   int lineThickness_;
   WordShaper words_;
+  GlyphMasks glyphs_;
   std::array<TextMap<ShapedLine>, 3> lines_;  // by base direction
   ShapedLine longLine_;                       // too long to be worth remembering
   FontMetrics metrics_;

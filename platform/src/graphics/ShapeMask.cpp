@@ -1,7 +1,5 @@
 #include "graphics/ShapeMask.h"
 
-#include <cairo.h>
-
 #include <algorithm>
 #include <initializer_list>
 #include <map>
@@ -68,10 +66,17 @@ void Draw(cairo_t* context, Shape shape, int width, int height, int thickness) {
 }
 
 ShapeMask Rasterise(Shape shape, int width, int height, int thickness) {
+  return RasteriseMask(width, height,
+                       [&](cairo_t* context) { Draw(context, shape, width, height, thickness); });
+}
+
+}  // namespace
+
+ShapeMask RasteriseMask(int width, int height, const std::function<void(cairo_t*)>& draw) {
   ShapeMask mask{width, height, {}};
   cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_A8, width, height);
   cairo_t* context = cairo_create(surface);
-  Draw(context, shape, width, height, thickness);
+  draw(context);
   cairo_destroy(context);
   cairo_surface_flush(surface);
   const unsigned char* row = cairo_image_surface_get_data(surface);
@@ -83,8 +88,6 @@ ShapeMask Rasterise(Shape shape, int width, int height, int thickness) {
   mask.coverage.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
   return mask;
 }
-
-}  // namespace
 
 const ShapeMask& GetShapeMask(Shape shape, int width, int height, int thickness) {
   static auto& masks = *new std::map<std::tuple<Shape, int, int, int>, ShapeMask>;
