@@ -11,7 +11,7 @@ done
 
 clang-format --dry-run -Werror "${files[@]}"
 
-scripts/build.sh debug all
+cmake --preset debug >/dev/null
 sources=()
 for file in "${files[@]}"; do [[ $file != *.cpp ]] || sources+=("$file"); done
 # The compiler's own precompiled headers mean nothing to clang.
