@@ -69,7 +69,7 @@ class WEXA_API BaseGUIObject : public WexaObject {
   BaseGUIObject(const BaseGUIObject&) = delete;
   BaseGUIObject& operator=(const BaseGUIObject&) = delete;
 
-  // -- Virtual operations --------------------------------------------------------------------------
+  // -- Virtual operations -------------------------------------------------------
 
   // Makes the native window under `parent`; false when it cannot be made.
   virtual bool Create(HWND parent) = 0;
@@ -119,7 +119,7 @@ class WEXA_API BaseGUIObject : public WexaObject {
   // redrawn. False for a mode that cannot be loaded.
   virtual bool SetSkinMode(SkinMode mode, bool repaint);
 
-  // -- Common operations ---------------------------------------------------------------------------
+  // -- Common operations --------------------------------------------------------
 
   // Limits in 96-DPI units, rounded to whole pixels.
   void SetMinimumSize(const Size& size);

@@ -53,8 +53,8 @@ class WEXA_API SkinManagerColor {
   SkinManagerColor operator+(const SkinManagerColor& other);
   SkinManagerColor operator-(const SkinManagerColor& other);
   SkinManagerColor& operator&(const unsigned long& mask);
-  // A new colour; this one stays as it is.
-  SkinManagerColor operator&(const int& mask) const {
+  // A new colour; this one stays as it is. (Not const, or masks of either type would be ambiguous.)
+  SkinManagerColor operator&(const int& mask) {
     return {static_cast<unsigned long>(value_ & static_cast<std::uint32_t>(mask))};
   }
 

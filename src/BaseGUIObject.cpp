@@ -20,8 +20,12 @@ Size Scaled(const Size& size) {
           static_cast<int>(std::lround(size.Height() * scale))};
 }
 
-int ToPixels(int units) { return static_cast<int>(units * WexaUtils::GetScaleFactor()); }
-int ToUnits(int pixels) { return static_cast<int>(pixels / WexaUtils::GetScaleFactor()); }
+int ToPixels(int units) {
+  return static_cast<int>(units * WexaUtils::GetScaleFactor());
+}
+int ToUnits(int pixels) {
+  return static_cast<int>(pixels / WexaUtils::GetScaleFactor());
+}
 
 }  // namespace
 
@@ -40,14 +44,30 @@ void BaseGUIObject::SetEventProcedure(const EventHandler& procedure) {
   eventProcedure_ = procedure ? std::make_shared<const EventHandler>(procedure) : NoProcedure();
 }
 
-Size BaseGUIObject::IdealSize() { return GetBaseImpl()->IdealSize(); }
-Size BaseGUIObject::MinimumIdealSize() { return GetBaseImpl()->MinimumIdealSize(); }
-Size BaseGUIObject::MinimumSize() { return GetBaseImpl()->MinimumSize(); }
-Size BaseGUIObject::MaximumSize() { return GetBaseImpl()->MaximumSize(); }
-void BaseGUIObject::Show(bool show, bool updateLayout) { GetBaseImpl()->Show(show, updateLayout); }
-bool BaseGUIObject::IsVisible() { return GetBaseImpl()->IsVisible(); }
-void BaseGUIObject::Enable(bool enable, bool remember) { GetBaseImpl()->Enable(enable, remember); }
-bool BaseGUIObject::IsEnabled() { return GetBaseImpl()->IsEnabled(); }
+Size BaseGUIObject::IdealSize() {
+  return GetBaseImpl()->IdealSize();
+}
+Size BaseGUIObject::MinimumIdealSize() {
+  return GetBaseImpl()->MinimumIdealSize();
+}
+Size BaseGUIObject::MinimumSize() {
+  return GetBaseImpl()->MinimumSize();
+}
+Size BaseGUIObject::MaximumSize() {
+  return GetBaseImpl()->MaximumSize();
+}
+void BaseGUIObject::Show(bool show, bool updateLayout) {
+  GetBaseImpl()->Show(show, updateLayout);
+}
+bool BaseGUIObject::IsVisible() {
+  return GetBaseImpl()->IsVisible();
+}
+void BaseGUIObject::Enable(bool enable, bool remember) {
+  GetBaseImpl()->Enable(enable, remember);
+}
+bool BaseGUIObject::IsEnabled() {
+  return GetBaseImpl()->IsEnabled();
+}
 
 void BaseGUIObject::MoveWindow(int x, int y, int width, int height, bool repaint) {
   GetBaseImpl()->MoveWindow(x, y, width, height, repaint);
@@ -57,21 +77,36 @@ void BaseGUIObject::MoveWindowUnscaled(int x, int y, int width, int height, bool
   GetBaseImpl()->MoveWindow(ToPixels(x), ToPixels(y), ToPixels(width), ToPixels(height), repaint);
 }
 
-void BaseGUIObject::Update(const Region& region) { GetBaseImpl()->Update(region); }
-void BaseGUIObject::Update() { GetBaseImpl()->Update(); }
-void BaseGUIObject::Repaint(const Region& region) { GetBaseImpl()->Repaint(region); }
-void BaseGUIObject::Repaint() { GetBaseImpl()->Repaint(); }
-int BaseGUIObject::GetLogicalPixelsX() { return GetBaseImpl()->GetLogicalPixelsX(); }
-int BaseGUIObject::GetLogicalPixelsY() { return GetBaseImpl()->GetLogicalPixelsY(); }
-Rect BaseGUIObject::GetWindowRect() { return GetBaseImpl()->GetWindowRect(); }
+void BaseGUIObject::Update(const Region& region) {
+  GetBaseImpl()->Update(region);
+}
+void BaseGUIObject::Update() {
+  GetBaseImpl()->Update();
+}
+void BaseGUIObject::Repaint(const Region& region) {
+  GetBaseImpl()->Repaint(region);
+}
+void BaseGUIObject::Repaint() {
+  GetBaseImpl()->Repaint();
+}
+int BaseGUIObject::GetLogicalPixelsX() {
+  return GetBaseImpl()->GetLogicalPixelsX();
+}
+int BaseGUIObject::GetLogicalPixelsY() {
+  return GetBaseImpl()->GetLogicalPixelsY();
+}
+Rect BaseGUIObject::GetWindowRect() {
+  return GetBaseImpl()->GetWindowRect();
+}
 
 Rect BaseGUIObject::GetWindowRectUnscaled() {
   Rect rect = GetWindowRect();
-  return {ToUnits(rect.Left()), ToUnits(rect.Top()), ToUnits(rect.Width()),
-          ToUnits(rect.Height())};
+  return {ToUnits(rect.Left()), ToUnits(rect.Top()), ToUnits(rect.Width()), ToUnits(rect.Height())};
 }
 
-Rect BaseGUIObject::GetClientRect() { return GetBaseImpl()->GetClientRect(); }
+Rect BaseGUIObject::GetClientRect() {
+  return GetBaseImpl()->GetClientRect();
+}
 
 Point BaseGUIObject::ScreenToClient(Point point) {
   return GetBaseImpl()->ScreenToClient(point.x, point.y);
@@ -81,21 +116,35 @@ Point BaseGUIObject::ClientToScreen(Point point) {
   return GetBaseImpl()->ClientToScreen(point.x, point.y);
 }
 
-HWND BaseGUIObject::GetParentWindow() { return parentWindow_; }
-void BaseGUIObject::SetParentWindow(HWND parent) { parentWindow_ = parent; }
-void BaseGUIObject::SetTopLevelDlg(CWnd* dialog) { topLevelDlg_ = dialog; }
-CWnd* BaseGUIObject::GetTopLevelDlg() { return topLevelDlg_; }
+HWND BaseGUIObject::GetParentWindow() {
+  return parentWindow_;
+}
+void BaseGUIObject::SetParentWindow(HWND parent) {
+  parentWindow_ = parent;
+}
+void BaseGUIObject::SetTopLevelDlg(CWnd* dialog) {
+  topLevelDlg_ = dialog;
+}
+CWnd* BaseGUIObject::GetTopLevelDlg() {
+  return topLevelDlg_;
+}
 
 unsigned BaseGUIObject::SetTimer(unsigned id, unsigned milliseconds) {
   return GetBaseImpl()->SetTimer(id, milliseconds);
 }
 
-void BaseGUIObject::KillTimer(unsigned id) { GetBaseImpl()->KillTimer(id); }
-SizePolicy BaseGUIObject::GetSizePolicy() const { return GetBaseImpl()->GetSizePolicy(); }
+void BaseGUIObject::KillTimer(unsigned id) {
+  GetBaseImpl()->KillTimer(id);
+}
+SizePolicy BaseGUIObject::GetSizePolicy() const {
+  return GetBaseImpl()->GetSizePolicy();
+}
 void BaseGUIObject::SetSizePolicy(const SizePolicy& policy) {
   GetBaseImpl()->SetSizePolicy(policy);
 }
-SkinManager& BaseGUIObject::GetSkinManager() { return GetBaseImpl()->GetSkinManager(); }
+SkinManager& BaseGUIObject::GetSkinManager() {
+  return GetBaseImpl()->GetSkinManager();
+}
 bool BaseGUIObject::SetSkinMode(SkinMode mode, bool repaint) {
   return GetBaseImpl()->SetSkinMode(mode, repaint);
 }
@@ -106,10 +155,18 @@ void BaseGUIObject::SetMinimumSize(const Size& size) {
 void BaseGUIObject::SetMaximumSize(const Size& size) {
   GetBaseImpl()->SetMaximumSize(Scaled(size));
 }
-int BaseGUIObject::GetFrarmeWidth() { return GetBaseImpl()->GetFrameWidth(); }
-void BaseGUIObject::SetAcceptDrops(bool accept) { GetBaseImpl()->SetAcceptDrops(accept); }
-bool BaseGUIObject::IsAcceptDrops() { return GetBaseImpl()->IsAcceptDrops(); }
-void BaseGUIObject::SetTrackMouseEvent() { GetBaseImpl()->SetTrackMouseEvent(); }
+int BaseGUIObject::GetFrarmeWidth() {
+  return GetBaseImpl()->GetFrameWidth();
+}
+void BaseGUIObject::SetAcceptDrops(bool accept) {
+  GetBaseImpl()->SetAcceptDrops(accept);
+}
+bool BaseGUIObject::IsAcceptDrops() {
+  return GetBaseImpl()->IsAcceptDrops();
+}
+void BaseGUIObject::SetTrackMouseEvent() {
+  GetBaseImpl()->SetTrackMouseEvent();
+}
 
 CWnd* BaseGUIObject::GetPlatformWindow() const {
   auto impl = GetBaseImpl();

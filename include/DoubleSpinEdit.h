@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "BaseGUIObject.h"
+
+namespace Wexa {
+
+// A field for a number. It shows its value.
+class WEXA_API DoubleSpinEdit : public BaseGUIObject {
+ public:
+  class impl;
+
+  DoubleSpinEdit();
+  ~DoubleSpinEdit() override;
+
+  bool Create(HWND parent) override;
+  std::shared_ptr<BaseImpl> GetBaseImpl() const override;
+  Size IdealSize() override;
+
+  // The value is kept within the range.
+  void SetRange(double minimum, double maximum);
+  void SetValue(double value);
+  double GetValue() const;
+  // Shown before and after the value.
+  void SetPrefix(const std::wstring& prefix);
+  void SetSuffix(const std::wstring& suffix);
+  // Digits after the separator, 0 to 15; 2 unless set.
+  void SetDecimals(int decimals);
+
+ private:
+  std::shared_ptr<impl> impl_;
+};
+
+}  // namespace Wexa

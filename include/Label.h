@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "BaseGUIObject.h"
+
+namespace Wexa {
+
+// A text. With a buddy, the character after its "&" is a mnemonic that gives the buddy the focus.
+class WEXA_API Label : public BaseGUIObject {
+ public:
+  class impl;
+
+  enum class Alignment { Left = 0, Center = 1, Right = 2 };
+
+  Label();
+  ~Label() override;
+
+  bool Create(HWND parent) override;
+  std::shared_ptr<BaseImpl> GetBaseImpl() const override;
+  Size IdealSize() override;
+
+  void SetText(const std::wstring& text);
+  std::wstring GetText();
+  void SetAlignment(Alignment alignment);
+  // Texts are centred vertically unless told otherwise.
+  void SetVerticallyCentered(bool centered);
+  // A wrapped label's height depends on its width.
+  void SetWordWrap(bool wrap);
+  void SetFont(const FontData& font);
+  // Not owned; null for none.
+  void SetBuddy(BaseGUIObject* buddy);
+  BaseGUIObject* GetBuddy() const;
+
+ private:
+  std::shared_ptr<impl> impl_;
+};
+
+}  // namespace Wexa

@@ -1,0 +1,159 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "FontData.h"
+#include "MFC/BaseImpl.h"
+#include "SkinManager.h"
+#include "platform/Classes.h"
+
+struct ControlPalette;
+
+namespace Wexa {
+
+class BaseGUIObject;
+
+// What a widget was told before its native window exists; sizes in 96-DPI units, on the dialog.
+struct CreationRecord {
+  std::wstring text;
+  std::wstring title;
+  CRect rect;
+  DWORD style = WS_CHILD | WS_VISIBLE;
+  DWORD exStyle = 0;
+  UINT controlId = 0;
+  bool enabled = true;
+};
+
+// The common behaviour of all widgets with a native window.
+class BaseImplMFC : public BaseImpl {
+ public:
+  explicit BaseImplMFC(BaseGUIObject* owner);
+  ~BaseImplMFC() override;
+  BaseImplMFC(const BaseImplMFC&) = delete;
+  BaseImplMFC& operator=(const BaseImplMFC&) = delete;
+
+  void Show(bool show, bool updateLayout) override;
+  // The widget's own visibility, whether or not its dialog is shown yet.
+  bool IsVisible() override;
+  void Enable(bool enable, bool remember) override;
+  bool IsEnabled() override;
+  int GetLogicalPixelsX() override;
+  int GetLogicalPixelsY() override;
+  Rect GetWindowRect() override;
+  Rect GetClientRect() override;
+  Point ScreenToClient(int x, int y) override;
+  Point ClientToScreen(int x, int y) override;
+  Size IdealSize() override;
+  Size MinimumIdealSize() override;
+  Size MinimumSize() override { return minimumSize_; }
+  Size MaximumSize() override { return maximumSize_; }
+  void SetMinimumSize(Size size) override { minimumSize_ = size; }
+  void SetMaximumSize(Size size) override { maximumSize_ = size; }
+  void MoveWindow(int x, int y, int width, int height, bool repaint) override;
+  int GetFrameWidth() override;
+  unsigned SetTimer(unsigned id, unsigned milliseconds) override;
+  void KillTimer(unsigned id) override;
+  void Update(const Region& region) override;
+  void Update() override;
+  void Repaint(const Region& region) override { Update(region); }
+  void Repaint() override;
+  SizePolicy GetSizePolicy() override { return sizePolicy_; }
+  void SetSizePolicy(const SizePolicy& policy) override { sizePolicy_ = policy; }
+  void SetAcceptDrops(bool accept) override;
+  bool IsAcceptDrops() override { return acceptDrops_; }
+  void SetTrackMouseEvent() override;
+  bool IsMouseTracked() override { return mouseTracked_; }
+  void SetMouseTracked(bool tracked) override { mouseTracked_ = tracked; }
+  void OnSkinColorsChanged() override {}
+  HWND GetHandle() override;
+
+  int HeightForWidth(int width) override;
+  bool HasHeightForWidth() override;
+  Rect GetLayoutRect() override;
+  Rect LayoutGeometry() override { return lastGeometry_; }
+  bool PostLayoutRequest() override;
+  int ParentScrollOffset() override;
+  void SetFixedSize(Size size) override;
+  void RefreshSkinColors() override {}
+  bool Create(HWND parent) override;
+  SkinManager& GetSkinManager() override { return skinManager_; }
+  bool SetSkinMode(SkinMode mode, bool repaint) override;
+  int GetTextWidth(const std::wstring& text, const FontData* font) override;
+  void Release() override;
+
+  // The widget's own font; an empty record means the dialog's.
+  const FontData& GetFontRecord() const { return fontRecord_; }
+  void SetFont(const FontData& font);
+  // The font the widget draws with.
+  HFONT Font() const;
+  // The font as the native window has it, as a record.
+  FontData NativeFont();
+  // Keeps the top-left corner and changes the size.
+  void Resize(int width, int height);
+  // Places the widget as a layout item asks, then its own layout.
+  void SetLayoutGeometry(int x, int y, int width, int height);
+  virtual void UpdateLayout();
+  // The widget's content changed size: the layout that holds it has to look again.
+  void InvalidateLayout();
+  void SetSkinManager(const SkinManager& skin) { skinManager_ = skin; }
+  // Destroys the layout with its items, before the widgets that they place.
+  void DeleteLayout();
+  // The dialog is going while others may still hold the widget: its skin stands on its own.
+  void LeaveDialog();
+  // The native window is going: what the user entered stays readable.
+  virtual void KeepState();
+  // The colours the native control paints with, from the skin.
+  virtual void FillPalette(ControlPalette& palette);
+  // The colour the widget gives what stands on it.
+  virtual COLORREF BackgroundColor();
+  // Child widgets whose skins follow this one's.
+  std::vector<BaseGUIObject*>& Children() { return children_; }
+
+  CreationRecord& Creation() { return creation_; }
+  const CreationRecord& Creation() const { return creation_; }
+  BaseGUIObject* Owner() const { return owner_; }
+
+ protected:
+  // Makes the native window; the record is filled and the parent is a window of this process.
+  virtual bool CreateNative(CWnd* parent) = 0;
+  // The window object, or the "Control is not valid." exception.
+  CWnd& Window();
+  // The creation rectangle in device pixels.
+  CRect ScaledRect() const;
+  // The window's text, or what it will be given.
+  std::wstring Text();
+  void SetText(const std::wstring& text);
+
+  // Lets the library's window procedure see the window's messages.
+  void AttachWindowProcedure();
+
+ private:
+  Size Clamped(int width, int height) const;
+
+  BaseGUIObject* owner_;
+  CreationRecord creation_;
+  Size minimumSize_;
+  Size maximumSize_;
+  SizePolicy sizePolicy_;
+  SkinManager skinManager_;
+  FontData fontRecord_;
+  std::unique_ptr<CFont> font_;
+  bool mouseTracked_ = false;
+  bool acceptDrops_ = false;
+  bool enabledState_ = true;
+  Rect lastGeometry_;
+  std::vector<BaseGUIObject*> children_;
+};
+
+// The implementation behind a widget; null for a null widget.
+BaseImplMFC* ImplOf(const BaseGUIObject* widget);
+
+// A metric of 96-DPI units in pixels, truncated toward zero.
+int Scale(int units);
+Size Scale(int width, int height);
+// What a check box or radio button needs for its mark and text.
+Size CheckSizeFor(HFONT font, const std::wstring& text);
+
+}  // namespace Wexa

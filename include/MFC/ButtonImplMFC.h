@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "Button.h"
+#include "MFC/BaseImplMFC.h"
+#include "MFC/ButtonMFC.h"
+
+namespace Wexa {
+
+class Button::impl : public BaseImplMFC {
+ public:
+  explicit impl(Button* owner);
+  impl(Button* owner, std::shared_ptr<CButton> native);
+  ~impl() override;
+
+  CWnd* GetCWnd() override { return window_.get(); }
+  Size IdealSize() override;
+  Size MinimumIdealSize() override { return IdealSize(); }
+  void FillPalette(ControlPalette& palette) override;
+  void RefreshSkinColors() override;
+  void Show(bool show, bool updateLayout) override;
+
+  void SetText(const std::wstring& text);
+  std::wstring GetText() { return Text(); }
+  void SetChecked(bool checked);
+  bool IsChecked();
+  void SetStyle(ButtonStyle style);
+  ButtonStyle GetStyle() const { return style_; }
+  void SetFaces(const std::array<RGBColor, 5>& faces);
+  void SetBorders(RGBColor normal, RGBColor hovered, RGBColor pressed);
+  void SetTextColors(std::optional<RGBColor> normal, std::optional<RGBColor> disabled);
+
+  // The dialog's default button, as its form says.
+  bool isDefault = false;
+  bool focusRectDisabled = false;
+  int cornerRadius = 0;  // 96-DPI units
+
+  // -- From the native button
+  void OnClicked();
+  bool OnPreTranslate(const MSG& message);
+  bool IsOwnerDrawn() const { return style_ != ButtonStyle::Native || hasBorders_; }
+  void PaintOwnerDrawn();
+
+ protected:
+  bool CreateNative(CWnd* parent) override;
+
+ private:
+  bool CreateButton(const CRect& rect, DWORD style, CWnd* parent);
+  void MakeCheckable();
+  void TellButtonBox();
+
+  std::shared_ptr<CButton> window_;
+  ButtonStyle style_ = ButtonStyle::Native;
+  bool checkable_ = false;
+  bool hasBorders_ = false;
+  std::optional<std::array<RGBColor, 5>> faces_;  // normal, hovered, pressed, disabled, checked
+};
+
+}  // namespace Wexa

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "CheckBox.h"
+#include "MFC/BaseImplMFC.h"
+#include "MFC/ButtonMFC.h"
+
+namespace Wexa {
+
+class CheckBox::impl : public BaseImplMFC {
+ public:
+  explicit impl(CheckBox* owner);
+
+  CWnd* GetCWnd() override { return &window_; }
+  Size IdealSize() override;
+  Size MinimumIdealSize() override { return IdealSize(); }
+  void FillPalette(ControlPalette& palette) override;
+  void RefreshSkinColors() override;
+  void KeepState() override;
+
+  using BaseImplMFC::SetText;
+  using BaseImplMFC::Text;
+  void SetCheck(int state);
+  int GetCheck();
+  void SetTristate(bool tristate);
+
+  int borderRadius = 0;
+
+  // -- From the native button
+  void OnClicked();
+  bool OnPreTranslate(const MSG&) { return false; }
+  bool IsOwnerDrawn() const { return false; }
+  void PaintOwnerDrawn() {}
+
+ protected:
+  bool CreateNative(CWnd* parent) override;
+
+ private:
+  ButtonMFC<CheckBox> window_;
+  int initialCheck_ = 0;
+};
+
+}  // namespace Wexa

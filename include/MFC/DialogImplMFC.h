@@ -1,0 +1,101 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "Dialog.h"
+#include "MFC/BaseImplMFC.h"
+#include "MFC/BuildStatistics.h"
+
+namespace Wexa {
+
+class BaseDialogMFC;
+class ButtonBox;
+
+class Dialog::impl : public BaseImplMFC {
+ public:
+  struct Element {
+    std::wstring name;
+    std::shared_ptr<BaseGUIObject> widget;
+  };
+
+  impl(Dialog* owner, DWORD style, CWnd* parent);
+  ~impl() override;
+
+  // Builds from the text, or from the file when there is no text. Throws as the constructor of
+  // Dialog says.
+  void Build(const std::wstring& text, const std::wstring& uiFile);
+
+  CWnd* GetCWnd() override;
+  Size IdealSize() override;
+  void SetFixedSize(Size size) override;
+  void MoveWindow(int x, int y, int width, int height, bool repaint) override;
+  COLORREF BackgroundColor() override;
+  void FillPalette(ControlPalette& palette) override;
+  void OnSkinColorsChanged() override;
+  void RefreshSkinColors() override;
+  bool SetSkinMode(SkinMode mode, bool repaint) override;
+  void SetCustomSkin(const SkinManager& skin, bool update);
+
+  int DoModal();
+  void DoModeless(CWnd* parent, bool show);
+  void Done(int state);
+  // Gives the client area this size in pixels, kept within the dialog's limits.
+  void ResizeClient(int width, int height);
+
+  void AddElement(const std::wstring& name, std::shared_ptr<BaseGUIObject> widget);
+  const std::vector<Element>& Elements() const { return elements_; }
+  std::shared_ptr<BaseGUIObject> ElementByName(const std::wstring& name) const;
+  BaseGUIObject* FocusedElement() const;
+  void SetDefaultButton(Button* button);
+
+  Size clientSize;  // as built, in pixels
+  std::wstring title;
+  bool resizable = true;
+  std::vector<std::wstring> tabOrder;
+  WexaUtils::CursorTypes cursorType = WexaUtils::CursorTypes{};
+  BuildStatistics statistics;
+
+  // -- From the native dialog
+  bool OnInitDialog();
+  bool OnPreTranslate(MSG& message, BOOL& result);
+  void OnCloseRequest();
+  bool OnSetCursor();
+  void OnGetMinMaxInfo(MINMAXINFO& info);
+
+ protected:
+  bool CreateNative(CWnd* parent) override;
+
+ private:
+  void InitSkin();
+  void BuildTemplate();
+  void MakeWindow();
+  void SettleStyle();
+  void SizeToClient();
+  void CreateElements();
+  void ApplyTabOrder();
+  void ArrangeFirstTime();
+  DLGTEMPLATE& Template();
+  void ChooseDefaultButton();
+  void SettleFrame();
+  bool EnterKeyMapMode();
+  void ReinitialiseChildSkins(SkinMode mode);
+  bool FollowBuddyMnemonic(const MSG& message);
+  Size FrameSize();
+  Size WithinLimits(Size client);
+
+  std::unique_ptr<BaseDialogMFC> window_;
+  CWnd* parentWindow_;
+  std::vector<Element> elements_;
+  std::unordered_map<std::wstring, std::size_t> elementsByName_;
+  std::vector<std::uint32_t> dialogTemplate_;  // keeps the records aligned
+  int defaultButtonId_ = -1;
+  bool wasInitialized_ = false;
+};
+
+// Ids of controls: one counter for the process, from 3000 up.
+UINT NextControlId();
+
+}  // namespace Wexa

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Window.h"
+
+namespace Wexa {
+
+inline constexpr UINT_PTR kWindowProcedureId = 1;
+// Asks a top-level widget to lay out again.
+inline constexpr UINT kUpdateLayoutsMessage = WM_APP + 2;
+// Second parameter of the paint message that follows every painting, up the parents.
+inline constexpr LPARAM kPostPaint = 1;
+
+// The subclass procedure of every widget's native window; data = the widget. It turns native
+// messages into event records, offers them to the widget's event procedure, and lets the default
+// processing run when that did not handle them.
+LRESULT WexaWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                            DWORD_PTR data);
+
+}  // namespace Wexa

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "MFC/PaintedImpl.h"
+
+namespace Wexa {
+
+// Widgets that show content in a bordered field. They are shown, not edited.
+class FieldImpl : public PaintedImpl {
+ public:
+  explicit FieldImpl(BaseGUIObject* owner);
+  void FillPalette(ControlPalette& palette) override;
+  void RefreshSkinColors() override;
+  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
+
+ protected:
+  // Draws inside the field's padding.
+  virtual void PaintContent(Painter& painter, const CRect& inner,
+                            const ControlPalette& palette) = 0;
+  virtual int CornerRadius() const { return 0; }
+  COLORREF TextColor(const ControlPalette& palette);
+  bool IsShownEnabled();
+  // One line of this width in pixels with the field's padding around it.
+  Size LineSize(int textWidth) const;
+};
+
+// One line of text with a part at its right end: combo, spin and date fields.
+class LineFieldImpl : public FieldImpl {
+ public:
+  using FieldImpl::FieldImpl;
+  Size IdealSize() override;
+  Size MinimumIdealSize() override;
+
+ protected:
+  void PaintContent(Painter& painter, const CRect& inner, const ControlPalette& palette) override;
+  virtual std::wstring ShownText() = 0;
+  // Widest text that the field should hold, in pixels.
+  virtual int ContentWidth() = 0;
+  virtual void PaintEnd(Painter& painter, const CRect& end, const ControlPalette& palette) = 0;
+};
+
+// Lines of text: lists, trees and text areas.
+class TextAreaImpl : public FieldImpl {
+ public:
+  using FieldImpl::FieldImpl;
+  Size IdealSize() override;
+  Size MinimumIdealSize() override;
+  std::vector<std::wstring> lines;
+  bool wraps = false;
+
+ protected:
+  void PaintContent(Painter& painter, const CRect& inner, const ControlPalette& palette) override;
+};
+
+}  // namespace Wexa

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "MFC/BaseImplMFC.h"
+#include "MFC/ButtonMFC.h"
+#include "RadioButton.h"
+
+namespace Wexa {
+
+class RadioButton::impl : public BaseImplMFC {
+ public:
+  explicit impl(RadioButton* owner);
+
+  CWnd* GetCWnd() override { return &window_; }
+  Size IdealSize() override;
+  Size MinimumIdealSize() override { return IdealSize(); }
+  void FillPalette(ControlPalette& palette) override;
+  void RefreshSkinColors() override;
+  void KeepState() override;
+
+  using BaseImplMFC::SetText;
+  using BaseImplMFC::Text;
+  void SetCheck();
+  bool IsChecked();
+
+  std::shared_ptr<GroupInfo> group;
+  std::wstring groupName;  // of the form
+  bool checkedByForm = false;
+
+  // -- From the native button
+  void OnClicked();
+  bool OnPreTranslate(const MSG&) { return false; }
+  bool IsOwnerDrawn() const { return false; }
+  void PaintOwnerDrawn() {}
+
+ protected:
+  bool CreateNative(CWnd* parent) override;
+
+ private:
+  unsigned CheckedIdOfGroup();
+
+  ButtonMFC<RadioButton> window_;
+};
+
+}  // namespace Wexa

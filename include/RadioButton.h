@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "BaseGUIObject.h"
+
+namespace Wexa {
+
+// The radio buttons of which one is checked: a range of control ids in one parent window.
+struct GroupInfo {
+  unsigned firstId = 0;
+  unsigned lastId = 0;
+  unsigned checkedId = 0;  // the one last reported, 0 when none was
+};
+
+class WEXA_API RadioButton : public BaseGUIObject {
+ public:
+  class impl;
+
+  RadioButton();
+  ~RadioButton() override;
+
+  // Fired by a click on a radio button that is checked then.
+  CallbackList<> Clicked;
+  // Fired after Clicked when another button of the group was checked before.
+  CallbackList<> GroupChanged;
+
+  bool Create(HWND parent) override;
+  std::shared_ptr<BaseImpl> GetBaseImpl() const override;
+  Size IdealSize() override;
+
+  // Checks this button and unchecks the rest of its group. Nothing happens without a native window or
+  // a group.
+  virtual void SetCheck();
+  virtual bool Checked();
+
+  void SetText(const std::wstring& text);
+  std::wstring GetText();
+  void SetGroupInfo(std::shared_ptr<GroupInfo> group);
+  std::shared_ptr<GroupInfo> GetGroupInfo();
+
+ private:
+  std::shared_ptr<impl> impl_;
+};
+
+}  // namespace Wexa

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include "BaseGUIObject.h"
+
+namespace Wexa {
+
+// A framed view of a content widget, which fills it unless it needs more room.
+class WEXA_API ScrollArea : public BaseGUIObject {
+ public:
+  class impl;
+
+  ScrollArea();
+  ~ScrollArea() override;
+
+  bool Create(HWND parent) override;
+  std::shared_ptr<BaseImpl> GetBaseImpl() const override;
+  Size IdealSize() override;
+
+  // Not owned; null for none.
+  void SetContent(BaseGUIObject* content);
+
+ private:
+  std::shared_ptr<impl> impl_;
+};
+
+}  // namespace Wexa

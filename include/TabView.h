@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "BaseGUIObject.h"
+
+namespace Wexa {
+
+class ChildDialog;
+
+// Pages of which one is shown, chosen by tabs. The pages belong to the dialog that built them.
+class WEXA_API TabView : public BaseGUIObject {
+ public:
+  class impl;
+
+  TabView();
+  ~TabView() override;
+
+  // Fired with the new index after the current page changed.
+  CallbackList<int> CurrentChanged;
+
+  bool Create(HWND parent) override;
+  std::shared_ptr<BaseImpl> GetBaseImpl() const override;
+
+  // Appends a page with its caption.
+  void AddPage(ChildDialog* page, const std::wstring& caption);
+  // -1 without pages.
+  int GetCurrentIndex();
+  int GetItemCount();
+  // An index out of range changes nothing.
+  virtual void SetCurrentIndex(int index);
+  void ActivateNextTab();
+  void ActivatePreviousTab();
+  // Nothing happens for an index out of range.
+  virtual void EnablePage(int index, bool enable, bool remember);
+  virtual void SetTabText(int index, const std::wstring& text);
+  // At most 255 characters; empty for an index out of range.
+  virtual std::wstring GetTabText(int index);
+
+ private:
+  std::shared_ptr<impl> impl_;
+};
+
+}  // namespace Wexa

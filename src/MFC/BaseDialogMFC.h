@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Dialog.h"
+#include "platform/Classes.h"
+
+namespace Wexa {
+
+// The native dialog window.
+class BaseDialogMFC : public CDialogEx {
+ public:
+  explicit BaseDialogMFC(Dialog::impl& impl) : impl_(impl) {}
+  BOOL PreTranslateMessage(MSG* message) override;
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  BOOL OnInitDialog() override;
+  // Return does nothing when the dialog has no default button.
+  void OnOK() override {}
+  void OnCancel() override;
+
+ private:
+  Dialog::impl& impl_;
+};
+
+}  // namespace Wexa

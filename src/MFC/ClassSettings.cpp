@@ -1,0 +1,184 @@
+#include "MFC/ClassSettings.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string_view>
+
+#include "CheckBox.h"
+#include "ComboBox.h"
+#include "DoubleSpinEdit.h"
+#include "Edit.h"
+#include "GroupBox.h"
+#include "Label.h"
+#include "ListBox.h"
+#include "MFC/ButtonBoxImplMFC.h"
+#include "MFC/ButtonImplMFC.h"
+#include "MFC/PagesImpl.h"
+#include "MFC/RadioButtonImplMFC.h"
+#include "MultiLineEdit.h"
+#include "ProgressBar.h"
+#include "RichEdit.h"
+#include "ScrollBar.h"
+#include "Slider.h"
+#include "SpinEdit.h"
+#include "Splitter.h"
+#include "TabView.h"
+#include "form/FormModel.h"
+#include "form/FormText.h"
+#include "form/RichText.h"
+
+namespace Wexa {
+
+namespace {
+
+using GuiType = BaseGUIObject::GuiType;
+
+bool Has(const FormNode& node, PropertyId id, std::wstring_view word) {
+  const std::wstring* text = node.Text(id);
+  return text && HasEnumWord(*text, word);
+}
+
+bool IsExtraTrue(const FormNode& node, std::wstring_view name) {
+  const std::wstring* text = node.Extra(name);
+  return text && *text == L"true";
+}
+
+double NumberOr(const FormNode& node, PropertyId id, double absent) {
+  const std::wstring* text = node.Text(id);
+  double number = text ? std::stod(*text) : absent;
+  return std::isfinite(number) ? number : absent;
+}
+
+int ToInt(double number) {
+  return static_cast<int>(
+      std::clamp<double>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+// Left, centre or right, as labels and edits share it: 0, 1, 2.
+int AlignmentOf(const FormNode& node) {
+  if (Has(node, PropertyId::Alignment, L"Qt::AlignCenter") ||
+      Has(node, PropertyId::Alignment, L"Qt::AlignHCenter"))
+    return 1;
+  bool isRight = Has(node, PropertyId::Alignment, L"Qt::AlignRight") ||
+                 Has(node, PropertyId::Alignment, L"Qt::AlignTrailing");
+  return isRight ? 2 : 0;
+}
+
+void Apply(Label& label, const FormNode& node) {
+  const std::wstring* format = node.Extra(L"textFormat");
+  bool isPlain = format && HasEnumWord(*format, L"Qt::PlainText");
+  std::wstring& text = ImplOf(&label)->Creation().text;
+  if (!isPlain && IsRichText(text)) {
+    FontData font;
+    text = PlainTextOf(text, font.bold);
+    if (font.bold == 1) label.SetFont(font);
+  }
+  label.SetAlignment(static_cast<Label::Alignment>(AlignmentOf(node)));
+  if (Has(node, PropertyId::Alignment, L"Qt::AlignTop")) label.SetVerticallyCentered(false);
+  if (Has(node, PropertyId::WordWrap, L"true")) label.SetWordWrap(true);
+}
+
+void Apply(Edit& edit, const FormNode& node) {
+  edit.SetTextAlign(static_cast<Edit::TextAlign>(AlignmentOf(node)));
+  if (Has(node, PropertyId::ReadOnly, L"true")) edit.SetReadOnly(true);
+  if (Has(node, PropertyId::EchoMode, L"QLineEdit::Password"))
+    edit.SetPasswordMode(Edit::PasswordMode::Password);
+  else if (Has(node, PropertyId::EchoMode, L"QLineEdit::Normal"))
+    edit.SetPasswordMode(Edit::PasswordMode::Normal);
+  if (Has(node, PropertyId::Frame, L"false")) edit.SetFrameMode(false);
+  if (const std::wstring* text = node.Extra(L"placeholderText")) edit.SetPlaceHolderText(*text);
+}
+
+void Apply(ComboBox& combo, const FormNode& node) {
+  combo.SetItems(node.itemTexts);
+  combo.SetCurrentIndex(ToInt(NumberOr(node, PropertyId::CurrentIndex, combo.GetCurrentIndex())));
+  combo.SetMinimumContentsLength(ToInt(NumberOr(node, PropertyId::MinimumContentsLength, 0)));
+}
+
+template <typename Spin>
+void ApplyFixes(Spin& spin, const FormNode& node) {
+  if (const std::wstring* prefix = node.Extra(L"prefix")) spin.SetPrefix(*prefix);
+  if (const std::wstring* suffix = node.Extra(L"suffix")) spin.SetSuffix(*suffix);
+}
+
+template <typename Ranged>
+void ApplyRange(Ranged& widget, const FormNode& node, int minimum, int maximum) {
+  widget.SetRange(ToInt(NumberOr(node, PropertyId::Minimum, minimum)),
+                  ToInt(NumberOr(node, PropertyId::Maximum, maximum)));
+  widget.SetValue(ToInt(NumberOr(node, PropertyId::Value, minimum)));
+}
+
+void Apply(DoubleSpinEdit& spin, const FormNode& node) {
+  if (const std::wstring* decimals = node.Extra(L"decimals"))
+    spin.SetDecimals(FormInteger(*decimals));
+  spin.SetRange(NumberOr(node, PropertyId::Minimum, 0), NumberOr(node, PropertyId::Maximum, 99.99));
+  spin.SetValue(NumberOr(node, PropertyId::Value, 0));
+  ApplyFixes(spin, node);
+}
+
+void Apply(SpinEdit& spin, const FormNode& node) {
+  ApplyRange(spin, node, 0, 99);
+  ApplyFixes(spin, node);
+}
+
+void Apply(CheckBox& check, const FormNode& node) {
+  if (IsExtraTrue(node, L"tristate")) check.SetTristate(true);
+  if (IsExtraTrue(node, L"checked")) check.SetCheck(WexaUtils::Checked);
+}
+
+void Apply(RadioButton& radio, const FormNode& node) {
+  auto* impl = static_cast<RadioButton::impl*>(ImplOf(&radio));
+  impl->groupName = node.buttonGroup;
+  impl->checkedByForm = IsExtraTrue(node, L"checked");
+}
+
+void Apply(Button& button, const FormNode& node) {
+  auto* impl = static_cast<Button::impl*>(ImplOf(&button));
+  const std::wstring* isDefault = node.Text(PropertyId::Default);
+  impl->isDefault = isDefault && *isDefault == L"true";
+}
+
+void Apply(ButtonBox& box, const FormNode& node) {
+  auto* impl = static_cast<ButtonBox::impl*>(ImplOf(&box));
+  box.SetOrientation(Has(node, PropertyId::Orientation, L"Qt::Vertical"));
+  impl->SetButtons(node.standardButtons.flags);
+}
+
+void ApplyCurrentPage(PagesImpl& pages, const FormNode& node) {
+  pages.SetInitialIndex(ToInt(NumberOr(node, PropertyId::CurrentIndex, 0)));
+}
+
+}  // namespace
+
+void ApplyClassSettings(BaseGUIObject& widget, const FormNode& node) {
+  switch (widget.Type()) {
+    case GuiType::Label: return Apply(static_cast<Label&>(widget), node);
+    case GuiType::Edit: return Apply(static_cast<Edit&>(widget), node);
+    case GuiType::ComboBox:
+    case GuiType::ComboBoxFS: return Apply(static_cast<ComboBox&>(widget), node);
+    case GuiType::SpinEdit: return Apply(static_cast<SpinEdit&>(widget), node);
+    case GuiType::DoubleSpinEdit: return Apply(static_cast<DoubleSpinEdit&>(widget), node);
+    case GuiType::CheckBox: return Apply(static_cast<CheckBox&>(widget), node);
+    case GuiType::RadioButton: return Apply(static_cast<RadioButton&>(widget), node);
+    case GuiType::Button: return Apply(static_cast<Button&>(widget), node);
+    case GuiType::ButtonBox: return Apply(static_cast<ButtonBox&>(widget), node);
+    case GuiType::ProgressBar: return ApplyRange(static_cast<ProgressBar&>(widget), node, 0, 100);
+    case GuiType::Slider: return ApplyRange(static_cast<Slider&>(widget), node, 0, 99);
+    case GuiType::ScrollBar: return ApplyRange(static_cast<ScrollBar&>(widget), node, 0, 99);
+    case GuiType::ListBox: return static_cast<ListBox&>(widget).SetItems(node.itemTexts);
+    case GuiType::MultiLineEdit:
+      return static_cast<MultiLineEdit&>(widget).SetText(ImplOf(&widget)->Creation().text);
+    case GuiType::RichEdit:
+      return static_cast<RichEdit&>(widget).SetText(ImplOf(&widget)->Creation().text);
+    case GuiType::Splitter:
+      return static_cast<Splitter&>(widget).SetOrientation(
+          Has(node, PropertyId::Orientation, L"Qt::Vertical"));
+    case GuiType::TabView:
+    case GuiType::StackedDialog:
+      return ApplyCurrentPage(static_cast<PagesImpl&>(*ImplOf(&widget)), node);
+    default: return;
+  }
+}
+
+}  // namespace Wexa

@@ -1,0 +1,82 @@
+#include "ComboBox.h"
+
+#include <algorithm>
+
+#include "MFC/FieldImpl.h"
+#include "WexaConfig.h"
+#include "platform/Painter.h"
+#include "platform/Theme.h"
+
+namespace Wexa {
+
+namespace {
+
+constexpr int kMinimumContentWidth = 40;
+
+}  // namespace
+
+class ComboBox::impl : public LineFieldImpl {
+ public:
+  using LineFieldImpl::LineFieldImpl;
+
+  std::vector<std::wstring> items;
+  int current = -1;
+  int minimumContentsLength = 0;
+
+ protected:
+  std::wstring ShownText() override {
+    bool valid = current >= 0 && current < static_cast<int>(items.size());
+    return valid ? items[static_cast<std::size_t>(current)] : Text();
+  }
+
+  int ContentWidth() override {
+    int width = GetFontMetrics(Font()).averageWidth * minimumContentsLength;
+    for (const std::wstring& item : items)
+      width = std::max(width, static_cast<int>(GetTextExtent(Font(), item).cx));
+    return std::max(width, Scale(kMinimumContentWidth));
+  }
+
+  int CornerRadius() const override { return GetComboboxRadius(); }
+
+  void PaintEnd(Painter& painter, const CRect& end, const ControlPalette& palette) override {
+    ControlState state;
+    state.enabled = IsShownEnabled();
+    Theme::DrawDropDownArrow(painter, end, state, palette);
+  }
+};
+
+ComboBox::ComboBox() : BaseGUIObject(GuiType::ComboBox), impl_(std::make_shared<impl>(this)) {}
+ComboBox::~ComboBox() {
+  ReleaseImpl();
+}
+
+bool ComboBox::Create(HWND parent) {
+  return impl_->Create(parent);
+}
+std::shared_ptr<BaseImpl> ComboBox::GetBaseImpl() const {
+  return impl_;
+}
+Size ComboBox::IdealSize() {
+  return impl_->IdealSize();
+}
+ComboBox::ComboBox(GuiType type) : BaseGUIObject(type), impl_(std::make_shared<impl>(this)) {}
+
+void ComboBox::SetItems(std::vector<std::wstring> items) {
+  impl_->items = std::move(items);
+  if (impl_->current < 0 && !impl_->items.empty()) impl_->current = 0;
+  impl_->InvalidateLayout();
+  if (GetPlatformHandle()) Repaint();
+}
+void ComboBox::SetCurrentIndex(int index) {
+  impl_->current = index;
+  if (GetPlatformHandle()) Repaint();
+}
+int ComboBox::GetCurrentIndex() const {
+  return impl_->current;
+}
+void ComboBox::SetMinimumContentsLength(int characters) {
+  impl_->minimumContentsLength = std::clamp(characters, 0, 1000);
+  impl_->InvalidateLayout();
+}
+
+}  // namespace Wexa

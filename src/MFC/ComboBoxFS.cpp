@@ -1,0 +1,7 @@
+#include "ComboBoxFS.h"
+
+namespace Wexa {
+
+ComboBoxFS::ComboBoxFS() : ComboBox(GuiType::ComboBoxFS) {}
+
+}  // namespace Wexa

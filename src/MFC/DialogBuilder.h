@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "MFC/DialogImplMFC.h"
+#include "form/FormModel.h"
+
+namespace Wexa {
+
+class Layout;
+class LayoutItem;
+
+// Turns a form's model into the widgets and layouts of a dialog. Nothing native is made yet.
+class DialogBuilder {
+ public:
+  DialogBuilder(Dialog& dialog, Dialog::impl& impl, const FormModel& model)
+      : dialog_(dialog), impl_(impl), model_(model) {}
+
+  // Throws WexaException for a tree that cannot be built, and the conversion errors of numbers that
+  // are none.
+  void Build();
+
+ private:
+  // Where a node's children go: into a widget, or into a layout that stands in one.
+  struct Place {
+    BaseGUIObject* widget;
+    Layout* layout = nullptr;
+    const FormNode* layoutNode = nullptr;
+    // The cell of a skipped widget, which its children take over.
+    const FormNode* cellNode = nullptr;
+  };
+
+  void ConfigureDialog(const FormNode& root);
+  void FillWithCentralWidget(const FormNode& root);
+  void BuildChildren(const FormNode& node, const Place& place);
+  void BuildLayout(const FormNode& node, const Place& place);
+  void BuildSpacer(const FormNode& node, const Place& place);
+  void BuildWidget(const FormNode& node, const Place& place);
+  std::shared_ptr<BaseGUIObject> MakeWidget(const FormNode& node, std::wstring& className);
+  void PlaceWidget(const FormNode& node, BaseGUIObject& widget, const Place& place);
+  void AddToContainer(const FormNode& node, BaseGUIObject& widget, BaseGUIObject& parent);
+  void AddToLayout(const FormNode& node, LayoutItem* item, const Place& place);
+  void NoteUnknown(const std::wstring& className);
+  void ResolveBuddies();
+  void GroupRadioButtons();
+
+  Dialog& dialog_;
+  Dialog::impl& impl_;
+  const FormModel& model_;
+  std::vector<std::pair<BaseGUIObject*, std::wstring>> buddies_;
+};
+
+}  // namespace Wexa

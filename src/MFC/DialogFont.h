@@ -1,0 +1,19 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Classes.h"
+
+namespace Wexa {
+
+struct FontData;
+
+// The library's default font, as `GetFontInfo` describes it now. Made once per description.
+HFONT DialogFont();
+// Whether the record names a face, a size or a style.
+bool IsFontSet(const FontData& font);
+// The described font; what is not set is taken from the default font.
+std::unique_ptr<CFont> MakeFont(const FontData& font);
+FontData FontRecordOf(HFONT font);
+
+}  // namespace Wexa

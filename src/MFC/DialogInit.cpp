@@ -1,0 +1,212 @@
+// The native initialisation of dialogs: template, controls, first layout, default button.
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <unordered_map>
+
+#include "Button.h"
+#include "ButtonBox.h"
+#include "Label.h"
+#include "MFC/BaseDialogMFC.h"
+#include "MFC/ButtonImplMFC.h"
+#include "MFC/DialogImplMFC.h"
+#include "MFC/PagesImpl.h"
+#include "Utf16.h"
+#include "WexaConfig.h"
+#include "WexaException.h"
+#include "layout/Layout.h"
+#include "platform/ControlConstants.h"
+
+namespace Wexa {
+
+namespace {
+
+constexpr DWORD kNoCentering = 0x4;
+constexpr DWORD kExtendedBits =
+    WS_EX_CONTEXTHELP | WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME;
+constexpr std::size_t kFixedTemplateBytes = 53;
+constexpr std::size_t kTypefaceUnits = 12;
+constexpr std::uint16_t kTemplatePointSize = 11;
+
+}  // namespace
+
+// -- Template
+
+DLGTEMPLATE& Dialog::impl::Template() {
+  return *reinterpret_cast<DLGTEMPLATE*>(dialogTemplate_.data());
+}
+
+// A template without controls: header, no menu, no class, title, point size, typeface.
+void Dialog::impl::BuildTemplate() {
+  std::u16string text = ToUtf16(title);
+  std::u16string face = ToUtf16(GetFontInfo()->faceName).substr(0, kTypefaceUnits - 1);
+  std::size_t bytes = (2 * text.size() + kFixedTemplateBytes) & ~std::size_t{3};
+  dialogTemplate_.assign(bytes / 4 + 1, 0);
+
+  DLGTEMPLATE& header = Template();
+  header.style = Creation().style & ~kExtendedBits;
+  header.dwExtendedStyle = Creation().style & kExtendedBits;
+  if (GetLayoutRTL()) header.dwExtendedStyle |= WS_EX_LAYOUTRTL;
+
+  auto* units = reinterpret_cast<char16_t*>(&header + 1) + 2;  // after menu and class
+  std::copy(text.begin(), text.end(), units);
+  units += text.size() + 1;
+  *units++ = kTemplatePointSize;
+  std::copy(face.begin(), face.end(), units);
+}
+
+// -- Initialisation
+
+bool Dialog::impl::OnInitDialog() {
+  auto& dialog = *static_cast<Dialog*>(Owner());
+  dialog.SetTopLevelDlg(window_.get());
+  SettleStyle();
+  SizeToClient();
+  CreateElements();
+  AttachWindowProcedure();
+  ApplyTabOrder();
+  ArrangeFirstTime();
+  if ((Creation().style & kNoCentering) == 0) window_->CenterWindow();
+  Update();
+  ChooseDefaultButton();
+  SettleFrame();
+  RefreshSkinColors();
+  dialog.initialized_ = true;
+  wasInitialized_ = true;
+  HWND window = GetHandle();
+  if (!dialog.InitializeControls() && IsWindow(window)) Done(Rejected);
+  return IsWindow(window) && !FocusedElement();
+}
+
+void Dialog::impl::SettleStyle() {
+  DWORD style = window_->GetStyle();
+  if ((style & WS_CAPTION) != WS_CAPTION)
+    style = (style & ~WS_DLGFRAME) | WS_BORDER;
+  else if ((style & WS_DLGFRAME) && !(style & WS_BORDER))
+    style &= ~WS_BORDER;
+  window_->ModifyStyle(window_->GetStyle() & ~style, style);
+}
+
+void Dialog::impl::SizeToClient() {
+  Size frame = FrameSize();
+  window_->SetWindowPos(nullptr, 0, 0, clientSize.Width() + frame.Width(),
+                        clientSize.Height() + frame.Height(),
+                        SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+}
+
+void Dialog::impl::CreateElements() {
+  for (Element& element : elements_) {
+    BaseGUIObject& widget = *element.widget;
+    auto* parent = static_cast<BaseGUIObject*>(widget.GetParent());
+    widget.SetTopLevelDlg(window_.get());
+    widget.SetParentWindow(parent->GetPlatformHandle());
+    if (!widget.Create(parent->GetPlatformHandle()))
+      throw WexaException("src/MFC/DialogImplMFC", __LINE__,
+                          "Cannot create dialog from dialog template data.");
+    if (auto* pages = dynamic_cast<PagesImpl*>(ImplOf(parent))) pages->OnPageCreated(widget);
+  }
+}
+
+// Siblings are put in the order in which the form's tab stops first reach into them; those that no
+// tab stop reaches follow in the order of the form.
+void Dialog::impl::ApplyTabOrder() {
+  std::unordered_map<BaseGUIObject*, std::size_t> rank;
+  for (const std::wstring& name : tabOrder) {
+    auto widget = ElementByName(name);
+    for (auto* w = widget.get(); w && w != Owner(); w = static_cast<BaseGUIObject*>(w->GetParent()))
+      rank.try_emplace(w, rank.size());
+  }
+  if (rank.empty()) return;
+  auto rankOf = [&](const Element& e) {
+    auto found = rank.find(e.widget.get());
+    return found == rank.end() ? rank.size() : found->second;
+  };
+  std::vector<const Element*> order;
+  for (const Element& element : elements_) order.push_back(&element);
+  std::stable_sort(order.begin(), order.end(),
+                   [&](const Element* a, const Element* b) { return rankOf(*a) < rankOf(*b); });
+  for (const Element* element : order)
+    SetWindowPos(element->widget->GetPlatformHandle(), HWND_BOTTOM, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
+}
+
+// The first pass finds the dialog's limits; the window then takes a size within them.
+void Dialog::impl::ArrangeFirstTime() {
+  if (!Links().layout) return;
+  Links().layout->RequestUpdate(false);
+  Links().layout->Activate();
+  ResizeClient(clientSize.Width(), clientSize.Height());
+}
+
+// -- Default button
+
+void Dialog::impl::SetDefaultButton(Button* button) {
+  HWND window = button ? button->GetPlatformHandle() : nullptr;
+  if (!window) return;
+  defaultButtonId_ = GetDlgCtrlID(window);
+  window_->SetDefID(static_cast<UINT>(defaultButtonId_));
+}
+
+void Dialog::impl::ChooseDefaultButton() {
+  Button* first = nullptr;
+  Button* standard = nullptr;
+  for (Element& element : elements_) {
+    BaseGUIObject* widget = element.widget.get();
+    if (widget->Type() == GuiType::ButtonBox && !standard)
+      standard = static_cast<ButtonBox*>(widget)->GetButton(StandardButton::OK).get();
+    if (widget->Type() != GuiType::Button) continue;
+    auto* button = static_cast<Button*>(widget);
+    if (!first) first = button;
+    if (static_cast<Button::impl*>(ImplOf(button))->isDefault) return SetDefaultButton(button);
+  }
+  SetDefaultButton(standard ? standard : first);
+}
+
+void Dialog::impl::SettleFrame() {
+  window_->ModifyStyle(resizable ? 0 : WS_THICKFRAME, resizable ? WS_THICKFRAME : 0,
+                       SWP_FRAMECHANGED);
+}
+
+// -- Keys and cursor
+
+bool Dialog::impl::OnPreTranslate(MSG& message, BOOL& result) {
+  if (!Owner()) return false;
+  if (const auto& procedure = Owner()->PreTranslateMessage()) {
+    int answer = procedure(&message);
+    if (answer == 0 || answer == 1) {
+      result = answer;
+      return true;
+    }
+  }
+  if (!FollowBuddyMnemonic(message)) return false;
+  result = TRUE;
+  return true;
+}
+
+// A label's mnemonic gives the focus to its buddy, wherever that stands in the tab order.
+bool Dialog::impl::FollowBuddyMnemonic(const MSG& message) {
+  if (message.message != WM_SYSCHAR || !GetHandle()) return false;
+  for (const Element& element : elements_) {
+    if (element.widget->Type() != GuiType::Label) continue;
+    auto& label = static_cast<Label&>(*element.widget);
+    if (!label.GetBuddy() || !label.GetPlatformHandle()) continue;
+    if (!IsWindowVisible(label.GetPlatformHandle())) continue;
+    wchar_t mnemonic = GetMnemonic(label.GetText());
+    bool matches =
+        mnemonic && mnemonic == static_cast<wchar_t>(towupper(static_cast<wint_t>(message.wParam)));
+    HWND buddy = label.GetBuddy()->GetPlatformHandle();
+    if (!matches || !IsWindowEnabled(buddy) || GetFocus() == buddy) continue;
+    window_->GotoDlgCtrl(buddy);
+    return true;
+  }
+  return false;
+}
+
+bool Dialog::impl::OnSetCursor() {
+  if (cursorType == WexaUtils::CursorTypes{}) return false;
+  SetCursor(WexaUtils::GetPlattformCursorType(cursorType));
+  return true;
+}
+
+}  // namespace Wexa

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace Wexa {
+
+class FormNode;
+class Layout;
+
+// Spacing, margins and size constraint of a form's layout, scaled.
+void ApplyLayoutSettings(Layout& layout, const FormNode& node);
+// Stretches and minimums of rows, columns or entries; after the children are in.
+void ApplyLayoutLists(Layout& layout, const FormNode& node);
+
+}  // namespace Wexa

@@ -1,0 +1,69 @@
+#include "MFC/PagesImpl.h"
+
+#include <algorithm>
+
+#include "ChildDialog.h"
+
+namespace Wexa {
+
+void PagesImpl::AddPage(ChildDialog* page) {
+  pages_.push_back(page);
+  Children().push_back(page);
+}
+
+ChildDialog* PagesImpl::Page(int index) const {
+  bool valid = index >= 0 && index < PageCount();
+  return valid ? pages_[static_cast<std::size_t>(index)] : nullptr;
+}
+
+Size PagesImpl::AroundPages(Size (BaseGUIObject::*size)()) {
+  Size largest;
+  for (ChildDialog* page : pages_) largest = largest.GetInflated((page->*size)());
+  RECT margins = PageMargins();
+  largest.SetWidth(largest.Width() + margins.left + margins.right);
+  largest.SetHeight(largest.Height() + margins.top + margins.bottom);
+  return largest.GetInflated(OwnSize());
+}
+
+Size PagesImpl::IdealSize() {
+  return AroundPages(&BaseGUIObject::IdealSize);
+}
+Size PagesImpl::MinimumIdealSize() {
+  return AroundPages(&BaseGUIObject::MinimumIdealSize);
+}
+
+Rect PagesImpl::PageRect() {
+  RECT margins = PageMargins();
+  Rect rect =
+      GetClientRect().MarginsAdded(-margins.left, -margins.top, -margins.right, -margins.bottom);
+  rect.SetRight(std::max(rect.Left(), rect.Right()));
+  rect.SetBottom(std::max(rect.Top(), rect.Bottom()));
+  return rect;
+}
+
+void PagesImpl::UpdateLayout() {
+  ChildDialog* page = Page(CurrentIndex());
+  if (!page || !page->GetPlatformHandle()) return;
+  Rect place = PageRect();
+  page->MoveWindow(place.Left(), place.Top(), place.Width(), place.Height(), true);
+}
+
+bool PagesImpl::SetCurrentIndex(int index, bool updateLayout) {
+  if (!Page(index)) return false;
+  current_ = index;
+  if (!GetHandle()) return true;
+  UpdateLayout();
+  for (int i = 0; i < PageCount(); ++i)
+    if (Page(i)->GetPlatformHandle()) Page(i)->Show(i == index, updateLayout);
+  return true;
+}
+
+void PagesImpl::EnablePage(int index, bool enable, bool remember) {
+  if (ChildDialog* page = Page(index)) page->Enable(enable, remember);
+}
+
+void PagesImpl::OnPageCreated(BaseGUIObject& page) {
+  page.Show(&page == Page(CurrentIndex()), false);
+}
+
+}  // namespace Wexa

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <algorithm>
+#include <vector>
+
+#include "MFC/ContainerImpl.h"
+
+namespace Wexa {
+
+class ChildDialog;
+
+// Containers of pages of which one is shown at a time, over the same area.
+class PagesImpl : public ContainerImpl {
+ public:
+  using ContainerImpl::ContainerImpl;
+
+  Size IdealSize() override;
+  Size MinimumIdealSize() override;
+  void UpdateLayout() override;
+
+  void AddPage(ChildDialog* page);
+  ChildDialog* Page(int index) const;  // null for an index out of range
+  int PageCount() const { return static_cast<int>(pages_.size()); }
+  int CurrentIndex() const { return current_ < PageCount() ? std::max(current_, 0) : 0; }
+  // Shows that page and hides the rest, now or when the window exists.
+  virtual bool SetCurrentIndex(int index, bool updateLayout);
+  // Before the pages are there; one out of range gives way to the first.
+  void SetInitialIndex(int index) { current_ = index; }
+  void EnablePage(int index, bool enable, bool remember);
+  // A page's window exists: it is shown when it is the current one.
+  void OnPageCreated(BaseGUIObject& page);
+
+ protected:
+  // What the container takes of its client area on each side of the page.
+  virtual RECT PageMargins() const { return {}; }
+  // The least size of the container's own parts.
+  virtual Size OwnSize() const { return {}; }
+  Rect PageRect();
+
+ private:
+  Size AroundPages(Size (BaseGUIObject::*size)());
+
+  std::vector<ChildDialog*> pages_;
+  int current_ = 0;
+};
+
+}  // namespace Wexa

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/Types.h"
+
+struct ControlPalette;
+
+namespace Wexa {
+
+class SkinManager;
+
+// The slots that paint the parts of widgets. Numbers are those of the skin's table.
+namespace Slot {
+inline constexpr int kInputText = 0;
+inline constexpr int kInputDisabledText = 1;
+inline constexpr int kInputFace = 2;
+inline constexpr int kInputHoverBorder = 3;
+inline constexpr int kInputBorder = 4;
+inline constexpr int kInputDisabledBorder = 5;
+inline constexpr int kInputFocusBorder = 6;
+inline constexpr int kPlaceholder = 7;
+inline constexpr int kButtonText = 20;
+inline constexpr int kButtonDisabledText = 21;
+inline constexpr int kButtonPressedText = 22;
+inline constexpr int kButtonDisabledFace = 23;
+inline constexpr int kButtonFace = 24;
+inline constexpr int kButtonDisabledBorder = 25;
+inline constexpr int kButtonPressedFace = 26;
+inline constexpr int kButtonHoverBorder = 27;
+inline constexpr int kCheckBorder = 28;
+inline constexpr int kButtonBorder = 30;
+inline constexpr int kButtonAccent = 32;
+inline constexpr int kCheckText = 33;
+inline constexpr int kCheckDisabledText = 34;
+inline constexpr int kCheckFace = 36;
+inline constexpr int kCheckDisabledBorder = 42;
+inline constexpr int kDialogFace = 74;
+inline constexpr int kDialogText = 93;
+inline constexpr int kLabelDisabledText = 84;
+inline constexpr int kSeparator = 87;
+inline constexpr int kGroupBorder = 91;
+inline constexpr int kContentFace = 94;
+inline constexpr int kSelection = 95;
+inline constexpr int kSelectionText = 96;
+inline constexpr int kLinkText = 100;
+inline constexpr int kLinkHover = 102;
+inline constexpr int kLinkDisabled = 103;
+}  // namespace Slot
+
+COLORREF SlotColor(const SkinManager& skin, int slot);
+COLORREF DialogBackground(const SkinManager& skin);
+// Between 0x00RRGGBB and 0x00BBGGRR.
+COLORREF SwapRedAndBlue(int color);
+
+// What all families share: selection, focus, dialog text. The other fills add to it.
+void FillCommonPalette(ControlPalette& palette, const SkinManager& skin);
+void FillButtonPalette(ControlPalette& palette, const SkinManager& skin);
+void FillCheckPalette(ControlPalette& palette, const SkinManager& skin);
+void FillInputPalette(ControlPalette& palette, const SkinManager& skin);
+
+}  // namespace Wexa
