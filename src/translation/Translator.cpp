@@ -17,11 +17,9 @@ namespace {
 
 constexpr std::size_t kEncryptedSuffixLength = 3;  // ".kv"
 
-// The name of an encrypted form file without directories and suffix.
+// The name of an encrypted form file without directories, which either separator ends, and suffix.
 std::wstring FormName(const std::wstring& path) {
-  const auto slash = path.rfind(L'/');
-  const auto start = slash != std::wstring::npos ? slash + 1 : path.rfind(L'\\') + 1;
-  const std::wstring name = path.substr(start);
+  const std::wstring name = path.substr(path.find_last_of(L"/\\") + 1);
   return name.substr(0, name.size() - std::min(name.size(), kEncryptedSuffixLength));
 }
 

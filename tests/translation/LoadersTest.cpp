@@ -1,0 +1,165 @@
+#include "translation/FormTranslation.h"
+#include "translation/StringsLoader.h"
+#include "translation/TsLoader.h"
+
+#include <rapidxml/rapidxml.hpp>
+#include <stdexcept>
+
+namespace Wexa {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Pair;
+using ::testing::UnorderedElementsAre;
+
+// -- TS files
+// ----------------------------------------------------------------------------------------
+
+std::wstring Ts(const std::wstring& messages) {
+  return L"<?xml version=\"1.0\"?><!DOCTYPE TS><TS version=\"2.1\" language=\"de-DE\"><context>"
+         L"<name>n</name>" +
+         messages + L"</context></TS>";
+}
+
+TSTranslationUnit::MessageMap Messages(const std::wstring& messages) {
+  const auto unit = LoadTsText(Ts(messages), L"de-DE");
+  return unit ? unit->GetMessageMap() : TSTranslationUnit::MessageMap();
+}
+
+TEST(TsLoader, StoresAMessageUnderEachOfItsLocations) {
+  const auto messages = Messages(
+      L"<message><location filename='forms/a.ui' line='12'/><location filename='../x/a.ui' "
+      L"line='3'/><location filename='b.ui' line='7'/><source>s</source><translation "
+      L"type='unfinished'>\u043C</translation></message>");
+  EXPECT_THAT(messages, UnorderedElementsAre(
+                            Pair(L"a.ui", ElementsAre(Pair(3, L"\u043C"), Pair(12, L"\u043C"))),
+                            Pair(L"b.ui", ElementsAre(Pair(7, L"\u043C")))));
+}
+
+TEST(TsLoader, EscapesDecodedTexts) {
+  const auto messages = Messages(
+      L"<message><translation>A &amp; B &lt;C&gt; &amp;amp;</translation><location "
+      L"filename='a.ui' line='1'/></message>");
+  EXPECT_EQ(messages.at(L"a.ui").at(1), L"A &amp; B &lt;C&gt; &amp;amp;");
+}
+
+TEST(TsLoader, IncompleteLocationsAndMessagesAreDropped) {
+  EXPECT_THAT(Messages(L"<message><location line='1'/><location filename='a.ui'/>"
+                       L"<translation>t</translation></message>"
+                       L"<message><translation>t</translation></message>"),
+              IsEmpty());
+}
+
+TEST(TsLoader, TheLastTranslationOfAMessageAndTheFirstOfALineWin) {
+  const auto messages = Messages(
+      L"<message><location filename='a.ui' line='1'/><translation>1</translation>"
+      L"<translation>2</translation></message>"
+      L"<message><location filename='a.ui' line='1'/><translation>3</translation></message>"
+      L"<message><location filename='a.ui' line='2'/></message>");
+  EXPECT_THAT(messages.at(L"a.ui"), ElementsAre(Pair(1, L"2"), Pair(2, L"")));
+}
+
+TEST(TsLoader, FilesOfAnotherLanguageGiveNothing) {
+  EXPECT_TRUE(LoadTsText(Ts(L""), L"de-DE"));
+  EXPECT_FALSE(LoadTsText(Ts(L""), L"de_DE"));
+  EXPECT_FALSE(LoadTsText(L"<TS/>", L""));
+  EXPECT_FALSE(LoadTsText(L"<other language='de-DE'/>", L"de-DE"));
+  EXPECT_FALSE(LoadTsText(L"", L"de-DE"));
+}
+
+TEST(TsLoader, BadLinesAndBadXmlThrow) {
+  EXPECT_THROW(Messages(L"<message><location filename='a' line='x'/></message>"),
+               std::invalid_argument);
+  EXPECT_THROW(Messages(L"<message><location filename='a' line='99999999999'/></message>"),
+               std::out_of_range);
+  EXPECT_THROW(LoadTsText(L"<TS", L"de-DE"), rapidxml::parse_error);
+}
+
+TEST(TSTranslationUnit, AppendingKeepsWhatIsThere) {
+  TSTranslationUnit unit;
+  unit.AddMessageFromTS(L"a.ui", 1, L"own");
+  TSTranslationUnit other;
+  other.AddMessageFromTS(L"a.ui", 1, L"other");
+  other.AddMessageFromTS(L"a.ui", 2, L"other");
+  other.AddMessageFromTS(L"A.ui", 1, L"other");
+  unit.AppendTsTranslationUnit(other);
+  EXPECT_THAT(unit.GetMessageMap(),
+              UnorderedElementsAre(Pair(L"a.ui", ElementsAre(Pair(1, L"own"), Pair(2, L"other"))),
+                                   Pair(L"A.ui", ElementsAre(Pair(1, L"other")))));
+}
+
+// -- Strings files
+// -----------------------------------------------------------------------------------
+
+struct Loaded {
+  std::unordered_map<std::wstring, std::wstring> texts;
+  logFont font;
+};
+
+Loaded LoadStrings(const std::wstring& text) {
+  Loaded loaded;
+  LoadStringsText(text, {L"de-DE", L"en-US"}, loaded.texts, loaded.font);
+  return loaded;
+}
+
+TEST(StringsLoader, ReadsTextsAndTheFirstOfAnIdStays) {
+  const auto loaded = LoadStrings(
+      L"\uFEFF<r language='de-DE'><StringTable><string id='a'>\u0420 &amp; <!-- c -->b</string>"
+      L"<string>no id</string><string id='a'>later</string><other id='b'/></StringTable></r>");
+  EXPECT_THAT(loaded.texts, UnorderedElementsAre(Pair(L"a", L"\u0420 & b")));
+}
+
+TEST(StringsLoader, OnlyTheCurrentAndTheDefaultLanguageCount) {
+  const std::wstring table = L"<StringTable><string id='a'>t</string></StringTable></r>";
+  EXPECT_EQ(LoadStrings(L"<r language='en-US'>" + table).texts.size(), 1u);
+  EXPECT_THAT(LoadStrings(L"<r language='fr-FR'>" + table).texts, IsEmpty());
+  EXPECT_THAT(LoadStrings(L"<r>" + table).texts, IsEmpty());
+  EXPECT_THAT(LoadStrings(L"<r language='de-DE'/>").texts, IsEmpty());
+  EXPECT_THAT(LoadStrings(L"").texts, IsEmpty());
+}
+
+TEST(StringsLoader, SetsTheFontTheFileNames) {
+  const auto named = LoadStrings(
+      L"<r language='de-DE'><Font><PreFont FaceName='Arial' Height='110' "
+      L"Charset='204'/></Font></r>");
+  EXPECT_EQ(named.font.faceName, L"Arial");
+  EXPECT_EQ(named.font.height, 110);
+  EXPECT_EQ(named.font.charSet, 204);
+  const auto partly = LoadStrings(L"<r language='de-DE'><Font><PreFont Height='80'/></Font></r>");
+  EXPECT_EQ(partly.font.faceName, L"Tahoma");
+  EXPECT_EQ(partly.font.height, 80);
+}
+
+// -- Forms
+// -------------------------------------------------------------------------------------------
+
+TEST(FormTranslation, ReplacesTheWholeLine) {
+  EXPECT_EQ(TranslateForm(L"<ui>\n  <string>old</string>  \n</ui>\n", {{2, L"a &amp; b"}}),
+            L"<ui><string>a &amp; b</string></ui>");
+}
+
+TEST(FormTranslation, EmptiesTheLinesOfALongString) {
+  EXPECT_EQ(TranslateForm(L"a\n<string>1\n2\n3</string> x\nb", {{2, L"t"}}),
+            L"a<string>t</string>b");
+}
+
+TEST(FormTranslation, AStringWithoutEndTakesTheLastLine) {
+  EXPECT_EQ(TranslateForm(L"a\n<string>1\n2\n3", {{2, L"t"}}), L"a<string>t</string>");
+}
+
+TEST(FormTranslation, ALineWithoutAStringEndsTheReplacing) {
+  const std::wstring form = L"<string>1</string>\nno string\n<string>3</string>\nshort";
+  EXPECT_EQ(TranslateForm(form, {{1, L"t"}, {2, L"u"}, {3, L"v"}}),
+            L"<string>t</string>no string<string>3</string>short");
+  EXPECT_EQ(TranslateForm(form, {{4, L"u"}}), TranslateForm(form, {}));
+  EXPECT_EQ(TranslateForm(form, {{5, L"u"}}), TranslateForm(form, {}));
+  EXPECT_EQ(TranslateForm(form, {{0, L"u"}, {1, L"u"}}), TranslateForm(form, {}));
+}
+
+TEST(FormTranslation, AnEmptyTextStaysEmpty) {
+  EXPECT_EQ(TranslateForm(L"", {{1, L"t"}}), L"");
+}
+
+}  // namespace
+}  // namespace Wexa

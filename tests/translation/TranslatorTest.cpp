@@ -1,0 +1,159 @@
+#include "Translator.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "FileText.h"
+#include "TrString.h"
+#include "Utf8.h"
+#include "WexaConfig.h"
+#include "translation/EncrypterAccess.h"
+
+namespace Wexa {
+namespace {
+
+// A folder of language files of its own, and a translator that starts empty in "de-DE".
+class TranslatorTest : public testing::Test {
+ protected:
+  TranslatorTest() : folder_(testing::TempDir() + "/translator_test/") {
+    std::filesystem::remove_all(folder_);
+    SetWorkingDirPath(*WidenUtf8(folder_));
+    SetCurrentLanguage(L"", false);
+    SetCurrentLanguage(L"de-DE", false);
+  }
+  ~TranslatorTest() override {
+    SetCurrentLanguage(L"", true);
+    SetWorkingDirPath(oldFolder_);
+  }
+
+  void Write(const std::wstring& path, const std::string& text) {
+    const std::filesystem::path native = NativePath(path);
+    std::filesystem::create_directories(native.parent_path());
+    std::ofstream(native, std::ios::binary) << text;
+  }
+  void WriteStrings(const std::wstring& name, bool useDefault, const std::string& strings) {
+    const std::string language = useDefault ? "en-US" : NarrowUtf8(GetCurrentLanguage());
+    Write(GetStringsFilePath(name, useDefault),
+          "<r language='" + language + "'><StringTable>" + strings + "</StringTable></r>");
+  }
+  void WriteTs(const std::wstring& name, const std::string& translation) {
+    Write(GetTranslationFilePath(name),
+          "<TS language='" + NarrowUtf8(GetCurrentLanguage()) +
+              "'><context><message><location filename='f.ui' line='2'/><translation>" +
+              translation + "</translation></message></context></TS>");
+  }
+  std::wstring TranslateForm() {
+    const auto packed = EncrypterAccess::Pack("<ui>\n <string>old</string>\n</ui>");
+    const std::wstring path = GetWorkingDirPath() + L"forms\\f.ui.kv";
+    Write(path, {packed.begin(), packed.end()});
+    return translator_.TranslateUIFile(path);
+  }
+  std::wstring Text(const std::wstring& name, const std::wstring& id) {
+    return TrString(name, id, L"fallback");
+  }
+
+  Translator& translator_ = Translator::GetInstance();
+
+ private:
+  std::string folder_;
+  std::wstring oldFolder_ = GetWorkingDirPath();
+};
+
+TEST_F(TranslatorTest, NamesTheFiles) {
+  const std::wstring home = GetWorkingDirPath();
+  SetCurrentLanguage(L"pt_BR", true);
+  EXPECT_EQ(GetTranslationDirPath(false), home + L"lang\\pt-BR\\");
+  EXPECT_EQ(GetTranslationDirPath(true), home + L"lang\\en-US\\");
+  EXPECT_EQ(GetStringsFilePath(L"options", false),
+            home + L"lang\\pt-BR\\options_strings_pt-BR.xml.kv");
+  EXPECT_EQ(GetStringsFilePath(L"", true), home + L"lang\\en-US\\strings_en-US.xml.kv");
+  EXPECT_EQ(GetTranslationFilePath(L"options"), home + L"lang\\pt-BR\\options_pt-BR.ts.kv");
+}
+
+TEST_F(TranslatorTest, ALanguageSetsTheDecimalCharacter) {
+  EXPECT_EQ(GetDecimalChar(), ',');
+  SetCurrentLanguage(L"ja-JP", false);
+  EXPECT_EQ(GetDecimalChar(), '.');
+}
+
+TEST_F(TranslatorTest, TheCurrentLanguageAgainChangesNothing) {
+  WriteStrings(L"", false, "<string id='a'>t</string>");
+  translator_.LoadStrings(L"");
+  SetCurrentLanguage(L"de-DE", true);
+  EXPECT_FALSE(ExpectsEncryptedLanguageFiles());
+  EXPECT_EQ(Text(L"", L"a"), L"t");
+  SetCurrentLanguage(L"fr-FR", false);
+  SetCurrentLanguage(L"de-DE", false);
+  EXPECT_EQ(Text(L"", L"a"), L"fallback");
+}
+
+TEST_F(TranslatorTest, TextsFallBackToTheDefaultLanguageAndTheCaller) {
+  WriteStrings(L"c", false, "<string id='a'>aktuell</string>");
+  WriteStrings(L"c", true, "<string id='a'>current</string><string id='b'>default</string>");
+  WriteStrings(L"", false, "<string id='common'>gemeinsam</string>");
+  translator_.LoadStrings(L"c");
+  EXPECT_EQ(Text(L"c", L"a"), L"aktuell");
+  EXPECT_EQ(Text(L"c", L"b"), L"default");
+  EXPECT_EQ(Text(L"c", L"common"), L"fallback");
+  EXPECT_EQ(Text(L"", L"common"), L"gemeinsam");
+  EXPECT_EQ(translator_.GetText(L"c", L"b", L""), L"");
+}
+
+TEST_F(TranslatorTest, FilesWithTextsAreReadOnce) {
+  translator_.LoadStrings(L"c");
+  WriteStrings(L"c", false, "<string id='a'>first</string>");
+  translator_.LoadStrings(L"c");
+  WriteStrings(L"c", false, "<string id='a'>second</string>");
+  translator_.LoadStrings(L"c");
+  EXPECT_EQ(Text(L"c", L"a"), L"first");
+}
+
+TEST_F(TranslatorTest, AppendedTextsDoNotReplaceOthers) {
+  WriteStrings(L"c", false, "<string id='a'>own</string>");
+  WriteStrings(L"d", false, "<string id='a'>other</string><string id='b'>other</string>");
+  translator_.LoadStrings(L"c");
+  translator_.AppendStrings(L"c", L"d");
+  EXPECT_EQ(Text(L"c", L"a"), L"own");
+  EXPECT_EQ(Text(L"c", L"b"), L"other");
+  EXPECT_EQ(Text(L"d", L"b"), L"fallback");
+}
+
+TEST_F(TranslatorTest, FormsTakeTheTranslationOfTheirLine) {
+  WriteTs(L"c", "a &amp;amp; b");
+  translator_.LoadStrings(L"c");
+  EXPECT_EQ(TranslateForm(), L"<ui><string>a &amp;amp; b</string></ui>");
+}
+
+TEST_F(TranslatorTest, FormsWithoutTranslationsKeepTheirStrings) {
+  EXPECT_EQ(TranslateForm(), L"<ui> <string>old</string></ui>");
+}
+
+TEST_F(TranslatorTest, TheDefaultLanguageReadsFormTranslationsOnlyWhenAppended) {
+  SetCurrentLanguage(L"en-US", false);
+  WriteTs(L"c", "new");
+  translator_.LoadStrings(L"c");
+  EXPECT_EQ(TranslateForm(), L"<ui> <string>old</string></ui>");
+  translator_.AppendStrings(L"", L"c");
+  EXPECT_EQ(TranslateForm(), L"<ui><string>new</string></ui>");
+}
+
+TEST_F(TranslatorTest, EncryptedFilesAreReadWhereTheyAreExpected) {
+  SetCurrentLanguage(L"fr-FR", true);
+  const auto packed = EncrypterAccess::Pack(
+      "<r language='fr-FR'><StringTable><string id='a'>\xD0\xBC</string>"
+      "</StringTable></r>");
+  Write(GetStringsFilePath(L"c", false), {packed.begin(), packed.end()});
+  WriteStrings(L"c", true, "<string id='a'>plain</string>");
+  translator_.LoadStrings(L"c");
+  EXPECT_EQ(Text(L"c", L"a"), L"\u043C");
+  EXPECT_EQ(translator_.GetDefaultText(L"c", L"a"), L"");
+}
+
+TEST_F(TranslatorTest, PlainOrMissingFormsGiveNothing) {
+  Write(GetWorkingDirPath() + L"plain.ui", "<ui>a plain form, long enough</ui>");
+  EXPECT_EQ(translator_.TranslateUIFile(GetWorkingDirPath() + L"plain.ui"), L"");
+  EXPECT_EQ(translator_.TranslateUIFile(L""), L"");
+}
+
+}  // namespace
+}  // namespace Wexa
