@@ -1,4 +1,5 @@
 #include <atomic>
+#include <cstdlib>
 #include <thread>
 
 #include "display/x11/X11Display.h"
@@ -38,6 +39,73 @@ class OtherProgram {
   std::thread thread_;
 };
 
+// A program that gives its text in small pieces.
+class SlowProgram {
+ public:
+  explicit SlowProgram(std::vector<std::string> pieces) : pieces_(std::move(pieces)) {
+    pieces_.emplace_back();
+    window_ = xcb_generate_id(c_);
+    xcb_create_window(c_, XCB_COPY_FROM_PARENT, window_, person_.Root(), 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_set_selection_owner(c_, window_, person_.Atom("CLIPBOARD"), XCB_CURRENT_TIME);
+    incr_ = person_.Atom("INCR");
+    person_.Sync();
+    thread_ = std::thread([this] { Serve(); });
+  }
+  ~SlowProgram() { thread_.join(); }
+  SlowProgram(const SlowProgram&) = delete;
+  SlowProgram& operator=(const SlowProgram&) = delete;
+
+ private:
+  void Serve() {
+    while (next_ < pieces_.size()) {
+      xcb_generic_event_t* event = xcb_wait_for_event(c_);
+      if (!event) return;
+      const int type = event->response_type & 0x7F;
+      if (type == XCB_SELECTION_REQUEST) Begin(reinterpret_cast<const Request&>(*event));
+      if (type == XCB_PROPERTY_NOTIFY) Taken(reinterpret_cast<const Property&>(*event));
+      std::free(event);
+    }
+  }
+
+  using Request = xcb_selection_request_event_t;
+  using Property = xcb_property_notify_event_t;
+
+  void Begin(const Request& request) {
+    request_ = request;
+    const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(c_, request.requestor, XCB_CW_EVENT_MASK, &events);
+    const std::uint32_t size = 1;
+    xcb_change_property(c_, XCB_PROP_MODE_REPLACE, request.requestor, request.property, incr_, 32,
+                        1, &size);
+    xcb_selection_notify_event_t answer{};
+    answer.response_type = XCB_SELECTION_NOTIFY;
+    answer.requestor = request.requestor;
+    answer.selection = request.selection;
+    answer.target = request.target;
+    answer.property = request.property;
+    xcb_send_event(c_, 0, request.requestor, 0, reinterpret_cast<const char*>(&answer));
+    xcb_flush(c_);
+  }
+
+  void Taken(const Property& event) {
+    if (event.atom != request_.property || event.state != XCB_PROPERTY_DELETE) return;
+    const std::string& piece = pieces_[next_++];
+    xcb_change_property(c_, XCB_PROP_MODE_REPLACE, request_.requestor, request_.property,
+                        request_.target, 8, static_cast<std::uint32_t>(piece.size()), piece.data());
+    person_.Sync();
+  }
+
+  support::XTestDriver person_;
+  xcb_connection_t* c_ = person_.Connection();
+  xcb_window_t window_ = 0;
+  xcb_atom_t incr_ = 0;
+  Request request_{};
+  std::vector<std::string> pieces_;
+  std::size_t next_ = 0;
+  std::thread thread_;
+};
+
 class X11ClipboardTest : public X11Test {};
 
 TEST_F(X11ClipboardTest, OwnTextComesBack) {
@@ -63,6 +131,19 @@ TEST_F(X11ClipboardTest, LongTextGoesOverWhole) {
   const std::wstring text(300000, L'\u20AC');
   const OtherProgram other(text);
   EXPECT_EQ(display_->ClipboardText(), text);
+}
+
+TEST_F(X11ClipboardTest, PiecesAreJoined) {
+  const SlowProgram other({"first \xC3", "\xA4 second", " third"});
+  EXPECT_EQ(display_->ClipboardText(), L"first \u00E4 second third");
+}
+
+TEST_F(X11ClipboardTest, InputThatComesMeanwhileIsKept) {
+  OpenDialog();
+  const SlowProgram other({"text"});
+  person_.Key(XKB_KEY_a);
+  EXPECT_EQ(display_->ClipboardText(), L"text");
+  EXPECT_EQ(Typed(), U"a");
 }
 
 TEST_F(X11ClipboardTest, NoOwnerIsNoText) {
