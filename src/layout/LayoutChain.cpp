@@ -99,7 +99,7 @@ class Distribution {
   void ScaleSpacing() {
     if (spacing_ < 0) return;
     const Wide needed = minimum_ + sumSpacing_;
-    spacing_ = needed != 0 ? spacing_ * space_ / needed : 0;
+    spacing_ = needed != 0 ? std::max<Wide>(spacing_ * space_ / needed, 0) : 0;
     sumSpacing_ = spacing_ * spacerCount_;
   }
 
