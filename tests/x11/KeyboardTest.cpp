@@ -152,6 +152,17 @@ TEST_F(X11KeyboardTest, HeldKeyRepeatsWithoutBeingReleased) {
   EXPECT_EQ(second->text, U"x");
 }
 
+TEST_F(X11KeyboardTest, HeldKeyDoesNotBeginAgainInAnotherDialog) {
+  person_.KeyDown(XKB_KEY_Return);
+  ASSERT_TRUE(Next(Kind::KeyDown));
+  OpenDialog(2, {600, 500, 800, 700});
+  const auto key =
+      Next([](const Input& input) { return input.kind == Kind::KeyDown && input.surface == 2; });
+  person_.KeyUp(XKB_KEY_Return);
+  ASSERT_TRUE(key);
+  EXPECT_TRUE(key->repeated);
+}
+
 TEST_F(X11KeyboardTest, SecondLayoutWritesItsLettersOnTheSameVirtualKeys) {
   if (!SetLayouts("us,ru")) GTEST_SKIP() << "no setxkbmap";
   person_.UseLayout(1);

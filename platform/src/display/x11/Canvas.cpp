@@ -43,7 +43,8 @@ Pixels Canvas::Lock() {
 // changes its size with every motion.
 void Canvas::Allocate() {
   const std::size_t bytes = ByteCount();
-  if (!shared_ || shared_->Size() < bytes) {
+  const bool tooSmall = !shared_ || shared_->Size() < bytes;
+  if (tooSmall && copied_.empty()) {
     const std::size_t spare = shared_ ? bytes / 4 : 0;
     shared_ = SharedMemory::Create(connection_, bytes + spare);
   }
@@ -53,7 +54,6 @@ void Canvas::Allocate() {
     copied_.resize(bytes / 4);
     data_ = copied_.data();
   }
-  std::fill_n(data_, bytes / 4, 0u);
 }
 
 void Canvas::Present(xcb_window_t window, const RECT& area) {

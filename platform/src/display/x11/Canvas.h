@@ -25,7 +25,8 @@ class Canvas {
 
   SIZE Size() const { return size_; }
   void Resize(SIZE size);
-  // Waits until the server has read what was presented before.
+  // Waits until the server has read what was presented before. After a resize the pixels are
+  // arbitrary until painted.
   Pixels Lock();
   void Present(xcb_window_t window, const RECT& area);
   // Whether these pixels have been presented since they were made.

@@ -105,9 +105,12 @@ std::optional<Input> Keyboard::Release(const xcb_key_release_event_t& event) {
   return input;
 }
 
-void Keyboard::FocusLost() {
-  pressed_.reset();
-  compose_.Reset();
+// One bit a key, from the second byte of all keys on: the first is of keys that do not exist.
+void Keyboard::TakeHeld(const xcb_keymap_notify_event_t& event) {
+  constexpr std::size_t kFirst = 8;
+  for (std::size_t i = 0; i < std::size(event.keys) * 8; ++i) {
+    pressed_.set(kFirst + i, event.keys[i / 8] >> (i % 8) & 1);
+  }
 }
 
 std::optional<Input> Keyboard::Translate(const xcb_key_press_event_t& event) {

@@ -26,8 +26,9 @@ class Keyboard {
   // The key, its text and its repetition; none for a key that only shifts levels of the layout.
   std::optional<Input> Press(const xcb_key_press_event_t& event);
   std::optional<Input> Release(const xcb_key_release_event_t& event);
-  // Without the focus nobody tells of keys released.
-  void FocusLost();
+  // The keys that are down when a window gets the focus: they repeat there, they do not begin.
+  void TakeHeld(const xcb_keymap_notify_event_t& event);
+  void FocusLost() { compose_.Reset(); }
   // True for an event of the keyboard extension.
   bool Handle(const xcb_generic_event_t& event);
 

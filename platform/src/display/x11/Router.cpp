@@ -36,6 +36,7 @@ void Router::Route(const xcb_generic_event_t& event) {
     case XCB_LEAVE_NOTIFY: return OnLeave(As<xcb_leave_notify_event_t>(event));
     case XCB_FOCUS_IN: return OnFocus(As<xcb_focus_in_event_t>(event), true);
     case XCB_FOCUS_OUT: return OnFocus(As<xcb_focus_in_event_t>(event), false);
+    case XCB_KEYMAP_NOTIFY: return parts_.keyboard.TakeHeld(As<xcb_keymap_notify_event_t>(event));
     case XCB_EXPOSE: return OnExpose(As<xcb_expose_event_t>(event));
     case XCB_CONFIGURE_NOTIFY:
       return OnConfigure(As<xcb_configure_notify_event_t>(event), event.full_sequence);
