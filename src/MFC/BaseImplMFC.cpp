@@ -30,7 +30,8 @@ Rect ToRect(const RECT& r) {
 }  // namespace
 
 int Scale(int units) {
-  return static_cast<int>(units * WexaUtils::GetScaleFactor());
+  constexpr double kLimit = 1 << 26;  // far beyond any screen: sums of such metrics stay in range
+  return static_cast<int>(std::clamp(units * WexaUtils::GetScaleFactor(), -kLimit, kLimit));
 }
 Size Scale(int width, int height) {
   return {Scale(width), Scale(height)};
@@ -53,7 +54,21 @@ BaseImplMFC::BaseImplMFC(BaseGUIObject* owner)
       skinManager_(this, SkinMode::Default) {}
 
 BaseImplMFC::~BaseImplMFC() {
-  delete Links().layout;
+  DeleteLayout();
+}
+
+void BaseImplMFC::DeleteLayout() {
+  delete std::exchange(Links().layout, nullptr);
+}
+
+void BaseImplMFC::LeaveDialog() {
+  skinManager_.SetSkinMode(skinManager_.GetSkinMode());
+  children_.clear();
+  if (owner_) owner_->SetParent(nullptr);
+}
+
+void BaseImplMFC::KeepState() {
+  creation_.text = Window().GetWindowText();
 }
 
 void BaseImplMFC::Release() {
