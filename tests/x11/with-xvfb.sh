@@ -9,7 +9,7 @@ mkfifo "$folder/number"
 Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset ${XVFB_OPTIONS:-} \
   3>"$folder/number" 2>"$folder/log" &
 server=$!
-trap 'kill "$server" 2>/dev/null; rm -rf "$folder"' EXIT
+trap 'kill "$server" 2>/dev/null; wait "$server" 2>/dev/null; rm -rf "$folder"' EXIT
 trap 'exit 130' INT TERM
 
 if ! read -r number <"$folder/number"; then
