@@ -15,6 +15,9 @@ class WEXA_API WexaException : public std::exception {
   ~WexaException() override;
 
   const char* what() const noexcept override { return text_.c_str(); }
+  // Where it was thrown; an empty file when no place was given.
+  const std::string& GetFile() const { return file_; }
+  int GetLine() const { return line_; }
 
  private:
   std::string file_;

@@ -4,7 +4,19 @@
 
 namespace Wexa {
 
+namespace {
+
+// Without branches, so that the compiler can look at many bytes at once.
+bool IsAscii(std::string_view bytes) {
+  unsigned char all = 0;
+  for (const char byte : bytes) all |= static_cast<unsigned char>(byte);
+  return all < 0x80;
+}
+
+}  // namespace
+
 std::optional<std::wstring> WidenUtf8(std::string_view bytes) {
+  if (IsAscii(bytes)) return std::wstring(bytes.begin(), bytes.end());
   if (utf8::find_invalid(bytes.begin(), bytes.end()) != bytes.end()) return std::nullopt;
   std::wstring text(bytes.size(), L'\0');
   const wchar_t* end = utf8::unchecked::utf8to32(bytes.begin(), bytes.end(), text.data());
