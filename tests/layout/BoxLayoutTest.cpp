@@ -85,6 +85,17 @@ TEST_F(BoxLayoutTest, SpacerHasNoGapsAndPushesApart) {
   EXPECT_EQ(b->place, Rect(256, 0, 50, 20));
 }
 
+TEST_F(BoxLayoutTest, IgnoredHintStillLeavesTheMinimum) {
+  FakeWidget& a = AddTo(row_, Make({50, 20}, {10, 10}));
+  FakeWidget& b = AddTo(row_, Make({50, 20}, {10, 10}));
+  a->policy = P(P::Ignored, P::Preferred);
+  a->minimum = {40, 0};
+  b->policy = P(P::Expanding, P::Preferred);
+  row_.SetGeometry({0, 0, 146, 20});
+  EXPECT_EQ(a->place, Rect(0, 0, 40, 20));
+  EXPECT_EQ(b->place, Rect(46, 0, 100, 20));
+}
+
 TEST_F(BoxLayoutTest, WidgetsOwnStretchCountsUnlessTheBoxSetsOne) {
   FakeWidget& a = AddTo(row_, Make({0, 20}, {0, 10}));
   FakeWidget& b = AddTo(row_, Make({0, 20}, {0, 10}));

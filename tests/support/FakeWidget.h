@@ -81,7 +81,8 @@ inline void FakeImpl::MoveWindow(int x, int y, int width, int height, bool) {
   const Rect before = place;
   place = Rect(x, y, size.Width(), size.Height());
   if (place != before) ++moves;
-  if (place != before && onMoved) onMoved();
+  const auto handler = onMoved;  // it may replace itself
+  if (place != before && handler) handler();
   if (place.GetSize() != before.GetSize() && Links().layout) {
     ResizeEvent event(before.GetSize(), place.GetSize());
     Links().layout->WidgetEvent(&event);
