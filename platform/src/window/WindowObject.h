@@ -91,9 +91,7 @@ class Hold {
   explicit Hold(Window* window) : window_(window) {
     if (window_) ++window_->holds;
   }
-  ~Hold() {
-    if (window_ && --window_->holds == 0 && !window_->alive) delete window_;
-  }
+  ~Hold();
   Hold(const Hold&) = delete;
   Hold& operator=(const Hold&) = delete;
   bool Alive() const { return window_ && window_->alive; }

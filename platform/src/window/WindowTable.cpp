@@ -13,6 +13,10 @@ thread_local bool makesWindows = false;
 
 }  // namespace
 
+Hold::~Hold() {
+  if (window_ && --window_->holds == 0 && !window_->alive) delete window_;
+}
+
 Window* Find(HWND window) {
   return Table().Find(window);
 }
