@@ -20,6 +20,9 @@ class ComboBox::impl : public LineFieldImpl {
   using LineFieldImpl::LineFieldImpl;
 
   std::vector<std::wstring> items;
+  // Choices are never cut off: the field does not shrink below its widest one.
+  Size MinimumIdealSize() override { return IdealSize(); }
+
   int current = -1;
   int minimumContentsLength = 0;
 

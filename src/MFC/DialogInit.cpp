@@ -131,12 +131,16 @@ void Dialog::impl::ApplyTabOrder() {
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
 }
 
-// The first pass finds the dialog's limits; the window then takes a size within them.
+// The first pass finds the dialog's limits; the window then takes a size within them, tall enough
+// for wrapped texts.
 void Dialog::impl::ArrangeFirstTime() {
-  if (!Links().layout) return;
-  Links().layout->RequestUpdate(false);
-  Links().layout->Activate();
-  ResizeClient(clientSize.Width(), clientSize.Height());
+  Layout* layout = Links().layout;
+  if (!layout) return;
+  layout->RequestUpdate(false);
+  layout->Activate();
+  int width = std::max(clientSize.Width(), MinimumSize().Width());
+  int height = layout->HasHeightForWidth() ? layout->TotalHeightForWidth(width) : 0;
+  ResizeClient(width, std::max(clientSize.Height(), height));
 }
 
 // -- Default button

@@ -8,13 +8,16 @@ namespace Wexa {
 
 namespace {
 
-constexpr std::array<std::pair<std::wstring_view, wchar_t>, 6> kEntities{{
+constexpr std::array<std::pair<std::wstring_view, wchar_t>, 9> kEntities{{
     {L"&amp;", L'&'},
     {L"&lt;", L'<'},
     {L"&gt;", L'>'},
     {L"&quot;", L'"'},
     {L"&apos;", L'\''},
     {L"&nbsp;", L'\u00A0'},
+    {L"&copy;", L'\u00A9'},
+    {L"&ndash;", L'\u2013'},
+    {L"&hellip;", L'\u2026'},
 }};
 constexpr int kBoldWeight = 600;
 
