@@ -32,3 +32,5 @@ HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous);
 BOOL CheckRadioButton(HWND dialog, int first, int last, int check);
 // The character after the text's mnemonic mark, upper-cased; 0 without one.
 wchar_t GetMnemonic(std::wstring_view text);
+// Whether the character, in either case, is the text's mnemonic.
+bool IsMnemonic(std::wstring_view text, wchar_t character);

@@ -57,12 +57,14 @@ SIZE GetTextExtent(HFONT font, std::wstring_view text, int width, UINT format);
 // One shaped line of editable text: carets, hits and drawing. Positions are code points.
 class TextLine {
  public:
+  // Unless it is told to, the line runs from right to left when its first letter does.
   TextLine(HFONT font, std::wstring_view text, bool rightToLeft);
   ~TextLine();
   TextLine(TextLine&&) noexcept;
   TextLine& operator=(TextLine&&) noexcept;
 
   int Width() const;
+  bool IsRightToLeft() const;
   // Left edge of the caret before the character at `index` (index may be the length).
   int XOfIndex(std::size_t index) const;
   // The caret index nearest to x, always between two grapheme clusters.

@@ -1,7 +1,6 @@
 // The keys of dialogs: Tab, arrows, Return, Escape and mnemonics.
 
 #include <algorithm>
-#include <cwctype>
 
 #include "controls/DialogFocus.h"
 #include "platform/ControlConstants.h"
@@ -91,7 +90,7 @@ bool HasMnemonic(HWND control, wchar_t letter) {
   if (!(code & (DLGC_BUTTON | DLGC_STATIC)) || !IsWindowVisible(control)) return false;
   const bool isText = (code & DLGC_STATIC) && !(code & DLGC_BUTTON);
   if (isText && (StyleOf(control) & SS_NOPREFIX)) return false;
-  return GetMnemonic(GetWindowTextString(control)) == letter;
+  return IsMnemonic(GetWindowTextString(control), letter);
 }
 
 // The controls with this letter, the next after the focus first.
@@ -116,9 +115,8 @@ void Choose(HWND target, bool isButton, bool isOnly) {
 
 // One control with the letter is chosen; several take turns with the focus.
 bool OnMnemonic(HWND dialog, HWND focus, wchar_t character) {
-  const auto letter = static_cast<wchar_t>(std::towupper(character));
-  if (letter <= L' ') return false;
-  const std::vector<HWND> controls = ControlsWithMnemonic(dialog, focus, letter);
+  if (character <= L' ') return false;
+  const std::vector<HWND> controls = ControlsWithMnemonic(dialog, focus, character);
   for (HWND control : controls) {
     const HWND target = MnemonicTarget(dialog, control);
     if (!target) continue;

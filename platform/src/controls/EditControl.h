@@ -72,6 +72,7 @@ class EditControl : public Control {
   void OnDrag(POINT point);
   void OnRelease();
   void StopDragging();
+  void ScrollDrag();
   bool OnTimer(UINT_PTR id);
   void OnFocus(bool gained);
 
@@ -79,6 +80,7 @@ class EditControl : public Control {
   // Brings the view up to date with text, style and size.
   void UpdateView(Scroll scroll);
   void RestartBlinking();
+  void Blink();
   EditView::Marks Marks() const;
   void PaintCue(Painter& painter, const ControlPalette& palette) const;
 
@@ -91,5 +93,6 @@ class EditControl : public Control {
   int leftMargin_ = 0;
   int rightMargin_ = 0;
   bool dragging_ = false;
-  bool caretShown_ = false;  // this half of the blink period
+  bool caretShown_ = false;  // in this phase of blinking
+  int phasesLeft_ = 0;
 };

@@ -11,6 +11,7 @@ namespace {
 constexpr UINT_PTR kBlinkTimer = 1;
 constexpr UINT_PTR kScrollTimer = 2;
 constexpr UINT kScrollInterval = 50;
+constexpr int kBlinkPhases = 20;  // even: it rests visible
 
 bool IsDown(int key) {
   return GetKeyState(key) < 0;
@@ -48,10 +49,10 @@ std::size_t EditControl::PlaceAfterKey(int key, bool control, bool shift) const 
   }
 }
 
-// In a mirrored window words follow each other to the left.
+// In a right-to-left line words follow each other to the left.
 std::size_t EditControl::PlaceOfWord(int direction) const {
   if (passwordChar_) return direction < 0 ? 0 : buffer_.Length();
-  const bool forward = (direction > 0) != view_.IsMirrored();
+  const bool forward = (direction > 0) != view_.Line().IsRightToLeft();
   return forward ? view_.Line().NextWord(buffer_.Caret())
                  : view_.Line().PreviousWord(buffer_.Caret());
 }
@@ -156,26 +157,35 @@ void EditControl::StopDragging() {
 // -- Timers and focus ----------------------------------------------------------------------------
 
 bool EditControl::OnTimer(UINT_PTR id) {
-  if (id == kBlinkTimer) {
-    caretShown_ = !caretShown_;
-    const CRect caret = view_.CaretRect(buffer_.Caret());
-    InvalidateRect(Window(), &caret, FALSE);
-    return true;
+  switch (id) {
+    case kBlinkTimer: Blink(); return true;
+    case kScrollTimer: ScrollDrag(); return true;
+    default: return false;
   }
-  if (id != kScrollTimer) return false;
+}
+
+void EditControl::ScrollDrag() {
   POINT point{};
   GetCursorPos(&point);
   ScreenToClient(Window(), &point);
   OnDrag(point);
-  return true;
 }
 
 void EditControl::RestartBlinking() {
   if (!HasFocus()) return;
   caretShown_ = true;
+  phasesLeft_ = kBlinkPhases;
   const UINT interval = GetCaretBlinkTime();
   const bool blinks = interval != 0 && interval != static_cast<UINT>(-1);
   if (blinks) SetTimer(Window(), kBlinkTimer, interval);
+}
+
+// Left alone the caret comes to rest, so that an idle program wakes for nothing.
+void EditControl::Blink() {
+  caretShown_ = !caretShown_;
+  if (--phasesLeft_ == 0) KillTimer(Window(), kBlinkTimer);
+  const CRect caret = view_.CaretRect(buffer_.Caret());
+  InvalidateRect(Window(), &caret, FALSE);
 }
 
 void EditControl::OnFocus(bool gained) {

@@ -36,7 +36,6 @@ class EditView {
   void SetAlignment(Alignment alignment) { alignment_ = alignment; }
   // In a mirrored window the line begins at the right, and x grows to the left.
   void SetMirrored(bool mirrored);
-  bool IsMirrored() const { return mirrored_; }
 
   const CRect& Area() const { return area_; }
   // Where a line stands vertically: centred in the area.

@@ -55,7 +55,7 @@ bool StartsWord(const PangoLogAttr& attribute) {
 TextLine::TextLine(HFONT font, std::wstring_view text, bool rightToLeft)
     : impl_(std::make_unique<Impl>()) {
   RealizedFont& realized = FontOf(font);
-  auto direction = rightToLeft ? BaseDirection::RightToLeft : BaseDirection::LeftToRight;
+  auto direction = rightToLeft ? BaseDirection::RightToLeft : BaseDirection::FirstStrong;
   impl_->layout = TextEngine::Get().MakeLayout(text, realized.Description(), direction);
   impl_->offsets = Utf8Offsets(text);
   impl_->ascent = realized.Metrics().ascent;
@@ -71,6 +71,10 @@ TextLine& TextLine::operator=(TextLine&&) noexcept = default;
 
 int TextLine::Width() const {
   return impl_->width;
+}
+
+bool TextLine::IsRightToLeft() const {
+  return pango_layout_get_direction(impl_->layout.get(), 0) == PANGO_DIRECTION_RTL;
 }
 
 int TextLine::XOfIndex(std::size_t index) const {
