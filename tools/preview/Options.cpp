@@ -1,0 +1,135 @@
+#include "preview/Options.h"
+
+#include <CLI/CLI.hpp>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+
+#include "WexaConfig.h"
+#include "preview/ExitStatus.h"
+
+namespace preview {
+namespace {
+
+constexpr const char* kDescription =
+    "Shows Qt Designer forms as this library builds them: in a window, as a picture, as JSON.";
+
+constexpr const char* kExamples = R"(
+A FORM is a .ui file; a folder stands for the .ui files below it.
+Pictures, dumps and reports are made offscreen unless --display or WEXA_DISPLAY tells otherwise.
+A picture shows the whole window, with its frame, at the last --size.
+
+Examples:
+  wexa-preview settings.ui                            work in the dialog
+  wexa-preview --png shot.png --scale 1.5 --skin dark settings.ui
+  wexa-preview --dump - --size 400x300 --size 800x600 settings.ui
+  wexa-preview --report forms/                        one JSON line for each form
+
+Exit status: 0 all went well, 1 a form or a file failed, 2 wrong options.)";
+
+constexpr int kLargestSide = 16384;
+
+std::string ReadSize(const std::string& text, Wexa::Size& size) {
+  int width = 0;
+  int height = 0;
+  int used = 0;
+  const int found = std::sscanf(text.c_str(), "%5dx%5d%n", &width, &height, &used);
+  const bool whole = found == 2 && static_cast<std::size_t>(used) == text.size();
+  if (!whole || width < 1 || height < 1 || width > kLargestSide || height > kLargestSide)
+    return "'" + text + "' is no size like 640x480";
+  size = {width, height};
+  return {};
+}
+
+// CLI11 reports a message, which it puts behind the option's name.
+void AddSizes(CLI::App& app, std::vector<Wexa::Size>& sizes) {
+  const auto read = [&sizes](const CLI::results_t& texts) {
+    for (const std::string& text : texts) {
+      Wexa::Size size;
+      if (const std::string error = ReadSize(text, size); !error.empty())
+        throw CLI::ValidationError("--size", error);
+      sizes.push_back(size);
+    }
+    return true;
+  };
+  app.add_option("--size", read, "Client size in pixels; may be repeated")
+      ->type_name("WxH")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
+void AddLooks(CLI::App& app, Options& options) {
+  app.add_option("--scale", options.scale, "Scale of the display, 1.5 for 144 dots per inch")
+      ->type_name("S")
+      ->check(CLI::Range(0.5, 10.0));
+  app.add_option("--skin", options.skin, "Colours; the desktop's when not given")
+      ->type_name("NAME")
+      ->check(CLI::IsMember({"light", "dark", "contrast"}));
+  app.add_flag("--rtl", options.rightToLeft, "Lay out from right to left");
+  app.add_option("--display", options.display, "Where to show it")
+      ->type_name("NAME")
+      ->check(CLI::IsMember({"offscreen", "x11"}));
+}
+
+void AddOptions(CLI::App& app, Options& options) {
+  app.footer(kExamples);
+  app.set_version_flag("--version", "wexa-preview " WEXA_VERSION);
+  app.add_option("FORM", options.forms, "The forms")->required()->type_name("");
+  auto* png = app.add_option("--png", options.png, "Write a picture")->type_name("FILE");
+  auto* dump =
+      app.add_option("--dump", options.dump, "Write the geometry as JSON, - for standard output");
+  dump->type_name("FILE");
+  AddSizes(app, options.sizes);
+  AddLooks(app, options);
+  app.add_flag("--report", options.report, "Time each form; one line of JSON for each")
+      ->excludes(png)
+      ->excludes(dump);
+}
+
+void RequireOneForm(const Options& options) {
+  if (options.WantsFiles() && options.forms.size() > 1)
+    throw CLI::ValidationError("--png and --dump take one FORM", "there are several");
+}
+
+void SetEnvironment(const char* name, const std::string& value) {
+  setenv(name, value.c_str(), 1);
+}
+
+void ApplyDisplay(const Options& options) {
+  if (!options.display.empty()) {
+    SetEnvironment("WEXA_DISPLAY", options.display);
+  } else if (options.WantsFiles() || options.report) {
+    setenv("WEXA_DISPLAY", "offscreen", 0);
+  }
+  constexpr double kUnscaledDpi = 96;
+  if (options.scale)
+    SetEnvironment("WEXA_DPI", std::to_string(std::lround(kUnscaledDpi * *options.scale)));
+}
+
+}  // namespace
+
+CommandLine ReadCommandLine(int argc, char** argv) {
+  CLI::App app(kDescription, "wexa-preview");
+  Options options;
+  try {
+    AddOptions(app, options);
+    app.parse(argc, argv);
+    RequireOneForm(options);
+    return {options, kSuccess};
+  } catch (const CLI::Success& wish) {
+    return {std::nullopt, app.exit(wish)};
+  } catch (const CLI::Error& error) {
+    std::fprintf(stderr, "wexa-preview: %s (--help lists the options)\n", error.what());
+    return {std::nullopt, kWrongOptions};
+  }
+}
+
+void Apply(const Options& options) {
+  ApplyDisplay(options);
+  if (!options.skin.empty())
+    SetEnvironment("WEXA_HIGH_CONTRAST", options.skin == "contrast" ? "1" : "0");
+  if (options.skin == "dark") Wexa::SetGlobalSkinMode(Wexa::SkinMode::Dark);
+  if (options.rightToLeft) Wexa::SetLayoutRTL(true);
+}
+
+}  // namespace preview
