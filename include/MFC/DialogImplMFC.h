@@ -28,6 +28,7 @@ class Dialog::impl : public BaseImplMFC {
   // Dialog says.
   void Build(const std::wstring& text, const std::wstring& uiFile);
 
+  void Release() override;
   CWnd* GetCWnd() override;
   Size IdealSize() override;
   void SetFixedSize(Size size) override;
@@ -70,6 +71,7 @@ class Dialog::impl : public BaseImplMFC {
 
  private:
   void InitSkin();
+  void DropElements();
   void BuildTemplate();
   void MakeWindow();
   void SettleStyle();

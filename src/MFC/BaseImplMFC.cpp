@@ -10,6 +10,7 @@
 #include "WexaException.h"
 #include "WexaUtils.h"
 #include "layout/Layout.h"
+#include "layout/SizeLimits.h"
 #include "layout/WidgetItem.h"
 #include "platform/Theme.h"
 
@@ -18,10 +19,6 @@ namespace Wexa {
 namespace {
 
 constexpr UINT kHoverMilliseconds = 1;
-
-int WidgetSizeLimit() {
-  return static_cast<int>(16777215 * WexaUtils::GetScaleFactor());
-}
 
 Rect ToRect(const RECT& r) {
   return Rect(CRect(r));
@@ -232,7 +229,7 @@ void BaseImplMFC::UpdateLayout() {
 }
 
 void BaseImplMFC::InvalidateLayout() {
-  if (Links().layoutItem) Links().layoutItem->InvalidateSizes();
+  if (WidgetItemV2* item = NearestItemOf(owner_)) item->InvalidateSizes();
 }
 
 bool BaseImplMFC::PostLayoutRequest() {

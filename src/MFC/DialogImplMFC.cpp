@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "Configuration.h"
 #include "MFC/BaseDialogMFC.h"
@@ -49,12 +50,25 @@ Dialog::impl::impl(Dialog* owner, DWORD style, CWnd* parent)
   InitSkin();
 }
 
-// Layouts go before the widgets that their items place; children before their parents.
 Dialog::impl::~impl() {
-  for (Element& element : elements_) ImplOf(element.widget.get())->DeleteLayout();
+  DropElements();
+}
+
+// The dialog is gone for its host: its widgets go now, even while a handler still runs in them.
+void Dialog::impl::Release() {
+  BaseImplMFC::Release();
+  DropElements();
+}
+
+// Layouts go before the widgets that their items place; children before their parents.
+void Dialog::impl::DropElements() {
+  auto elements = std::exchange(elements_, {});
+  elementsByName_.clear();
+  Children().clear();
+  for (Element& element : elements) ImplOf(element.widget.get())->DeleteLayout();
   DeleteLayout();
-  for (Element& element : elements_) ImplOf(element.widget.get())->LeaveDialog();
-  while (!elements_.empty()) elements_.pop_back();
+  for (Element& element : elements) ImplOf(element.widget.get())->LeaveDialog();
+  while (!elements.empty()) elements.pop_back();
 }
 
 CWnd* Dialog::impl::GetCWnd() {
