@@ -1,6 +1,7 @@
 #include "window/Activation.h"
 
 #include "window/Dispatch.h"
+#include "window/DisplayFocus.h"
 #include "window/Focus.h"
 #include "window/Position.h"
 
@@ -27,7 +28,7 @@ bool IsStillActive(const Window& root) {
 void Enter(Window& root, UINT how, HWND previous) {
   root.top->active = true;
   Raise(root);
-  if (IsStillActive(root) && root.IsVisible()) display::Current().FocusSurface(root.top->surfaceId);
+  if (IsStillActive(root) && root.IsVisible()) RequestDisplayFocus(root.top->surfaceId);
   if (IsStillActive(root)) Send(root, WM_NCACTIVATE, TRUE);
   if (IsStillActive(root)) Send(root, WM_ACTIVATE, how, reinterpret_cast<LPARAM>(previous));
   if (IsStillActive(root) && !IsInside(root, FocusedWindow()) && root.IsEnabled())
@@ -67,6 +68,13 @@ Window* EnabledPopUp(const Window& root) {
   return nullptr;
 }
 
+void EnterShown(Window& root, bool activate) {
+  if (Active() == root.handle)
+    RequestDisplayFocus(root.top->surfaceId);
+  else if (activate && CanActivate(root))
+    Activate(&root, WA_ACTIVE);
+}
+
 void LeaveHidden(Window& root) {
   if (Active() != root.handle) return;
   Window* owner = Find(root.owner);
@@ -82,14 +90,15 @@ void ForgetActivation(const Window& window) {
 
 void SurfaceFocused(display::SurfaceId id) {
   Window* root = FindBySurface(id);
-  if (!root) return;
+  if (!NoteFocused(id) || !root) return;
   if (!root->IsEnabled()) root = EnabledPopUp(*root);
   if (root && CanActivate(*root)) Activate(root, WA_ACTIVE);
 }
 
 void SurfaceUnfocused(display::SurfaceId id) {
+  const bool isNews = NoteUnfocused(id);
   Window* root = FindBySurface(id);
-  if (root && Active() == root->handle) Activate(nullptr, WA_INACTIVE);
+  if (isNews && root && Active() == root->handle) Activate(nullptr, WA_INACTIVE);
 }
 
 }  // namespace core

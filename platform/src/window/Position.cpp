@@ -104,8 +104,7 @@ bool Reposition(Window& window, WINDOWPOS request) {
   Send(window, WM_WINDOWPOSCHANGED, 0, AsParam(&request));
   if (!hold.Alive() || !window.top) return true;
   if (request.flags & SWP_HIDEWINDOW) LeaveHidden(window);
-  const bool shown = (request.flags & SWP_SHOWWINDOW) && !(request.flags & SWP_NOACTIVATE);
-  if (shown && CanActivate(window)) Activate(&window, WA_ACTIVE);
+  if (request.flags & SWP_SHOWWINDOW) EnterShown(window, !(request.flags & SWP_NOACTIVATE));
   return true;
 }
 

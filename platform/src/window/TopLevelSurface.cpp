@@ -1,5 +1,6 @@
 #include "window/TopLevelSurface.h"
 
+#include "window/DisplayFocus.h"
 #include "window/SizeLimits.h"
 
 namespace core {
@@ -59,7 +60,10 @@ Surface* EnsurePixels(Window& root) {
 void DestroySurface(Window& root) {
   TopLevel& top = *root.top;
   top.pixels.reset();
-  if (top.surfaceId != 0) display::Current().DestroySurface(top.surfaceId);
+  if (top.surfaceId != 0) {
+    ForgetDisplayFocus(top.surfaceId);
+    display::Current().DestroySurface(top.surfaceId);
+  }
   top.surfaceId = 0;
 }
 

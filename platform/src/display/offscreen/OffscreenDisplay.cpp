@@ -91,9 +91,9 @@ void OffscreenDisplay::GiveFocus(SurfaceId id) {
 
 Pixels OffscreenDisplay::LockPixels(SurfaceId id) {
   Surface* surface = Find(id);
-  if (!surface || surface->pixels.empty()) return {};
+  if (!surface || surface->room == 0) return {};
   const int width = surface->place.Width();
-  return {surface->pixels.data(), width, surface->place.Height(),
+  return {surface->pixels.get(), width, surface->place.Height(),
           width * static_cast<int>(sizeof(std::uint32_t))};
 }
 

@@ -8,7 +8,9 @@ struct OffscreenDisplay::Surface {
   SurfaceKind kind;
   SurfaceId owner;
   CRect place;
-  std::vector<std::uint32_t> pixels{};
+  // Room for the pixels, which are arbitrary until painted: kept while a resized surface fits.
+  std::unique_ptr<std::uint32_t[]> pixels{};
+  std::size_t room = 0;
   std::vector<RECT> presented{};
   std::wstring title{};
   CursorShape cursor = CursorShape::Arrow;
@@ -18,7 +20,9 @@ struct OffscreenDisplay::Surface {
   void Allocate() {
     const auto count =
         static_cast<std::size_t>(place.Width()) * static_cast<std::size_t>(place.Height());
-    pixels.assign(count, 0);
+    if (count <= room) return;
+    pixels = std::make_unique_for_overwrite<std::uint32_t[]>(count);
+    room = count;
   }
 };
 

@@ -1,0 +1,324 @@
+#include "platform/Painter.h"
+#include "platform/Picture.h"
+#include "window/WindowTest.h"
+
+#include <cstdio>
+#include <filesystem>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+namespace {
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr std::uint32_t kRedPixel = 0xFF0000;
+constexpr std::uint32_t kGreenPixel = 0x00FF00;
+constexpr std::uint32_t kBluePixel = 0x0000FF;
+}  // namespace
+
+// Windows fill themselves with a colour of their own and note what they were asked to paint.
+class PaintTest : public WindowTest {
+ protected:
+  PaintTest() {
+    InvalidateRect(window_, nullptr, TRUE);  // in its colour
+    handler = [this](HWND w, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+      if (message != WM_PAINT) return std::nullopt;
+      Paint(w);
+      return 0;
+    };
+  }
+
+  void Paint(HWND window) {
+    PAINTSTRUCT paint{};
+    Painter(BeginPaint(window, &paint)).FillRect({0, 0, 2000, 2000}, ColorOf(window));
+    painted_.emplace_back(window, paint.rcPaint);
+    EndPaint(window, &paint);
+  }
+  static COLORREF ColorOf(HWND window) {
+    return static_cast<COLORREF>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  }
+  static HWND Colored(HWND window, COLORREF color) {
+    SetWindowLongPtrW(window, GWLP_USERDATA, static_cast<LONG_PTR>(color));
+    return window;
+  }
+
+  // What was painted since the last call, in order.
+  std::vector<std::pair<HWND, CRect>> TakePainted() {
+    robot_.PumpAll();
+    return std::exchange(painted_, {});
+  }
+  void Settle() {
+    TakePainted();
+    TakePresented(window_);
+  }
+
+  std::vector<std::pair<HWND, CRect>> painted_;
+  HWND window_ = Colored(ShowWindowAt({100, 100, 300, 300}), kRed);
+};
+
+TEST_F(PaintTest, ParentsPaintBeforeChildrenAndLowerBeforeUpper) {
+  const HWND top = MakeChild(window_, {0, 0, 50, 50});
+  const HWND bottom = MakeChild(window_, {100, 0, 150, 50});
+  const HWND inner = MakeChild(bottom, {5, 5, 10, 10});
+  InvalidateRect(window_, nullptr, TRUE);
+  std::vector<HWND> order;
+  for (const auto& [window, rect] : TakePainted()) order.push_back(window);
+  EXPECT_THAT(order, ElementsAre(window_, bottom, inner, top));
+}
+
+TEST_F(PaintTest, OnlyTheDamagedRectangleIsPaintedAndPresented) {
+  MakeChild(window_, {0, 0, 20, 20});
+  const HWND child = MakeChild(window_, {50, 50, 100, 100});
+  Settle();
+  const RECT damaged{40, 40, 60, 60};
+  InvalidateRect(window_, &damaged, TRUE);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(window_, CRect(damaged)),
+                                         std::pair(child, CRect(0, 0, 10, 10))));
+  EXPECT_THAT(TakePresented(window_), ElementsAre(CRect(damaged)));
+}
+
+TEST_F(PaintTest, ChildAlonePaintsAlone) {
+  const HWND child = MakeChild(window_, {50, 50, 100, 100});
+  Settle();
+  InvalidateRect(child, nullptr, TRUE);
+  InvalidateRect(child, nullptr, TRUE);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(child, CRect(0, 0, 50, 50))));
+  EXPECT_THAT(TakePresented(window_), ElementsAre(CRect(50, 50, 100, 100)));
+}
+
+TEST_F(PaintTest, NothingDueNothingPainted) {
+  Settle();
+  EXPECT_FALSE(PaintNow());
+  EXPECT_THAT(TakePainted(), IsEmpty());
+  EXPECT_THAT(TakePresented(window_), IsEmpty());
+}
+
+TEST_F(PaintTest, SiblingsAboveArePaintedAgainWhereTheyOverlap) {
+  const HWND above = Colored(MakeChild(window_, {40, 40, 100, 100}), kGreen);
+  const HWND below = Colored(MakeChild(window_, {0, 0, 60, 60}), kBlue);
+  Settle();
+  InvalidateRect(below, nullptr, TRUE);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(below, CRect(0, 0, 60, 60)),
+                                         std::pair(above, CRect(0, 0, 20, 20))));
+  InvalidateRect(above, nullptr, TRUE);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(above, CRect(0, 0, 60, 60))));
+  EXPECT_EQ(robot_.PixelAt(window_, 50, 50), kGreenPixel);
+  EXPECT_EQ(robot_.PixelAt(window_, 30, 30), kBluePixel);
+}
+
+TEST_F(PaintTest, RaisingAWindowShowsIt) {
+  Colored(MakeChild(window_, {40, 40, 100, 100}), kGreen);
+  const HWND below = Colored(MakeChild(window_, {0, 0, 60, 60}), kBlue);
+  SetWindowPos(below, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  EXPECT_EQ(robot_.PixelAt(window_, 50, 50), kBluePixel);
+}
+
+TEST_F(PaintTest, HiddenAndMovedChildrenUncoverTheirParent) {
+  const HWND child = Colored(MakeChild(window_, {0, 0, 50, 50}), kGreen);
+  EXPECT_EQ(robot_.PixelAt(window_, 10, 10), kGreenPixel);
+  MoveWindow(child, 100, 100, 50, 50, TRUE);
+  EXPECT_EQ(robot_.PixelAt(window_, 10, 10), kRedPixel);
+  EXPECT_EQ(robot_.PixelAt(window_, 110, 110), kGreenPixel);
+  ShowWindow(child, SW_HIDE);
+  EXPECT_EQ(robot_.PixelAt(window_, 110, 110), kRedPixel);
+}
+
+TEST_F(PaintTest, ChildrenAreClippedByTheirParents) {
+  const HWND child = Colored(MakeChild(window_, {150, 150, 180, 180}), kGreen);
+  Colored(MakeChild(child, {-20, 0, 100, 100}), kBlue);
+  EXPECT_EQ(robot_.PixelAt(window_, 149, 160), kRedPixel);
+  EXPECT_EQ(robot_.PixelAt(window_, 150, 160), kBluePixel);
+  EXPECT_EQ(robot_.PixelAt(window_, 180, 160), kRedPixel);
+}
+
+TEST_F(PaintTest, WindowThatClipsItsChildrenLeavesThemAlone) {
+  SetWindowLongPtrW(window_, GWL_STYLE, GetWindowLongPtrW(window_, GWL_STYLE) | WS_CLIPCHILDREN);
+  const HWND child = Colored(MakeChild(window_, {50, 50, 100, 100}), kGreen);
+  Settle();
+  InvalidateRect(window_, nullptr, TRUE);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(window_, CRect(0, 0, 200, 200))));
+  EXPECT_EQ(robot_.PixelAt(window_, 60, 60), kGreenPixel);
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(window_, CRect(0, 0, 200, 200)),
+                                         std::pair(child, CRect(0, 0, 50, 50))));
+}
+
+TEST_F(PaintTest, GrandchildrenOfAClippingChildArePaintedOverToo) {
+  const HWND child =
+      Colored(MakeChild(window_, {50, 50, 100, 100}, WS_VISIBLE | WS_CLIPCHILDREN), kGreen);
+  Colored(MakeChild(child, {10, 10, 20, 20}), kBlue);
+  Settle();
+  InvalidateRect(window_, nullptr, TRUE);
+  EXPECT_EQ(TakePainted().size(), 3U);
+  EXPECT_EQ(robot_.PixelAt(child, 15, 15), kBluePixel);
+}
+
+TEST_F(PaintTest, UpdateWindowPaintsAtOnceAndOnlyBelow) {
+  const HWND one = MakeChild(window_, {0, 0, 50, 50});
+  const HWND two = MakeChild(window_, {100, 0, 150, 50});
+  Settle();
+  InvalidateRect(one, nullptr, TRUE);
+  InvalidateRect(two, nullptr, TRUE);
+  UpdateWindow(one);
+  EXPECT_THAT(std::exchange(painted_, {}), ElementsAre(std::pair(one, CRect(0, 0, 50, 50))));
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(two, CRect(0, 0, 50, 50))));
+}
+
+TEST_F(PaintTest, UnhandledPaintCountsAsDone) {
+  handler = nullptr;
+  Watch({WM_PAINT});
+  InvalidateRect(window_, nullptr, TRUE);
+  EXPECT_TRUE(GetUpdateRect(window_, nullptr));
+  robot_.PumpAll();
+  robot_.PumpAll();
+  EXPECT_THAT(TakeNotes(), ElementsAre("PAINT"));
+  EXPECT_FALSE(GetUpdateRect(window_, nullptr));
+}
+
+TEST_F(PaintTest, PaintSentByHandTakesNothingAway) {
+  handler = nullptr;
+  InvalidateRect(window_, nullptr, TRUE);
+  SendMessageW(window_, WM_PAINT, 0, 1);
+  EXPECT_TRUE(GetUpdateRect(window_, nullptr));
+}
+
+TEST_F(PaintTest, InvalidatedWhilePaintingIsPaintedAgain) {
+  int count = 0;
+  handler = [&](HWND w, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+    if (message != WM_PAINT) return std::nullopt;
+    Paint(w);
+    if (++count == 1) InvalidateRect(w, nullptr, FALSE);
+    return 0;
+  };
+  InvalidateRect(window_, nullptr, TRUE);
+  PaintNow();
+  PaintNow();
+  PaintNow();
+  EXPECT_EQ(count, 2);
+}
+
+TEST_F(PaintTest, EraseIsAskedForOnlyWhenWanted) {
+  Settle();
+  Watch({WM_ERASEBKGND});
+  InvalidateRect(window_, nullptr, FALSE);
+  robot_.PumpAll();
+  EXPECT_THAT(TakeNotes(), IsEmpty());
+  InvalidateRect(window_, nullptr, TRUE);
+  robot_.PumpAll();
+  EXPECT_THAT(TakeNotes(), ElementsAre("ERASE"));
+}
+
+TEST_F(PaintTest, HiddenWindowsAreNotPainted) {
+  const HWND hidden = MakeWindow(kBare, {0, 0, 10, 10});
+  Settle();
+  InvalidateRect(hidden, nullptr, TRUE);
+  UpdateWindow(hidden);
+  EXPECT_FALSE(PaintNow());
+  ShowWindow(hidden, SW_SHOW);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(hidden, CRect(0, 0, 10, 10))));
+}
+
+TEST_F(PaintTest, ChildShownAgainAfterBeingInvalidIsPainted) {
+  const HWND child = MakeChild(window_, {0, 0, 50, 50});
+  Settle();
+  InvalidateRect(child, nullptr, TRUE);
+  ShowWindow(child, SW_HIDE);
+  Settle();
+  ShowWindow(child, SW_SHOW);
+  EXPECT_THAT(TakePainted(), testing::Contains(std::pair(child, CRect(0, 0, 50, 50))));
+}
+
+TEST_F(PaintTest, RedrawTurnedOffPaintsNothing) {
+  const HWND child = MakeChild(window_, {0, 0, 50, 50});
+  Settle();
+  SendMessageW(child, WM_SETREDRAW, FALSE, 0);
+  InvalidateRect(child, nullptr, TRUE);
+  EXPECT_THAT(TakePainted(), IsEmpty());
+  SendMessageW(child, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(child, nullptr, TRUE);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(child, CRect(0, 0, 50, 50))));
+}
+
+TEST_F(PaintTest, ExceptionWhilePaintingLosesNoOtherWindow) {
+  const HWND one = MakeChild(window_, {0, 0, 50, 50});
+  const HWND two = MakeChild(window_, {100, 0, 150, 50});
+  Settle();
+  bool thrown = false;
+  handler = [&](HWND w, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+    if (message != WM_PAINT) return std::nullopt;
+    if (!std::exchange(thrown, true)) throw std::runtime_error("no");
+    Paint(w);
+    return 0;
+  };
+  InvalidateRect(one, nullptr, TRUE);
+  InvalidateRect(two, nullptr, TRUE);
+  EXPECT_THROW(robot_.PumpAll(), std::runtime_error);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(one, CRect(0, 0, 50, 50))));
+}
+
+TEST_F(PaintTest, RegionsAreInvalidatedExactly) {
+  Settle();
+  const CRgn region(CreateRectRgn(0, 0, 10, 10));
+  const CRgn other(CreateRectRgn(50, 50, 60, 60));
+  CombineRgn(region.GetSafeHandle(), region.GetSafeHandle(), other.GetSafeHandle(), RGN_OR);
+  InvalidateRgn(window_, region.GetSafeHandle(), TRUE);
+  TakePainted();
+  EXPECT_THAT(TakePresented(window_), ElementsAre(CRect(0, 0, 10, 10), CRect(50, 50, 60, 60)));
+}
+
+TEST_F(PaintTest, MirroredWindowPaintsTheMirroredRectangle) {
+  const HWND window = Colored(MakeWindow(kBare, {0, 0, 200, 100}, nullptr, WS_EX_LAYOUTRTL), kBlue);
+  ShowWindow(window, SW_SHOW);
+  TakePainted();
+  TakePresented(window);
+  const RECT leading{0, 0, 30, 10};
+  InvalidateRect(window, &leading, TRUE);
+  EXPECT_THAT(TakePainted(), ElementsAre(std::pair(window, CRect(leading))));
+  EXPECT_THAT(TakePresented(window), ElementsAre(CRect(170, 0, 200, 10)));
+}
+
+TEST_F(PaintTest, ExposedPixelsArePresentedWithoutPainting) {
+  Settle();
+  robot_.Screen().Report({.kind = display::Input::Kind::Exposed,
+                          .surface = SurfaceOf(window_),
+                          .area = {5, 5, 25, 25}});
+  EXPECT_THAT(TakePainted(), IsEmpty());
+  EXPECT_THAT(TakePresented(window_), ElementsAre(CRect(5, 5, 25, 25)));
+}
+
+TEST_F(PaintTest, AThousandChildrenPaintOnceEach) {
+  Settle();
+  for (int i = 0; i < 1000; ++i)
+    MakeChild(window_, {i % 40 * 5, i / 40 * 8, i % 40 * 5 + 5, i / 40 * 8 + 8});
+  EXPECT_EQ(TakePainted().size(), 1000U);
+  InvalidateRect(window_, nullptr, TRUE);
+  EXPECT_EQ(TakePainted().size(), 1001U);
+}
+
+TEST_F(PaintTest, PictureOfAHiddenWindowShowsItWhole) {
+  const HWND hidden = Colored(MakeWindow(kDialog, {0, 0, 100, 80}), kGreen);
+  const auto path = std::filesystem::path(testing::TempDir()) / "hidden-window.png";
+  SaveWindowPicture(hidden, path.string());
+  EXPECT_GT(std::filesystem::file_size(path), 100U);
+  EXPECT_FALSE(IsWindowVisible(hidden));
+  EXPECT_EQ(robot_.PixelAt(hidden, 5, 5), kGreenPixel);
+  std::filesystem::remove(path);
+}
+
+TEST_F(PaintTest, PictureNeedsATopLevelWindow) {
+  const HWND child = MakeChild(window_, {0, 0, 10, 10});
+  EXPECT_THROW(SaveWindowPicture(child, "x.png"), std::runtime_error);
+  EXPECT_THROW(SaveWindowPicture(nullptr, "x.png"), std::runtime_error);
+}
+
+TEST_F(PaintTest, BorderOfAChildIsOneUnit) {
+  const HWND child = Colored(MakeChild(window_, {10, 10, 60, 60}, WS_VISIBLE | WS_BORDER), kGreen);
+  CRect client;
+  GetClientRect(child, &client);
+  EXPECT_EQ(client, CRect(0, 0, 48, 48));
+  EXPECT_EQ(robot_.PixelAt(window_, 9, 30), kRedPixel);
+  EXPECT_EQ(robot_.PixelAt(window_, 10, 30), 0x646464U);
+  EXPECT_EQ(robot_.PixelAt(window_, 11, 30), kGreenPixel);
+}
