@@ -4,11 +4,19 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "TSTranslationUnit.h"
 #include "WexaExport.h"
 
 namespace Wexa {
+
+// Why a language file gave nothing, or what is wrong with it.
+struct LanguageDiagnostic {
+  std::wstring file;    // its path
+  int line;             // counted from 1; 0 for the whole file
+  std::wstring reason;  // one English sentence
+};
 
 // The texts of the current and of the default language, by component and id, and the translations
 // of form files. SetCurrentLanguage empties it. User-interface thread only, but for GetInstance.
@@ -19,23 +27,28 @@ class WEXA_API Translator {
   Translator& operator=(const Translator&) = delete;
 
   // Loads the strings files of a component and the common ones, and the component's form
-  // translations. Files that are missing, or of another language, give nothing. A file that is not
-  // well-formed throws rapidxml::parse_error, a line number that is none throws as std::stoi does.
+  // translations. Files that are missing, or of another language, give nothing; neither do files
+  // that cannot be understood, of which GetDiagnostics tells.
   void LoadStrings(const std::wstring& name);
-  // Adds the texts of another component to those of `name`. Throws as LoadStrings does.
+  // Adds the texts of another component to those of `name`, as LoadStrings reads them.
   void AppendStrings(const std::wstring& name, const std::wstring& other);
 
   // Empty when there is none. The locale plays no part.
   std::wstring GetText(const std::wstring& name, const std::wstring& id,
                        const std::wstring& localeName);
   std::wstring GetDefaultText(const std::wstring& name, const std::wstring& id);
+  // Forgets all texts, form translations and diagnostics.
   void ResetStringsTable();
+  // What was wrong with the files read since the last reset, in the order it was found.
+  const std::vector<LanguageDiagnostic>& GetDiagnostics() const { return diagnostics_; }
 
   // The text of a language file, decrypted where encrypted files are expected; empty on failure.
   std::wstring ReadTranslationFile(const std::wstring& path) const;
   // The text of an encrypted form file with its strings in the current language and without its
   // line ends; empty on failure.
   std::wstring TranslateUIFile(const std::wstring& path);
+  // The same for the text of a plain form file read from `path`, which keeps its lines.
+  std::wstring TranslateUIText(const std::wstring& path, const std::wstring& text) const;
 
  private:
   using Texts = std::unordered_map<std::wstring, std::wstring>;
@@ -45,13 +58,17 @@ class WEXA_API Translator {
   ~Translator();
   bool AddToTsFilesSet(const std::wstring& path);
   void LoadStringsOnce(StringsTable& table, const std::wstring& path);
-  void ReadStrings(const std::wstring& path, Texts& texts) const;
+  void ReadStrings(const std::wstring& path, Texts& texts);
   void MergeFormTranslations(const std::wstring& name);
+  void ReadFormTranslations(const std::wstring& path);
+  std::wstring ReadOrDiagnose(const std::wstring& path);
+  void Diagnose(const std::wstring& path, int line, std::wstring reason);
 
   StringsTable currentStrings_;
   StringsTable defaultStrings_;
   TSTranslationUnit unit_;
   std::set<std::wstring> loadedTsFiles_;
+  std::vector<LanguageDiagnostic> diagnostics_;
 };
 
 }  // namespace Wexa

@@ -1,7 +1,6 @@
 #include "XmlDocument.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "XmlCharacters.h"
 #include "XmlNesting.h"
@@ -79,23 +78,6 @@ namespace {
 constexpr int kDeepestNesting = 500;
 constexpr wchar_t kByteOrderMark = 0xFEFF;
 
-// The parser overwrites line ends on its way, so their places are noted before.
-class LineTable {
- public:
-  explicit LineTable(const std::wstring& text) {
-    for (auto at = text.find(L'\n'); at != std::wstring::npos; at = text.find(L'\n', at + 1)) {
-      ends_.push_back(at);
-    }
-  }
-  int LineOf(std::size_t offset) const {
-    const auto end = std::lower_bound(ends_.begin(), ends_.end(), offset);
-    return static_cast<int>(end - ends_.begin()) + 1;
-  }
-
- private:
-  std::vector<std::size_t> ends_;
-};
-
 void CheckBeforeParsing(const std::wstring& text, const LineTable& lines) {
   const auto zero = text.find(L'\0');
   if (zero != std::wstring::npos)
@@ -107,16 +89,28 @@ void CheckBeforeParsing(const std::wstring& text, const LineTable& lines) {
 
 }  // namespace
 
+LineTable::LineTable(std::wstring_view text) {
+  for (auto at = text.find(L'\n'); at != text.npos; at = text.find(L'\n', at + 1)) {
+    ends_.push_back(at);
+  }
+}
+
+int LineTable::LineOf(std::size_t offset) const {
+  const auto end = std::lower_bound(ends_.begin(), ends_.end(), offset);
+  return static_cast<int>(end - ends_.begin()) + 1;
+}
+
 XmlDocument::XmlDocument(std::wstring text)
-    : text_(std::move(text)), document_(std::make_unique<rapidxml::xml_document<wchar_t>>()) {
-  const LineTable lines(text_);
-  CheckBeforeParsing(text_, lines);
+    : text_(std::move(text)),
+      lines_(text_),
+      document_(std::make_unique<rapidxml::xml_document<wchar_t>>()) {
+  CheckBeforeParsing(text_, lines_);
   wchar_t* start = text_.data() + (text_.starts_with(kByteOrderMark) ? 1 : 0);
   try {
     document_->parse<rapidxml::parse_validate_closing_tags>(start);
   } catch (const rapidxml::parse_error& error) {
     const auto offset = static_cast<std::size_t>(error.where<wchar_t>() - text_.data());
-    throw XmlParseError(error.what(), lines.LineOf(offset));
+    throw XmlParseError(error.what(), lines_.LineOf(offset));
   }
 }
 
@@ -127,6 +121,10 @@ const XmlNode* XmlDocument::First(const wchar_t* name) const {
     if (node->type() == rapidxml::node_element) return node;
   }
   return nullptr;
+}
+
+int XmlDocument::LineOf(const XmlNode& element) const {
+  return lines_.LineOf(static_cast<std::size_t>(element.name() - text_.data()));
 }
 
 std::wstring TextOf(const XmlNode& element) {

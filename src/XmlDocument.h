@@ -5,6 +5,7 @@
 #include <rapidxml/rapidxml.hpp>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Wexa {
 
@@ -20,6 +21,17 @@ class XmlParseError : public rapidxml::parse_error {
   int line_;
 };
 
+// Where the lines of a text end. The parser overwrites line ends, so their places are noted before.
+class LineTable {
+ public:
+  explicit LineTable(std::wstring_view text);
+  // Counted from 1.
+  int LineOf(std::size_t offset) const;
+
+ private:
+  std::vector<std::size_t> ends_;
+};
+
 // A parsed XML text with its nodes, whose names and values live in the text. References are
 // decoded; comments, processing instructions and white space between elements give no nodes. Any
 // Unicode character may stand in names and values.
@@ -33,9 +45,12 @@ class XmlDocument {
 
   // The first outermost element of that name, or of any name; null when there is none.
   const XmlNode* First(const wchar_t* name = nullptr) const;
+  // The line on which an element starts, counted from 1.
+  int LineOf(const XmlNode& element) const;
 
  private:
   std::wstring text_;
+  LineTable lines_;
   std::unique_ptr<rapidxml::xml_document<wchar_t>> document_;
 };
 

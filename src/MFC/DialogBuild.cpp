@@ -7,6 +7,7 @@
 #include "FileText.h"
 #include "MFC/DialogBuilder.h"
 #include "MFC/DialogImplMFC.h"
+#include "Translator.h"
 #include "WexaException.h"
 #include "form/FormParser.h"
 #include "form/FormText.h"
@@ -30,7 +31,7 @@ std::wstring ReadForm(const std::wstring& path) {
   if (!text.empty()) return text;
   const auto bytes = ReadFile(path);
   const auto plain = bytes ? PlainFormText(*bytes) : std::nullopt;
-  return plain.value_or(L"");
+  return plain ? Translator::GetInstance().TranslateUIText(path, *plain) : std::wstring();
 }
 
 void ParseForm(std::wstring text, FormModel& model) {

@@ -1,6 +1,9 @@
 #include "Translator.h"
 
 #include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <stdexcept>
 #include <utility>
 
 #include "Encrypter.h"
@@ -10,6 +13,7 @@
 #include "TsLoader.h"
 #include "Utf8.h"
 #include "WexaConfig.h"
+#include "XmlDocument.h"
 
 namespace Wexa {
 
@@ -17,10 +21,26 @@ namespace {
 
 constexpr std::size_t kEncryptedSuffixLength = 3;  // ".kv"
 
-// The name of an encrypted form file without directories, which either separator ends, and suffix.
+// The name of a file without directories, which either separator ends.
+std::wstring FileName(const std::wstring& path) {
+  return path.substr(path.find_last_of(L"/\\") + 1);
+}
+
+// The name of a form by that of its encrypted file.
 std::wstring FormName(const std::wstring& path) {
-  const std::wstring name = path.substr(path.find_last_of(L"/\\") + 1);
+  const std::wstring name = FileName(path);
   return name.substr(0, name.size() - std::min(name.size(), kEncryptedSuffixLength));
+}
+
+const FormLines& TranslationsOf(const TSTranslationUnit& unit, const std::wstring& form) {
+  static const FormLines kNone;
+  const auto found = unit.GetMessageMap().find(form);
+  return found == unit.GetMessageMap().end() ? kNone : found->second;
+}
+
+// What the parser and the standard library say is plain ASCII.
+std::wstring Widen(const char* text) {
+  return std::wstring(text, text + std::strlen(text));
 }
 
 template <typename Table>
@@ -65,17 +85,52 @@ void Translator::LoadStringsOnce(StringsTable& table, const std::wstring& path) 
   if (!texts.empty()) table.emplace(path, std::move(texts));
 }
 
-void Translator::ReadStrings(const std::wstring& path, Texts& texts) const {
-  LoadStringsText(ReadTranslationFile(path), {GetCurrentLanguage(), GetDefaultLanguage()}, texts,
+void Translator::ReadStrings(const std::wstring& path, Texts& texts) try {
+  LoadStringsText(ReadOrDiagnose(path), {GetCurrentLanguage(), GetDefaultLanguage()}, texts,
                   *GetFontInfo());
+} catch (const XmlParseError& error) {
+  Diagnose(path, error.Line(), Widen(error.what()));
 }
 
 void Translator::MergeFormTranslations(const std::wstring& name) {
   const std::wstring path = GetTranslationFilePath(name);
-  if (!AddToTsFilesSet(path)) return;
-  if (const auto unit = LoadTsText(ReadTranslationFile(path), GetCurrentLanguage())) {
-    unit_.AppendTsTranslationUnit(*unit);
+  if (AddToTsFilesSet(path)) ReadFormTranslations(path);
+}
+
+void Translator::ReadFormTranslations(const std::wstring& path) {
+  TsLines lines;
+  try {
+    const auto unit = LoadTsText(ReadOrDiagnose(path), GetCurrentLanguage(), lines);
+    if (unit) unit_.AppendTsTranslationUnit(*unit);
+  } catch (const XmlParseError& error) {
+    Diagnose(path, error.Line(), Widen(error.what()));
+  } catch (const std::logic_error&) {
+    Diagnose(path, lines.bad, L"the line of this location is no number");
   }
+  if (lines.relative > 0) {
+    Diagnose(path, lines.relative,
+             L"the lines of locations are relative from here on; they must be absolute");
+  }
+}
+
+// -- Diagnostics
+// -------------------------------------------------------------------------------------
+
+std::wstring Translator::ReadOrDiagnose(const std::wstring& path) {
+  std::wstring text = ReadTranslationFile(path);
+  if (text.empty() && std::filesystem::exists(NativePath(path))) {
+    const bool encrypted = ExpectsEncryptedLanguageFiles();
+    Diagnose(path, 0, encrypted ? L"no encrypted file, or damaged" : L"empty or not UTF-8");
+  }
+  return text;
+}
+
+// A file that is read again is not reported again.
+void Translator::Diagnose(const std::wstring& path, int line, std::wstring reason) {
+  const bool known = std::ranges::any_of(diagnostics_, [&](const LanguageDiagnostic& other) {
+    return other.file == path && other.line == line && other.reason == reason;
+  });
+  if (!known) diagnostics_.push_back({path, line, std::move(reason)});
 }
 
 bool Translator::AddToTsFilesSet(const std::wstring& path) {
@@ -87,6 +142,7 @@ void Translator::ResetStringsTable() {
   defaultStrings_.clear();
   unit_.Clear();
   loadedTsFiles_.clear();
+  diagnostics_.clear();
 }
 
 std::wstring Translator::ReadTranslationFile(const std::wstring& path) const {
@@ -111,10 +167,11 @@ std::wstring Translator::GetDefaultText(const std::wstring& name, const std::wst
 // -------------------------------------------------------------------------------------------
 
 std::wstring Translator::TranslateUIFile(const std::wstring& path) {
-  const auto& forms = unit_.GetMessageMap();
-  const auto found = forms.find(FormName(path));
-  const std::wstring text = Encrypter::ReadAndDecryptFile(path);
-  return TranslateForm(text, found == forms.end() ? FormLines() : found->second);
+  return TranslateForm(Encrypter::ReadAndDecryptFile(path), TranslationsOf(unit_, FormName(path)));
+}
+
+std::wstring Translator::TranslateUIText(const std::wstring& path, const std::wstring& text) const {
+  return TranslateFormInPlace(text, TranslationsOf(unit_, FileName(path)));
 }
 
 }  // namespace Wexa

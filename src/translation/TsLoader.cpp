@@ -1,5 +1,6 @@
 #include "TsLoader.h"
 
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -28,46 +29,76 @@ std::wstring EscapeForXml(std::wstring text) {
   return text;
 }
 
-std::optional<Location> ReadLocation(const XmlNode& element) {
-  const auto path = AttributeOf(element, L"filename");
-  const auto line = AttributeOf(element, L"line");
-  if (!path || !line) return std::nullopt;
-  const auto name = path->substr(path->rfind(L'/') + 1);
-  return Location{std::stoi(std::wstring(*line)), std::wstring(name)};
+bool IsRelative(std::wstring_view number) {
+  return number.starts_with(L'+') || number.starts_with(L'-');
 }
 
-void AddMessage(const XmlNode& message, TSTranslationUnit& unit) {
-  std::vector<Location> locations;
-  std::wstring translation;
-  for (const XmlNode* part = message.first_node(); part; part = part->next_sibling()) {
-    const std::wstring_view name(part->name(), part->name_size());
-    if (name == L"location") {
-      if (auto location = ReadLocation(*part)) locations.push_back(std::move(*location));
-    } else if (name == L"translation") {
-      translation = TextOf(*part);
+// Reads the messages of one TS file into a unit.
+class TsReader {
+ public:
+  TsReader(const XmlDocument& document, TsLines& lines) : document_(document), lines_(lines) {}
+
+  TSTranslationUnit Read(const XmlNode& root) {
+    for (auto* context = root.first_node(L"context"); context;
+         context = context->next_sibling(L"context")) {
+      for (auto* message = context->first_node(L"message"); message;
+           message = message->next_sibling(L"message")) {
+        ReadMessage(*message);
+      }
+    }
+    return std::move(unit_);
+  }
+
+ private:
+  void ReadMessage(const XmlNode& message) {
+    locations_.clear();
+    std::wstring translation;
+    for (const XmlNode* part = message.first_node(); part; part = part->next_sibling()) {
+      const std::wstring_view name(part->name(), part->name_size());
+      if (name == L"location") {
+        ReadLocation(*part);
+      } else if (name == L"translation") {
+        translation = TextOf(*part);
+      }
+    }
+    const std::wstring escaped = EscapeForXml(std::move(translation));
+    for (auto& location : locations_) {
+      unit_.AddMessageFromTS(std::move(location.fileName), location.line, escaped);
     }
   }
-  const std::wstring escaped = EscapeForXml(std::move(translation));
-  for (auto& location : locations) {
-    unit.AddMessageFromTS(std::move(location.fileName), location.line, escaped);
+
+  void ReadLocation(const XmlNode& element) {
+    const auto path = AttributeOf(element, L"filename");
+    const auto line = AttributeOf(element, L"line");
+    if (!path || !line) return;
+    const auto name = path->substr(path->rfind(L'/') + 1);
+    locations_.push_back({ReadLine(element, *line), std::wstring(name)});
   }
-}
+
+  int ReadLine(const XmlNode& element, std::wstring_view number) {
+    if (lines_.relative == 0 && IsRelative(number)) lines_.relative = document_.LineOf(element);
+    try {
+      return std::stoi(std::wstring(number));
+    } catch (const std::logic_error&) {
+      lines_.bad = document_.LineOf(element);
+      throw;
+    }
+  }
+
+  const XmlDocument& document_;
+  TsLines& lines_;
+  std::vector<Location> locations_;  // of the message being read
+  TSTranslationUnit unit_;
+};
 
 }  // namespace
 
-std::optional<TSTranslationUnit> LoadTsText(std::wstring text, const std::wstring& language) {
+std::optional<TSTranslationUnit> LoadTsText(std::wstring text, const std::wstring& language,
+                                            TsLines& lines) {
   const XmlDocument document(std::move(text));
   const XmlNode* root = document.First(L"TS");
   if (root == nullptr || AttributeOf(*root, L"language") != language) return std::nullopt;
-  TSTranslationUnit unit;
-  for (auto* context = root->first_node(L"context"); context;
-       context = context->next_sibling(L"context")) {
-    for (auto* message = context->first_node(L"message"); message;
-         message = message->next_sibling(L"message")) {
-      AddMessage(*message, unit);
-    }
-  }
-  return unit;
+  return TsReader(document, lines).Read(*root);
 }
 
 }  // namespace Wexa

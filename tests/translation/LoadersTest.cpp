@@ -22,8 +22,13 @@ std::wstring Ts(const std::wstring& messages) {
          messages + L"</context></TS>";
 }
 
+std::optional<TSTranslationUnit> Load(const std::wstring& text) {
+  TsLines lines;
+  return LoadTsText(text, L"de-DE", lines);
+}
+
 TSTranslationUnit::MessageMap Messages(const std::wstring& messages) {
-  const auto unit = LoadTsText(Ts(messages), L"de-DE");
+  const auto unit = Load(Ts(messages));
   return unit ? unit->GetMessageMap() : TSTranslationUnit::MessageMap();
 }
 
@@ -61,11 +66,11 @@ TEST(TsLoader, TheLastTranslationOfAMessageAndTheFirstOfALineWin) {
 }
 
 TEST(TsLoader, FilesOfAnotherLanguageGiveNothing) {
-  EXPECT_TRUE(LoadTsText(Ts(L""), L"de-DE"));
-  EXPECT_FALSE(LoadTsText(Ts(L""), L"de_DE"));
-  EXPECT_FALSE(LoadTsText(L"<TS/>", L""));
-  EXPECT_FALSE(LoadTsText(L"<other language='de-DE'/>", L"de-DE"));
-  EXPECT_FALSE(LoadTsText(L"", L"de-DE"));
+  EXPECT_TRUE(Load(L"<TS language='de-DE'/>"));
+  EXPECT_FALSE(Load(L"<TS language='de_DE'/>"));
+  EXPECT_FALSE(Load(L"<TS/>"));
+  EXPECT_FALSE(Load(L"<other language='de-DE'/>"));
+  EXPECT_FALSE(Load(L""));
 }
 
 TEST(TsLoader, BadLinesAndBadXmlThrow) {
@@ -73,7 +78,26 @@ TEST(TsLoader, BadLinesAndBadXmlThrow) {
                std::invalid_argument);
   EXPECT_THROW(Messages(L"<message><location filename='a' line='99999999999'/></message>"),
                std::out_of_range);
-  EXPECT_THROW(LoadTsText(L"<TS", L"de-DE"), rapidxml::parse_error);
+  EXPECT_THROW(Load(L"<TS"), rapidxml::parse_error);
+}
+
+TEST(TsLoader, TellsWhereNumbersAreRelativeOrNone) {
+  TsLines lines;
+  const auto read = [&lines](const std::wstring& line) {
+    lines = {};
+    return LoadTsText(
+        L"<TS language='de'>\n<context><message>\n<location filename='a.ui' line='1'/>\n"
+        L"<location filename='a.ui' line='" +
+            line + L"'/></message></context></TS>",
+        L"de", lines);
+  };
+  EXPECT_EQ(read(L"+12")->GetMessageMap().at(L"a.ui").count(12), 1u);
+  EXPECT_EQ(lines.relative, 4);
+  EXPECT_EQ(lines.bad, 0);
+  EXPECT_THROW(read(L""), std::invalid_argument);
+  EXPECT_EQ(lines.bad, 4);
+  read(L"12");
+  EXPECT_EQ(lines.relative + lines.bad, 0);
 }
 
 TEST(TSTranslationUnit, AppendingKeepsWhatIsThere) {
@@ -155,6 +179,35 @@ TEST(FormTranslation, ALineWithoutAStringEndsTheReplacing) {
   EXPECT_EQ(TranslateForm(form, {{4, L"u"}}), TranslateForm(form, {}));
   EXPECT_EQ(TranslateForm(form, {{5, L"u"}}), TranslateForm(form, {}));
   EXPECT_EQ(TranslateForm(form, {{0, L"u"}, {1, L"u"}}), TranslateForm(form, {}));
+}
+
+TEST(FormTranslation, TheLastLineOfALongStringMayHaveATranslationOfItsOwn) {
+  const std::wstring form = L"<string>1\n2</string>\n<string>3</string>";
+  EXPECT_EQ(TranslateForm(form, {{1, L"t"}, {2, L"u"}, {3, L"v"}}),
+            L"<string>u</string><string>v</string>");
+}
+
+TEST(FormTranslation, InPlaceKeepsWhatIsAroundAString) {
+  const std::wstring form =
+      L"<a x='1\n2'>\n  <b><string notr=\"true\">1\n2</string></b>\r\n<string>3</string>\n";
+  EXPECT_EQ(TranslateFormInPlace(form, {{3, L"t"}, {5, L"u"}}),
+            L"<a x='1\n2'>\n  <b><string notr=\"true\">t</string>\n</b>\r\n<string>u</string>\n");
+  EXPECT_EQ(TranslateFormInPlace(form, {}), form);
+}
+
+TEST(FormTranslation, InPlaceEndsWhereNoStringElementStarts) {
+  const std::wstring strings = L"<string>1</string>\n";
+  for (const auto* line :
+       {L"<string/>", L"<string x='1'/>", L"<stringlist>", L"<string>1<b/></string>", L"<string>1",
+        L"<string", L"none", L"<strings>1</strings>"}) {
+    const std::wstring form = strings + line + L"\n" + strings;
+    EXPECT_EQ(TranslateFormInPlace(form, {{1, L"t"}, {2, L"u"}, {3, L"v"}}),
+              L"<string>t</string>\n" + std::wstring(line) + L"\n" + strings);
+    EXPECT_EQ(TranslateFormInPlace(form, {{0, L"t"}, {1, L"u"}}), form);
+  }
+  EXPECT_EQ(TranslateFormInPlace(strings, {{2, L"t"}}), strings);
+  EXPECT_EQ(TranslateFormInPlace(L"<string>1\n2</string>", {{1, L"t"}, {2, L"u"}}),
+            L"<string>t</string>\n");
 }
 
 TEST(FormTranslation, AnEmptyTextStaysEmpty) {

@@ -149,6 +149,61 @@ TEST_F(TranslatorTest, EncryptedFilesAreReadWhereTheyAreExpected) {
   EXPECT_EQ(translator_.GetDefaultText(L"c", L"a"), L"");
 }
 
+TEST_F(TranslatorTest, PlainFormsAreKnownByTheirWholeName) {
+  WriteTs(L"c", "new");
+  translator_.LoadStrings(L"c");
+  const std::wstring form = L"<ui>\n <string>old</string>\n</ui>";
+  EXPECT_EQ(translator_.TranslateUIText(L"forms\\f.ui", form),
+            L"<ui>\n <string>new</string>\n</ui>");
+  EXPECT_EQ(translator_.TranslateUIText(L"forms\\f.ui.kv", form), form);
+}
+
+// -- Diagnostics
+// -------------------------------------------------------------------------------------
+
+TEST_F(TranslatorTest, BrokenStringsFilesGiveNothingAndAReason) {
+  Write(GetStringsFilePath(L"c", false), "<r language='de-DE'>\n<StringTable><string id='a'>t</r>");
+  WriteStrings(L"c", true, "<string id='a'>default</string>");
+  Write(GetStringsFilePath(L"", false), "<r language='de-DE'>\xFF</r>");
+  translator_.LoadStrings(L"c");
+  translator_.LoadStrings(L"c");
+  EXPECT_EQ(Text(L"c", L"a"), L"default");
+  const auto& diagnostics = translator_.GetDiagnostics();
+  ASSERT_EQ(diagnostics.size(), 2u);
+  EXPECT_EQ(diagnostics[0].file, GetStringsFilePath(L"c", false));
+  EXPECT_EQ(diagnostics[0].line, 2);
+  EXPECT_EQ(diagnostics[0].reason, L"invalid closing tag name");
+  EXPECT_EQ(diagnostics[1].file, GetStringsFilePath(L"", false));
+  EXPECT_EQ(diagnostics[1].reason, L"empty or not UTF-8");
+  translator_.ResetStringsTable();
+  EXPECT_TRUE(translator_.GetDiagnostics().empty());
+}
+
+TEST_F(TranslatorTest, BrokenTsFilesDisturbNoOther) {
+  WriteTs(L"c", "good");
+  translator_.LoadStrings(L"c");
+  const std::string location =
+      "<TS language='de-DE'><context><message><location filename='f.ui' line='2'/>"
+      "<translation>bad</translation></message>\n<message><location filename='f.ui' line=";
+  Write(GetTranslationFilePath(L"d"), location + "'x'/></message></context></TS>");
+  Write(GetTranslationFilePath(L"e"), location + "'3'/></message></context>");
+  Write(GetTranslationFilePath(L"f"), location + "'99999999999'/></message></context></TS>");
+  for (const auto* name : {L"d", L"e", L"f"}) translator_.LoadStrings(name);
+  EXPECT_EQ(TranslateForm(), L"<ui><string>good</string></ui>");
+  EXPECT_EQ(translator_.GetDiagnostics().size(), 3u);
+  for (const auto& diagnostic : translator_.GetDiagnostics()) EXPECT_EQ(diagnostic.line, 2);
+}
+
+TEST_F(TranslatorTest, RelativeLinesAreReadAndReported) {
+  Write(GetTranslationFilePath(L"c"),
+        "<TS language='de-DE'><context><message><location filename='f.ui' line='+2'/>"
+        "<translation>new</translation></message></context></TS>");
+  translator_.LoadStrings(L"c");
+  EXPECT_EQ(TranslateForm(), L"<ui><string>new</string></ui>");
+  ASSERT_EQ(translator_.GetDiagnostics().size(), 1u);
+  EXPECT_EQ(translator_.GetDiagnostics()[0].line, 1);
+}
+
 TEST_F(TranslatorTest, PlainOrMissingFormsGiveNothing) {
   Write(GetWorkingDirPath() + L"plain.ui", "<ui>a plain form, long enough</ui>");
   EXPECT_EQ(translator_.TranslateUIFile(GetWorkingDirPath() + L"plain.ui"), L"");
