@@ -19,5 +19,5 @@ install(DIRECTORY platform/include/platform DESTINATION ${CMAKE_INSTALL_INCLUDED
   FILES_MATCHING PATTERN "*.h")
 
 if(TARGET wexa-preview)
-  install(TARGETS wexa-preview)
+  install(TARGETS wexa-preview wexa-pack)
 endif()

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "pack/Options.h"
+
+namespace pack {
+
+inline constexpr const char* kPackedExtension = ".kv";
+
+// One file to work on.
+struct Job {
+  std::filesystem::path source;
+  std::filesystem::path target;  // the packed file to write; empty when there is none to write
+};
+
+// The files that the arguments stand for; those of folders sorted. A folder's packed files keep
+// their places below the output folder. Throws std::runtime_error for a folder that has none.
+std::vector<Job> FindJobs(const Options& options);
+
+}  // namespace pack
