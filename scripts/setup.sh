@@ -7,6 +7,8 @@ packages=(
   g++ cmake ninja-build pkg-config ccache mold
   # drawing, text, regions
   libcairo2-dev libpango1.0-dev libfontconfig-dev libpixman-1-dev fonts-dejavu-core
+  # pictures
+  libgdk-pixbuf-2.0-dev
   # the X display
   libxcb1-dev libxcb-shm0-dev libxcb-icccm4-dev libxcb-cursor-dev libxcb-randr0-dev
   libxcb-xrm-dev libxcb-xkb-dev libxkbcommon-dev libxkbcommon-x11-dev

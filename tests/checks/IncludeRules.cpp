@@ -39,9 +39,9 @@ constexpr std::array kPlaces = {
 };
 
 // What the engines and the public headers may use of the layer: values, and no windows.
-constexpr std::array<std::string_view, 8> kWindowless = {
-    "Types.h",        "Geometry.h",       "Region.h",       "Font.h",
-    "SystemColors.h", "WindowMessages.h", "WindowStyles.h", "VirtualKeys.h"};
+constexpr std::array<std::string_view, 10> kWindowless = {
+    "Types.h",        "Geometry.h",       "Region.h",       "Font.h",        "FontFamilies.h",
+    "SystemColors.h", "WindowMessages.h", "WindowStyles.h", "VirtualKeys.h", "Bitmap.h"};
 
 // Libraries' headers, and the one folder that may see them.
 struct LibraryHome {

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cairo.h>
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "platform/Bitmap.h"
+
+struct CairoSurfaceRelease {
+  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+};
+using CairoSurfacePtr = std::unique_ptr<cairo_surface_t, CairoSurfaceRelease>;
+
+// What an HBITMAP stands for.
+class BitmapObject {
+ public:
+  BitmapObject(int width, int height, int depth);
+
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+  int Depth() const { return depth_; }
+  std::span<const std::uint32_t> Pixels() const { return pixels_; }
+  // For changing them.
+  std::span<std::uint32_t> Pixels();
+  // The pixels as cairo draws them; kept until they may have changed. Null without memory.
+  cairo_surface_t* Drawable();
+
+ private:
+  int width_;
+  int height_;
+  int depth_;
+  std::vector<std::uint32_t> pixels_;
+  CairoSurfacePtr drawable_;
+};
+
+bool IsPictureSize(std::int64_t width, std::int64_t height);
+HBITMAP AddBitmap(std::unique_ptr<BitmapObject> bitmap);
+// Null for a null or stale handle.
+BitmapObject* FindBitmap(HBITMAP bitmap);
