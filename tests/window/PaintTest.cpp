@@ -313,6 +313,17 @@ TEST_F(PaintTest, PictureNeedsATopLevelWindow) {
   EXPECT_THROW(SaveWindowPicture(nullptr, "x.png"), std::runtime_error);
 }
 
+TEST_F(PaintTest, OnlyContextsThatWereDrawnIntoArePresented) {
+  Settle();
+  ReleaseDC(window_, GetDC(window_));
+  EXPECT_FALSE(PaintNow());
+  const HDC dc = GetDC(window_);
+  Painter(dc).FillRect({0, 0, 5, 5}, kBlue);
+  ReleaseDC(window_, dc);
+  EXPECT_TRUE(PaintNow());
+  EXPECT_THAT(TakePresented(window_), ElementsAre(CRect(0, 0, 200, 200)));
+}
+
 TEST_F(PaintTest, BorderOfAChildIsOneUnit) {
   const HWND child = Colored(MakeChild(window_, {10, 10, 60, 60}, WS_VISIBLE | WS_BORDER), kGreen);
   CRect client;

@@ -14,6 +14,7 @@ struct DeviceContext {
   PixelRegion clip;      // surface pixels that may be painted
   int mirrorWidth = -1;  // width of a right-to-left window, -1 when not mirrored
   HWND window = nullptr;
+  bool painted = false;                   // a painter was at work
   std::vector<PixelRegion> savedClips{};  // of the painters at work, innermost last
 };
 

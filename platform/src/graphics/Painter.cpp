@@ -5,7 +5,9 @@
 
 #include "graphics/Canvas.h"
 
-Painter::Painter(HDC dc) : dc_(dc), outerClips_(Context() ? Context()->savedClips.size() : 0) {}
+Painter::Painter(HDC dc) : dc_(dc), outerClips_(Context() ? Context()->savedClips.size() : 0) {
+  if (DeviceContext* context = Context()) context->painted = true;
+}
 
 Painter::~Painter() {
   DeviceContext* context = Context();

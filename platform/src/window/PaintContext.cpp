@@ -61,7 +61,8 @@ HDC FrameContext(Window& window) {
 void Finish(HDC dc) {
   const DeviceContext* context = GetDeviceContext(dc);
   if (!context) return;
-  if (Window* window = Find(context->window)) Root(*window).top->damage.Unite(context->clip);
+  Window* window = Find(context->window);
+  if (window && context->painted) Root(*window).top->damage.Unite(context->clip);
   DeleteDeviceContext(dc);
 }
 
