@@ -1,0 +1,21 @@
+// Any bytes as a strings file.
+
+#include <cstddef>
+#include <cstdint>
+#include <rapidxml/rapidxml.hpp>
+#include <string_view>
+
+#include "Utf8.h"
+#include "translation/StringsLoader.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  auto text = Wexa::WidenUtf8({reinterpret_cast<const char*>(data), size});
+  if (!text) return 0;
+  std::unordered_map<std::wstring, std::wstring> texts;
+  Wexa::logFont font;
+  try {
+    Wexa::LoadStringsText(std::move(*text), {L"de", L"en-US"}, texts, font);
+  } catch (const rapidxml::parse_error&) {
+  }
+  return 0;
+}

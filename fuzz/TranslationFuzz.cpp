@@ -1,0 +1,37 @@
+// Any bytes as a form, with translations for all lines that hold strings, or for lines near them.
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "Utf8.h"
+#include "translation/FormTranslation.h"
+
+namespace {
+
+Wexa::FormLines LinesWithStrings(std::wstring_view text, unsigned shift) {
+  Wexa::FormLines lines;
+  unsigned number = 1;
+  for (std::size_t at = 0; at < text.size(); ++number) {
+    const auto end = std::min(text.find(L'\n', at), text.size());
+    if (text.substr(at, end - at).find(L"<string") != text.npos) lines[number + shift] = L"t";
+    at = end + 1;
+  }
+  return lines;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const auto text = Wexa::WidenUtf8({reinterpret_cast<const char*>(data), size});
+  if (!text) return 0;
+  for (unsigned shift : {0u, 1u, 2u}) {
+    const auto lines = LinesWithStrings(*text, shift);
+    Wexa::TranslateForm(*text, lines);
+    const auto inPlace = Wexa::TranslateFormInPlace(*text, lines);
+    if (std::ranges::count(inPlace, L'\n') != std::ranges::count(*text, L'\n')) std::abort();
+  }
+  return 0;
+}
