@@ -19,8 +19,8 @@ enum class SkinMap : std::int32_t { Inputs = 0, Buttons = 1 };
 
 // The 122 colours that a widget paints with. A slot that was not set explicitly shows the colour of
 // the same slot of the parent skin, or without a parent that of the palette loaded last. Explicit
-// changes tell the widget that owns the skin. The parent must outlive the skin, or be replaced by a
-// palette load before it goes. User-interface thread only.
+// changes tell the widget that owns the skin. A skin whose parent dies keeps the colours it shows.
+// User-interface thread only.
 class WEXA_API SkinManager {
  public:
   static constexpr int kSlotCount = 122;
@@ -31,6 +31,7 @@ class WEXA_API SkinManager {
   SkinManager(const SkinManager& other);
   // Takes the colours of slots that are not locked, the parent and the state; the owner stays.
   SkinManager& operator=(const SkinManager& other);
+  ~SkinManager();
 
   // Throws std::out_of_range for a number outside 0 to 121.
   SkinManagerColor& Slot(int number) { return slots_.at(static_cast<unsigned>(number)); }
@@ -60,6 +61,12 @@ class WEXA_API SkinManager {
   // A copy of the parent's resolved colours. Nothing happens without a parent.
   void LoadXMLSkin(bool detach);
 
+  // Loads the palette that was asked for last once more, for a system whose colours or contrast
+  // changed. Colours that were set explicitly stay; a custom skin stays as it is.
+  void ReloadPalette();
+  // The mode that was asked for, whatever the high-contrast system made of it.
+  SkinMode GetRequestedMode() const { return requestedMode_; }
+
   SkinMode GetSkinMode() const { return mode_; }
   // Changes what GetSkinMode answers; loads nothing.
   void ChangeSkinModeIdentificator(SkinMode mode) { mode_ = mode; }
@@ -68,9 +75,9 @@ class WEXA_API SkinManager {
   // --------------------------------------------------------------------------------------
 
   // This skin itself when it has no parent.
-  const SkinManager& GetParentSkinManager() const { return parent_ ? *parent_ : *this; }
+  const SkinManager& GetParentSkinManager() const { return Parent() ? *Parent() : *this; }
   // Counts from the next palette load on.
-  void SetParentSkinManager(const SkinManager* parent) { parent_ = parent; }
+  void SetParentSkinManager(const SkinManager* parent) { parent_.PointTo(parent); }
   SkinManager* GetPtr() { return this; }
 
   // -- Changes
@@ -94,15 +101,40 @@ class WEXA_API SkinManager {
   bool IsKeyMapApplied() const { return keyMapApplied_; }
 
  private:
+  // A reference to another skin, which knows of it and ends it when it goes.
+  class Reference {
+   public:
+    explicit Reference(SkinManager& holder) : holder_(holder) {}
+    Reference(const Reference&) = delete;
+    Reference& operator=(const Reference&) = delete;
+    ~Reference() { PointTo(nullptr); }
+    const SkinManager* Target() const { return target_; }
+    void PointTo(const SkinManager* target);
+    SkinManager& Holder() const { return holder_; }
+
+   private:
+    SkinManager& holder_;
+    const SkinManager* target_ = nullptr;
+    Reference* next_ = nullptr;
+    Reference** place_ = nullptr;  // what points to this one in the target's list
+  };
+
+  const SkinManager* Parent() const { return parent_.Target(); }
+  bool LoadInSystem(SkinMode mode, bool detach);
   void LoadPalette(SkinMode mode, bool detach);
+  void BeginLoad(SkinMode mode, bool detach);
   void SetParentFallbacks();
+  void KeepColorsOf(const SkinManager& leaving);
   void CopyState(const SkinManager& other);
   const SkinManagerColor* FallbackOf(std::size_t slot) const;
 
   std::array<SkinManagerColor, kSlotCount> slots_;
-  const SkinManager* parent_ = nullptr;
+  Reference parent_{*this};
+  Reference fallbacks_{*this};               // the skin that the slots' fallbacks are of
+  mutable Reference* references_ = nullptr;  // those that point here
   BaseImpl* owner_ = nullptr;
   SkinMode mode_ = SkinMode::Default;
+  SkinMode requestedMode_ = SkinMode::Default;
   bool keyMapApplied_ = false;
   bool lockColors_ = false;
   bool initDone_ = false;

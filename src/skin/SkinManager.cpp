@@ -34,35 +34,37 @@ SkinManager::SkinManager(SkinMode mode) : SkinManager(nullptr, mode) {}
 
 SkinManager::SkinManager(const SkinManager& other) : slots_(other.slots_) {
   for (auto& slot : slots_) slot.owner_ = this;
+  fallbacks_.PointTo(other.fallbacks_.Target());
   CopyState(other);
 }
 
 SkinManager& SkinManager::operator=(const SkinManager& other) {
   if (this == &other) return *this;
-  const SkinManager* oldParent = parent_;
+  const SkinManager* oldParent = Parent();
   slots_ = other.slots_;
   CopyState(other);
-  if (parent_ == this) parent_ = nullptr;
-  if (parent_ != oldParent) SetParentFallbacks();
+  if (Parent() == this) parent_.PointTo(nullptr);
+  if (Parent() != oldParent) SetParentFallbacks();
   return *this;
 }
 
 void SkinManager::CopyState(const SkinManager& other) {
-  parent_ = other.parent_;
+  parent_.PointTo(other.Parent());
   mode_ = other.mode_;
+  requestedMode_ = other.requestedMode_;
   keyMapApplied_ = other.keyMapApplied_;
   lockColors_ = other.lockColors_;
   initDone_ = other.initDone_;
   colorChangeFlag_ = colorChangeFlag_ || other.colorChangeFlag_;
 }
 
-// The old parent may be gone.
 void SkinManager::SetParentFallbacks() {
   for (std::size_t n = 0; n < slots_.size(); ++n) slots_[n].fallback_ = FallbackOf(n);
+  fallbacks_.PointTo(Parent());
 }
 
 const SkinManagerColor* SkinManager::FallbackOf(std::size_t slot) const {
-  return parent_ && parent_ != this ? &parent_->slots_[slot] : nullptr;
+  return Parent() && Parent() != this ? &Parent()->slots_[slot] : nullptr;
 }
 
 // -- Palettes
@@ -71,10 +73,16 @@ const SkinManagerColor* SkinManager::FallbackOf(std::size_t slot) const {
 bool SkinManager::LoadSkin(SkinMode mode, bool lockColors, bool detach) {
   lockColors_ = lockColors;
   if (mode < SkinMode::Default || mode > SkinMode::HCMDark) return false;
+  if (!LoadInSystem(mode, detach)) return false;
+  requestedMode_ = mode;
+  return true;
+}
+
+bool SkinManager::LoadInSystem(SkinMode mode, bool detach) {
   if (WexaUtils::IsSystemHighContrastMode()) {
     LoadHCMDarkSkin(detach);
   } else if (mode == SkinMode::XML) {
-    if (parent_ == nullptr) return false;
+    if (Parent() == nullptr) return false;
     LoadXMLSkin(detach);
   } else if (mode == SkinMode::Dark) {
     LoadDarkSkin(detach);
@@ -91,15 +99,26 @@ bool SkinManager::SetSkinMode(SkinMode mode) {
 bool SkinManager::SetCustomSkin(const SkinManager& other) {
   *this = other;
   mode_ = SkinMode::Custom;
+  requestedMode_ = SkinMode::Custom;
   return true;
+}
+
+void SkinManager::ReloadPalette() {
+  const auto before = slots_;
+  if (!LoadSkin(requestedMode_, lockColors_, false)) return;
+  for (std::size_t n = 0; n < slots_.size(); ++n) {
+    if (!before[n].changed_ || before[n].value_ == kNoColor) continue;
+    slots_[n].value_ = before[n].value_;
+    slots_[n].changed_ = true;
+  }
 }
 
 bool SkinManager::InitSkinManager(const SkinManager* parent, SkinMode mode) {
   if (parent == this) {
-    parent_ = nullptr;
+    parent_.PointTo(nullptr);
     if (initDone_) return true;
   } else {
-    parent_ = parent;
+    parent_.PointTo(parent);
   }
   const bool loaded = LoadSkin(mode, false, false);
   initDone_ = true;
@@ -116,9 +135,19 @@ void SkinManager::LoadHCMDarkSkin(bool detach) {
   LoadPalette(SkinMode::HCMDark, detach);
 }
 
-void SkinManager::LoadPalette(SkinMode mode, bool detach) {
+// Slots that the palette leaves as they are let go of a parent that does not count any more.
+void SkinManager::BeginLoad(SkinMode mode, bool detach) {
   mode_ = mode;
-  if (detach) parent_ = nullptr;
+  requestedMode_ = mode;
+  if (detach) parent_.PointTo(nullptr);
+  if (fallbacks_.Target() == Parent()) return;
+  for (std::size_t n = 0; n < slots_.size(); ++n)
+    if (slots_[n].fallback_) slots_[n].fallback_ = FallbackOf(n);
+  fallbacks_.PointTo(Parent());
+}
+
+void SkinManager::LoadPalette(SkinMode mode, bool detach) {
+  BeginLoad(mode, detach);
   for (std::size_t n = 0; n < slots_.size(); ++n) {
     const PaletteEntry& entry = EntryOf(kSlotTable[n], mode);
     unsigned long color = entry.value;
@@ -133,10 +162,9 @@ void SkinManager::LoadPalette(SkinMode mode, bool detach) {
 }
 
 void SkinManager::LoadXMLSkin(bool detach) {
-  const SkinManager* source = parent_;
+  const SkinManager* source = Parent();
   if (source == nullptr) return;
-  mode_ = SkinMode::XML;
-  if (detach) parent_ = nullptr;
+  BeginLoad(SkinMode::XML, detach);
   for (std::size_t n = 0; n < slots_.size(); ++n) {
     slots_[n].SetDefaultColor(source->slots_[n], FallbackOf(n), lockColors_, this);
   }
