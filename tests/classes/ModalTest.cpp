@@ -27,6 +27,8 @@ TEST_F(ModalTest, ReturnsWhatItWasEndedWith) {
     EXPECT_TRUE(modal.IsWindowVisible());
     EXPECT_FALSE(OwnerIsEnabled());
     modal.EndDialog(42);
+    EXPECT_FALSE(modal.IsWindowVisible());
+    EXPECT_EQ(GetActiveWindow(), dialog_.m_hWnd);
     modal.EndDialog(43);
   });
   EXPECT_EQ(modal.RunModal(&dialog_), 42);
@@ -79,6 +81,20 @@ TEST_F(ModalTest, ActivationAndFocusGoBackToTheOwner) {
   modal.RunModal(&dialog_);
   EXPECT_EQ(GetActiveWindow(), dialog_.m_hWnd);
   EXPECT_EQ(GetFocus(), second);
+}
+
+TEST_F(ModalTest, TheFocusGoesBackIntoAnOwnerThatIsNoDialog) {
+  const WNDCLASSW description{L"PlainOwner", DefWindowProcW, 0, nullptr};
+  RegisterClassW(&description);
+  CWnd owner;
+  ASSERT_TRUE(owner.CreateEx(0, L"PlainOwner", L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 90, 90),
+                             nullptr, 0));
+  const HWND edit = Add(WC_EDIT, 0, CRect(0, 0, 50, 20), 10, L"", owner.m_hWnd);
+  SetFocus(edit);
+  TestDialog modal;
+  Inside(modal, [&] { modal.EndDialog(1); });
+  modal.RunModal(&owner);
+  EXPECT_EQ(GetFocus(), edit);
 }
 
 TEST_F(ModalTest, AnExceptionLeavesEverythingAsItWas) {
@@ -185,7 +201,10 @@ TEST_F(ModalTest, QuittingLeavesAllLoops) {
   Inside(inner, [] { PostQuitMessage(3); });
   Inside(outer, [&] { EXPECT_EQ(inner.RunModal(&outer), IDCANCEL); });
   EXPECT_EQ(outer.RunModal(&dialog_), IDCANCEL);
-  EXPECT_FALSE(AfxPumpMessage());
+  MSG last{};
+  EXPECT_FALSE(GetMessageW(&last));
+  EXPECT_EQ(last.message, WM_QUIT);
+  EXPECT_EQ(last.wParam, 3u);
 }
 
 TEST_F(ModalTest, ADisabledOwnerStaysDisabled) {

@@ -82,9 +82,11 @@ TEST_F(EditTest, ALimitStopsTypingAndSaysSo) {
 
 TEST_F(EditTest, PastingKeepsTheFirstLineAndTheLimit) {
   SetClipboardText(L"abcdef\nsecond");
-  SendMessageW(edit_, EM_LIMITTEXT, 4, 0);
   robot_.ControlKey('V');
-  EXPECT_EQ(Text(), L"abcd");
+  EXPECT_EQ(Text(), L"abcdef");
+  SendMessageW(edit_, EM_LIMITTEXT, 8, 0);
+  robot_.ControlKey('V');
+  EXPECT_EQ(Text(), L"abcdefab");
 }
 
 TEST_F(EditTest, AReadOnlyEditCopiesButDoesNotChange) {
@@ -189,6 +191,15 @@ TEST_F(EditTest, ErasingInAScrolledTextLeavesNoGapAtItsEnd) {
   robot_.Key(VK_DELETE);
   EXPECT_TRUE(IsSeen(0));
   EXPECT_TRUE(IsSeen(10));
+}
+
+TEST_F(EditTest, TypingInAScrolledTextMovesOnlyWhatFollows) {
+  robot_.Type(std::wstring(60, L'm'));
+  Select(20, 40);
+  robot_.Key(VK_DELETE);
+  const int before = PlaceOf(19).x;
+  robot_.Type(L"mm");
+  EXPECT_EQ(PlaceOf(19).x, before);
 }
 
 TEST_F(EditTest, SettingTheSelectionScrollsOnlyWhenAsked) {

@@ -20,9 +20,10 @@ bool PreTranslate(MSG& message) {
 
 }  // namespace
 
-Pumped PumpOneMessage() {
+Pumped PumpOneMessage(int& exitCode) {
   MSG message{};
   if (!GetMessageW(&message)) {
+    exitCode = static_cast<int>(message.wParam);
     return message.message == WM_QUIT ? Pumped::Quit : Pumped::NothingLeft;
   }
   if (!PreTranslate(message)) {
@@ -33,7 +34,8 @@ Pumped PumpOneMessage() {
 }
 
 BOOL AfxPumpMessage() {
-  return PumpOneMessage() == Pumped::Message;
+  int exitCode = 0;
+  return PumpOneMessage(exitCode) == Pumped::Message;
 }
 
 void AfxPumpPending() {

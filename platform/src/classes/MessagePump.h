@@ -4,6 +4,6 @@
 
 enum class Pumped { Message, Quit, NothingLeft };
 
-// Takes one message from the queue and handles it. Quit: WM_QUIT came; NothingLeft: no message can
-// ever come.
-Pumped PumpOneMessage();
+// Takes one message from the queue and handles it. Quit: WM_QUIT came, with this exit code;
+// NothingLeft: no message can ever come.
+Pumped PumpOneMessage(int& exitCode);

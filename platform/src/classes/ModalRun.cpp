@@ -33,9 +33,10 @@ std::intptr_t ModalRun::Run(const DLGTEMPLATE* dialogTemplate, CWnd* owner) {
 
 // Where nothing can happen any more the dialog ends as if it was cancelled.
 void ModalRun::Pump() {
-  const Pumped pumped = PumpOneMessage();
+  int exitCode = 0;
+  const Pumped pumped = PumpOneMessage(exitCode);
   if (pumped == Pumped::Message) return;
-  if (pumped == Pumped::Quit) PostQuitMessage(0);
+  if (pumped == Pumped::Quit) PostQuitMessage(exitCode);
   End(IDCANCEL);
 }
 

@@ -36,7 +36,6 @@ LRESULT ButtonControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case BM_SETSTATE: SetPushed(wParam != 0); return 0;
     case BM_SETSTYLE: SetTypeStyle(static_cast<DWORD>(wParam), LOWORD(lParam) != 0); return 0;
     case BM_CLICK: Click(); return 0;
-    case WM_ENABLE: CancelPress(); break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS: return HandleFocus(message, wParam, lParam);
     default: break;
