@@ -31,6 +31,18 @@ PixelRegion ClientArea(const Window& window, HRGN region) {
   return area.Intersect(window.client);
 }
 
+// Whether the pass will paint all of the area anyway, because an ancestor that paints over its
+// children is due there. `area` is in pixels from the window's corner.
+bool IsDueWithAncestor(const Window& window, CRect area) {
+  for (const Window* w = &window; w->parent && !w->parent->ClipsChildren(); w = w->parent) {
+    const CRect place = InWindow(*w->parent, w->rect);
+    area = area.Moved(place.left, place.top).Intersected(w->parent->client);
+    if (area.IsEmpty()) return true;
+    if (w->parent->update.Contains(area)) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 void MarkDirty(Window& window) {
@@ -38,7 +50,7 @@ void MarkDirty(Window& window) {
 }
 
 void Invalidate(Window& window, const PixelRegion& area, UpdateOptions options) {
-  if (!IsPaintable(window)) return;
+  if (!IsPaintable(window) || IsDueWithAncestor(window, area.Bounds())) return;
   PixelRegion inside = area;
   inside.Intersect(window.Bounds());
   if (inside.IsEmpty()) return;
