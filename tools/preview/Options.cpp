@@ -86,11 +86,6 @@ void AddOptions(CLI::App& app, Options& options) {
       ->excludes(dump);
 }
 
-void RequireOneForm(const Options& options) {
-  if (options.WantsFiles() && options.forms.size() > 1)
-    throw CLI::ValidationError("--png and --dump take one FORM", "there are several");
-}
-
 void SetEnvironment(const char* name, const std::string& value) {
   setenv(name, value.c_str(), 1);
 }
@@ -114,7 +109,6 @@ CommandLine ReadCommandLine(int argc, char** argv) {
   try {
     AddOptions(app, options);
     app.parse(argc, argv);
-    RequireOneForm(options);
     return {options, kSuccess};
   } catch (const CLI::Success& wish) {
     return {std::nullopt, app.exit(wish)};

@@ -71,10 +71,15 @@ bool PrintReport(const Options& options, const std::string& file) {
 }
 
 int Run(const Options& options) {
+  const auto forms = FindForms(options.forms);
+  if (options.WantsFiles() && forms.size() > 1) {
+    PrintError("--png and --dump take one form, not " + std::to_string(forms.size()));
+    return kWrongOptions;
+  }
   Apply(options);
   OpenDisplay();
   bool ok = true;
-  for (const std::string& file : FindForms(options.forms))
+  for (const std::string& file : forms)
     ok &= options.report ? PrintReport(options, file) : ShowOrWrite(options, file);
   return ok ? kSuccess : kFailure;
 }
