@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "WexaConfig.h"
+#include "platform/SystemColors.h"
 #include "preview/ExitStatus.h"
 
 namespace preview {
@@ -122,7 +123,10 @@ void Apply(const Options& options) {
   ApplyDisplay(options);
   if (!options.skin.empty())
     SetEnvironment("WEXA_HIGH_CONTRAST", options.skin == "contrast" ? "1" : "0");
-  if (options.skin == "dark") Wexa::SetGlobalSkinMode(Wexa::SkinMode::Dark);
+  if (options.skin == "dark") {
+    SetSystemScheme(SystemScheme::Dark);  // for what skins leave to the desktop: the frame
+    Wexa::SetGlobalSkinMode(Wexa::SkinMode::Dark);
+  }
   if (options.rightToLeft) Wexa::SetLayoutRTL(true);
 }
 
