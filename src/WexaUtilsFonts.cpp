@@ -1,0 +1,35 @@
+#include <algorithm>
+
+#include "WexaUtils.h"
+#include "platform/FontFamilies.h"
+
+// The fonts of the system.
+
+namespace {
+
+constexpr int kBoldFrom = 501;  // weight
+
+// A name of a family for vertical text begins with "@".
+bool IsSpecial(const FontFamily& family) {
+  return family.isSymbol || family.name.starts_with(L'@');
+}
+
+Wexa::FontData RecordOf(const FontFamily& family) {
+  Wexa::FontData record;
+  record.faceName = family.name;
+  record.bold = family.weight >= kBoldFrom ? 1 : -1;
+  record.italic = family.isItalic ? 1 : -1;
+  record.specialFont = IsSpecial(family) ? 1 : 0;
+  return record;
+}
+
+}  // namespace
+
+bool WexaUtils::GetSystemFonts(std::vector<Wexa::FontData>& fonts, bool lettersOnly) {
+  const std::vector<FontFamily> families = ListFontFamilies();
+  for (const FontFamily& family : families) {
+    if (!lettersOnly || !IsSpecial(family)) fonts.push_back(RecordOf(family));
+  }
+  std::ranges::sort(fonts, {}, &Wexa::FontData::faceName);
+  return !families.empty();
+}
