@@ -5,6 +5,7 @@
 
 #include "BaseGUIObject.h"
 #include "RGBColor.h"
+#include "WexaUtils.h"
 
 class CButton;
 
@@ -45,6 +46,22 @@ class WEXA_API Button : public BaseGUIObject {
   // error" when the native button cannot be made anew.
   virtual void SetChecked(bool checked);
   virtual bool GetCheck();
+  // Shows a picture before the text, in the style IconOnly instead of it. What fits or fills, fits the
+  // button's area as it is now. `iconSize` chooses among the icons of an icon file. Nothing changes
+  // when there is no picture to read; with `redraw` the button shows it at once.
+  virtual void LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                           WexaUtils::ScalePicture scale, int iconSize, bool redraw);
+  // A file, its type by its extension.
+  virtual void LoadPicture(const std::wstring& path, WexaUtils::ScalePicture scale, int iconSize,
+                           bool redraw);
+  // The same for the picture that a disabled button shows instead.
+  virtual void LoadPictureDisabled(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                                   WexaUtils::ScalePicture scale, int iconSize, bool redraw);
+  virtual void LoadPictureDisabled(const std::wstring& path, WexaUtils::ScalePicture scale,
+                                   int iconSize, bool redraw);
+  // Makes the disabled picture: the normal one's shape in the skin's colour of disabled text.
+  // Nothing happens without a normal picture.
+  virtual void GeneratePictureDisabled(bool redraw);
   virtual void SetStyle(ButtonStyle style);
   // The same as SetStyle.
   virtual void UseTextAndIcon(ButtonStyle style);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "BaseGUIObject.h"
+#include "WexaUtils.h"
 
 namespace Wexa {
 
@@ -34,6 +35,13 @@ class WEXA_API RadioButton : public BaseGUIObject {
   // a group.
   virtual void SetCheck();
   virtual bool Checked();
+  // Shows a picture between the mark and the text. What fits or fills, fits the widget's area beside
+  // the mark as it is now. `iconSize` chooses among the icons of an icon file. Nothing changes when
+  // there is no picture to read.
+  virtual void LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                           WexaUtils::ScalePicture scale, int iconSize);
+  // A file, its type by its extension.
+  virtual void LoadPicture(const std::wstring& path, WexaUtils::ScalePicture scale, int iconSize);
 
   void SetText(const std::wstring& text);
   std::wstring GetText();

@@ -7,6 +7,7 @@
 #include "Button.h"
 #include "MFC/BaseImplMFC.h"
 #include "MFC/ButtonMFC.h"
+#include "MFC/ButtonPictures.h"
 
 namespace Wexa {
 
@@ -27,6 +28,9 @@ class Button::impl : public BaseImplMFC {
   std::wstring GetText() { return Text(); }
   void SetChecked(bool checked);
   bool IsChecked();
+  void LoadPicture(const PictureRequest& request, bool redraw);
+  void LoadPictureDisabled(const PictureRequest& request, bool redraw);
+  void GeneratePictureDisabled(bool redraw);
   void SetStyle(ButtonStyle style);
   ButtonStyle GetStyle() const { return style_; }
   void SetFaces(const std::array<RGBColor, 5>& faces);
@@ -41,7 +45,9 @@ class Button::impl : public BaseImplMFC {
   // -- From the native button
   void OnClicked();
   bool OnPreTranslate(const MSG& message);
-  bool IsOwnerDrawn() const { return style_ != ButtonStyle::Native || hasBorders_; }
+  bool IsOwnerDrawn() const {
+    return style_ != ButtonStyle::Native || hasBorders_ || pictures_.normal;
+  }
   void PaintOwnerDrawn();
 
  protected:
@@ -51,11 +57,17 @@ class Button::impl : public BaseImplMFC {
   bool CreateButton(const CRect& rect, DWORD style, CWnd* parent);
   void MakeCheckable();
   void TellButtonBox();
+  // The text that stands on the button, which a picture may replace.
+  std::wstring Caption();
+  CSize CaptionSize();
+  void ReplacePicture(UniqueBitmap& picture, const PictureRequest& request, bool redraw);
+  void PaintContent(Painter& painter, const CRect& client, bool enabled, COLORREF color);
 
   std::shared_ptr<CButton> window_;
   ButtonStyle style_ = ButtonStyle::Native;
   bool checkable_ = false;
   bool hasBorders_ = false;
+  ButtonPictures pictures_;
   std::optional<std::array<RGBColor, 5>> faces_;  // normal, hovered, pressed, disabled, checked
 };
 

@@ -5,6 +5,7 @@
 
 #include "MFC/BaseImplMFC.h"
 #include "MFC/ButtonMFC.h"
+#include "MFC/ButtonPictures.h"
 #include "RadioButton.h"
 
 namespace Wexa {
@@ -24,6 +25,7 @@ class RadioButton::impl : public BaseImplMFC {
   using BaseImplMFC::Text;
   void SetCheck();
   bool IsChecked();
+  void LoadPicture(const PictureRequest& request);
 
   std::shared_ptr<GroupInfo> group;
   std::wstring groupName;  // of the form
@@ -32,16 +34,18 @@ class RadioButton::impl : public BaseImplMFC {
   // -- From the native button
   void OnClicked();
   bool OnPreTranslate(const MSG&) { return false; }
-  bool IsOwnerDrawn() const { return false; }
-  void PaintOwnerDrawn() {}
+  bool IsOwnerDrawn() const { return pictures_.normal != nullptr; }
+  void PaintOwnerDrawn();
 
  protected:
   bool CreateNative(CWnd* parent) override;
 
  private:
   unsigned CheckedIdOfGroup();
+  ControlState Look() const;
 
   ButtonMFC<RadioButton> window_;
+  ButtonPictures pictures_;
 };
 
 }  // namespace Wexa

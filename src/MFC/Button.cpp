@@ -29,6 +29,29 @@ void Button::SetChecked(bool checked) {
 bool Button::GetCheck() {
   return impl_->IsChecked();
 }
+
+void Button::LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                         WexaUtils::ScalePicture scale, int iconSize, bool redraw) {
+  impl_->LoadPicture({data, size, type, scale, iconSize}, redraw);
+}
+void Button::LoadPicture(const std::wstring& path, WexaUtils::ScalePicture scale, int iconSize,
+                         bool redraw) {
+  const PictureFile file(path);
+  LoadPicture(file.bytes.get(), file.size, file.type, scale, iconSize, redraw);
+}
+void Button::LoadPictureDisabled(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                                 WexaUtils::ScalePicture scale, int iconSize, bool redraw) {
+  impl_->LoadPictureDisabled({data, size, type, scale, iconSize}, redraw);
+}
+void Button::LoadPictureDisabled(const std::wstring& path, WexaUtils::ScalePicture scale,
+                                 int iconSize, bool redraw) {
+  const PictureFile file(path);
+  LoadPictureDisabled(file.bytes.get(), file.size, file.type, scale, iconSize, redraw);
+}
+void Button::GeneratePictureDisabled(bool redraw) {
+  impl_->GeneratePictureDisabled(redraw);
+}
+
 void Button::SetStyle(ButtonStyle style) {
   impl_->SetStyle(style);
 }

@@ -46,9 +46,12 @@ bool Button::impl::CreateButton(const CRect& rect, DWORD style, CWnd* parent) {
 }
 
 Size Button::impl::IdealSize() {
-  SIZE text = GetTextExtent(Font(), Text(), INT32_MAX, DT_SINGLELINE);
+  CSize text = CaptionSize();
+  CSize content = ContentSize(pictures_.Size(), text);
   SIZE padding = Theme::PushButtonPadding();
-  return {std::max(text.cx + 2 * padding.cx, Scale(kMinimumWidth)), text.cy + 2 * padding.cy};
+  int height = content.cy + 2 * padding.cy;
+  if (text.cx == 0 && pictures_.normal) return {content.cx + 2 * padding.cy, height};
+  return {std::max(content.cx + 2 * padding.cx, Scale(kMinimumWidth)), height};
 }
 
 void Button::impl::Show(bool show, bool updateLayout) {
@@ -158,16 +161,16 @@ void Button::impl::PaintOwnerDrawn() {
   UINT state = window_->GetState();
   ControlState look;
   look.enabled = window_->IsWindowEnabled();
-  look.pressed = (state & BST_PUSHED) != 0;
+  look.pressed = (state & BST_PUSHED) != 0 || (style_ == ButtonStyle::Native && IsChecked());
   look.focused = (state & BST_FOCUS) != 0;
   look.focusCue = look.focused && !focusRectDisabled;
   look.hovered = IsMouseTracked();
+  look.isDefault = window_->GetButtonStyle() == BS_DEFPUSHBUTTON;
   painter.FillRect(client, palette.background);
   Theme::DrawPushButton(painter, client, look, palette, Scale(cornerRadius));
   COLORREF color =
       look.enabled ? (look.pressed ? palette.pressedText : palette.text) : palette.disabledText;
-  painter.Text(Text(), client, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_HIDEPREFIX, Font(),
-               color);
+  PaintContent(painter, client, look.enabled, color);
 }
 
 void Button::impl::OnClicked() {

@@ -1,0 +1,57 @@
+#include "MFC/ButtonPictures.h"
+
+#include <algorithm>
+
+#include "MFC/BaseImplMFC.h"
+
+namespace Wexa {
+
+namespace {
+
+constexpr int kGap = 6;  // between picture and text
+
+int GapBetween(CSize picture, CSize text) {
+  return picture.cx > 0 && text.cx > 0 ? Scale(kGap) : 0;
+}
+
+WexaUtils::ImageTypes TypeOf(const std::wstring& path) {
+  const std::size_t dot = path.rfind(L'.');
+  return dot == std::wstring::npos ? WexaUtils::Unknown
+                                   : WexaUtils::WstrToImageType(path.substr(dot));
+}
+
+}  // namespace
+
+PictureFile::PictureFile(const std::wstring& path)
+    : bytes(WexaUtils::LoadImageBuffer(path, &size)), type(TypeOf(path)) {}
+
+CSize ButtonPictures::Size() const {
+  BITMAP description{};
+  GetBitmapDescription(normal.get(), &description);
+  return {description.bmWidth, description.bmHeight};
+}
+
+UniqueBitmap LoadPictureInto(const CRect& area, CWnd* window, const PictureRequest& request) {
+  UniqueBitmap picture(
+      WexaUtils::GetBitmap(request.data, request.size, request.type, request.iconSize));
+  const HBITMAP scaled = WexaUtils::ScaleBitmap(picture.get(), request.scale, area, window);
+  if (scaled != picture.get()) picture.reset(scaled);
+  return picture;
+}
+
+CSize ContentSize(CSize picture, CSize text) {
+  return {picture.cx + GapBetween(picture, text) + text.cx, std::max(picture.cy, text.cy)};
+}
+
+ContentPlaces PlaceContent(const CRect& area, CSize picture, CSize text,
+                           ContentAlignment alignment) {
+  const int free = area.Width() - ContentSize(picture, text).cx;
+  const int left = area.left + (alignment == ContentAlignment::Centre ? free / 2 : 0);
+  const int top = area.top + (area.Height() - picture.cy) / 2;
+  const CRect place(left, top, left + picture.cx, top + picture.cy);
+  const int textLeft = place.right + GapBetween(picture, text);
+  const int textRight = std::min<int>(textLeft + text.cx, area.right);
+  return {place, {textLeft, area.top, textRight, area.bottom}};
+}
+
+}  // namespace Wexa
