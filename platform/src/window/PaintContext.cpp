@@ -34,6 +34,7 @@ PixelRegion TakeUpdate(Window& window) {
   PixelRegion due = window.update;
   due.Unite(window.painting).Intersect(window.client);
   window.update.Subtract(window.client);
+  window.allDue = false;
   window.painting.Subtract(window.client);
   window.deepUpdate.Intersect(window.update);
   return due;

@@ -26,6 +26,7 @@ class JobCollector {
   void Visit(Window& window, const CRect& place, const CRect& limit, const PixelRegion& covered,
              PixelRegion* painted) {
     window.subtreeDirty = false;
+    window.allDue = false;
     const CRect visible = place.Intersected(limit);
     PixelRegion due = Taken(window.update, place, visible);
     PixelRegion deep = Taken(window.deepUpdate, place, visible);

@@ -68,6 +68,7 @@ void Apply(Window& window, WINDOWPOS& request) {
   const CRect client = window.client.Moved(window.rect.left, window.rect.top);
   if (repaint && window.IsVisible()) InvalidateBehind(window);
   if (!(request.flags & SWP_NOZORDER)) PlaceAfter(window, request.hwndInsertAfter);
+  window.allDue = false;
   window.rect = {request.x, request.y, request.x + request.cx, request.y + request.cy};
   SetVisibleStyle(window, request.flags);
   if (window.parent) window.parent->overlapsKnown = false;

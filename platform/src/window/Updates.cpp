@@ -31,15 +31,11 @@ PixelRegion ClientArea(const Window& window, HRGN region) {
   return area.Intersect(window.client);
 }
 
-// Whether the pass will paint all of the area anyway, because an ancestor that paints over its
-// children is due there. `area` is in pixels from the window's corner.
-bool IsDueWithAncestor(const Window& window, CRect area) {
-  for (const Window* w = &window; w->parent && !w->parent->ClipsChildren(); w = w->parent) {
-    const CRect place = InWindow(*w->parent, w->rect);
-    area = area.Moved(place.left, place.top).Intersected(w->parent->client);
-    if (area.IsEmpty()) return true;
-    if (w->parent->update.Contains(area)) return true;
-  }
+// Whether the pass will paint all of the window anyway, because all of an ancestor that paints over
+// its children is due.
+bool IsDueWithAncestor(const Window& window) {
+  for (const Window* w = window.parent; w && !w->ClipsChildren(); w = w->parent)
+    if (w->allDue) return true;
   return false;
 }
 
@@ -50,11 +46,12 @@ void MarkDirty(Window& window) {
 }
 
 void Invalidate(Window& window, const PixelRegion& area, UpdateOptions options) {
-  if (!IsPaintable(window) || IsDueWithAncestor(window, area.Bounds())) return;
+  if (IsDueWithAncestor(window) || !IsPaintable(window)) return;
   PixelRegion inside = area;
   inside.Intersect(window.Bounds());
   if (inside.IsEmpty()) return;
   window.update.Unite(inside);
+  window.allDue = window.update.Contains(window.Bounds());
   if (options.deep && window.ClipsChildren()) window.deepUpdate.Unite(inside);
   window.eraseDue |= options.erase;
   MarkDirty(window);

@@ -74,6 +74,8 @@ struct Window {
   bool redraw = true;         // off between WM_SETREDRAW messages
   bool destroying = false;
 
+  bool allDue = false;  // the update region covers the whole window
+
   std::vector<Overlap> overlaps;  // of the children
   bool overlapsKnown = false;
 
