@@ -76,8 +76,14 @@ CRect EditView::CaretRect(std::size_t index) const {
   return {x, line.top, x + CaretWidth(), line.bottom};
 }
 
+// Texts that surely fit need no shaping, which costs more than the rest of a resize.
+bool EditView::FitsSurely() const {
+  constexpr int kRounding = 2;
+  return GetTextExtent(font_, text_).cx + CaretWidth() + kRounding <= area_.Width();
+}
+
 void EditView::ScrollTo(std::size_t index) {
-  const int room = area_.Width() - ContentWidth();
+  const int room = FitsSurely() ? 0 : area_.Width() - ContentWidth();
   if (room >= 0) {
     scroll_ = 0;
     return;

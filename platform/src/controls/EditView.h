@@ -58,6 +58,7 @@ class EditView {
 
  private:
   int ContentWidth() const;
+  bool FitsSurely() const;
   int Origin() const;  // left edge of the line
   int MirrorInLine(int x) const;
   void PaintSelection(Painter& painter, const Colors& colors, const Marks& marks) const;
