@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "BalloonTipIconType.h"
 #include "CallbackList.h"
 #include "FontData.h"
 #include "Point.h"
@@ -23,9 +24,10 @@ namespace Wexa {
 class BaseImpl;
 class Event;
 
-// The base of every widget: a name, a kind, the host's event procedure, and the operations that every
-// widget answers through its implementation. Sizes and positions are device pixels unless stated;
-// operations that need the native window throw WexaException "Control is not valid." without one.
+// The base of every widget: a name, a kind, the host's event procedure, and the operations that
+// every widget answers through its implementation. Sizes and positions are device pixels unless
+// stated; operations that need the native window throw WexaException "Control is not valid."
+// without one.
 class WEXA_API BaseGUIObject : public WexaObject {
  public:
   // The kind of a widget.
@@ -85,8 +87,8 @@ class WEXA_API BaseGUIObject : public WexaObject {
   // A remembered disable cannot be undone by an enable that is not remembered.
   virtual void Enable(bool enable, bool remember);
   virtual bool IsEnabled();
-  // Moves within the parent's client area, kept within the widget's limits. The last argument has no
-  // effect.
+  // Moves within the parent's client area, kept within the widget's limits. The last argument has
+  // no effect.
   virtual void MoveWindow(int x, int y, int width, int height, bool repaint);
   // The same in 96-DPI units.
   virtual void MoveWindowUnscaled(int x, int y, int width, int height, bool repaint);
@@ -141,8 +143,8 @@ class WEXA_API BaseGUIObject : public WexaObject {
   // Called with every event of the widget; true suppresses the default processing.
   void SetEventProcedure(const EventHandler& procedure);
   const EventHandler& EventProcedure() const { return *eventProcedure_; }
-  // Gets the native message record before the library's own pre-processing: 1 consumes it, 0 ends the
-  // pre-processing, anything else lets it go on.
+  // Gets the native message record before the library's own pre-processing: 1 consumes it, 0 ends
+  // the pre-processing, anything else lets it go on.
   void SetPreTranslateMessage(const PreTranslateProcedure& procedure) {
     preTranslateMessage_ = procedure;
   }
@@ -150,6 +152,28 @@ class WEXA_API BaseGUIObject : public WexaObject {
 
   // Width in pixels of a text in the given font, or in the widget's when null.
   int GetWidthForText(std::wstring& text, FontData* font);
+
+  // -- Balloon tips: a title, a text and an icon that point at the widget. One is shown at a time.
+  // It closes with the next key or press when `closesOnInput`, after ten seconds when
+  // `closesInTime`, and always with a click on it. False when there is nothing to say or the widget
+  // is not to be seen.
+
+  bool ShowBalloonTipEx(const std::wstring& text, BalloonTipIconType icon, bool closesOnInput,
+                        bool closesInTime);
+  bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                        BalloonTipIconType icon, bool closesOnInput, bool closesInTime);
+  bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text, bool closesOnInput,
+                        bool closesInTime);
+  // The icon is a picture file, or the bytes of one: icon files and what decodes as a picture.
+  bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                        const std::wstring& iconPath, bool closesOnInput, bool closesInTime);
+  bool ShowBalloonTipEx(const std::wstring& text, const unsigned char* icon, int size,
+                        bool closesOnInput, bool closesInTime);
+  bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                        const unsigned char* icon, int size, bool closesOnInput, bool closesInTime);
+  // False when no tip was ever shown.
+  bool HideBalloonTipEx();
+  bool IsBalloonTipDisplayed();
 
   // Fired with the widget when its native window is destroyed.
   CallbackList<BaseGUIObject*> Destroyed;

@@ -6,6 +6,8 @@
 #include "BaseGUIObject.h"
 #include "WexaUtils.h"
 
+class CRect;
+
 namespace Wexa {
 
 class Button;
@@ -50,6 +52,10 @@ class WEXA_API Dialog : public BaseGUIObject {
   BaseGUIObject* GetFocusedCtrlPtr();
   void SetFocusToCtrl(BaseGUIObject* widget);
   void SetDefaultButton(Button* button);
+  // The tip shown while the pointer rests on the widget, or on an area of its client area: one for
+  // each id. Disabled widgets have theirs, too. Without title and text the tip is removed.
+  void SetToolTip(const std::shared_ptr<BaseGUIObject>& widget, const std::wstring& title,
+                  const std::wstring& text, int id = 0, CRect* area = nullptr);
 
   // -- Appearance
 

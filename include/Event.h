@@ -33,7 +33,7 @@ class WEXA_API Event {
     WindowActivate = 24,
     WindowDeactivate = 25,
     Wheel = 31,
-    ApplicationPaletteChange = 38,  // never sent by the library
+    ApplicationPaletteChange = 38,  // the desktop's colours: dialogs get it
     Drop = 63,
     LayoutRequest = 76,
     LayoutsUpdated = 77,

@@ -3,6 +3,7 @@
 // Everything that a host may use.
 
 #include "Any.h"
+#include "BalloonTipIconType.h"
 #include "BaseGUIObject.h"
 #include "Button.h"
 #include "ButtonBox.h"
@@ -36,6 +37,7 @@
 #include "Rect.h"
 #include "Region.h"
 #include "RichEdit.h"
+#include "ScopedConnection.h"
 #include "ScrollArea.h"
 #include "ScrollBar.h"
 #include "Size.h"

@@ -19,7 +19,8 @@ namespace Wexa {
 // The directory of the host's executable, unless the host sets another.
 WEXA_API std::wstring GetWorkingDirPath();
 WEXA_API void SetWorkingDirPath(const std::wstring& path);
-// Form files and pictures of a component, whose name ends in "\" or is empty.
+// Form files and pictures of a component, whose name ends in "\" or is empty. A name that is a full
+// path is answered as it is.
 WEXA_API std::wstring GetUiDirPath(const std::wstring& name);
 WEXA_API std::wstring GetImageDirPath(const std::wstring& name);
 

@@ -182,4 +182,44 @@ int BaseGUIObject::GetWidthForText(std::wstring& text, FontData* font) {
   return GetBaseImpl()->GetTextWidth(text, font);
 }
 
+bool BaseGUIObject::ShowBalloonTipEx(const std::wstring& text, BalloonTipIconType icon,
+                                     bool closesOnInput, bool closesInTime) {
+  return GetBaseImpl()->ShowBalloonTipEx(text, icon, closesOnInput, closesInTime);
+}
+
+bool BaseGUIObject::ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                                     BalloonTipIconType icon, bool closesOnInput,
+                                     bool closesInTime) {
+  return GetBaseImpl()->ShowBalloonTipEx(title, text, icon, closesOnInput, closesInTime);
+}
+
+bool BaseGUIObject::ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                                     bool closesOnInput, bool closesInTime) {
+  return GetBaseImpl()->ShowBalloonTipEx(title, text, closesOnInput, closesInTime);
+}
+
+bool BaseGUIObject::ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                                     const std::wstring& iconPath, bool closesOnInput,
+                                     bool closesInTime) {
+  return GetBaseImpl()->ShowBalloonTipEx(title, text, iconPath, closesOnInput, closesInTime);
+}
+
+bool BaseGUIObject::ShowBalloonTipEx(const std::wstring& text, const unsigned char* icon, int size,
+                                     bool closesOnInput, bool closesInTime) {
+  return GetBaseImpl()->ShowBalloonTipEx(text, icon, size, closesOnInput, closesInTime);
+}
+
+bool BaseGUIObject::ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                                     const unsigned char* icon, int size, bool closesOnInput,
+                                     bool closesInTime) {
+  return GetBaseImpl()->ShowBalloonTipEx(title, text, icon, size, closesOnInput, closesInTime);
+}
+
+bool BaseGUIObject::HideBalloonTipEx() {
+  return GetBaseImpl()->HideBalloonTip();
+}
+bool BaseGUIObject::IsBalloonTipDisplayed() {
+  return GetBaseImpl()->IsBalloonTipDisplayed();
+}
+
 }  // namespace Wexa

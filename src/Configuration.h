@@ -5,6 +5,7 @@
 
 #include "LogFont.h"
 #include "SkinManager.h"
+#include "platform/SystemColors.h"
 
 namespace Wexa {
 
@@ -13,6 +14,9 @@ class WexaConfig {
  public:
   // Made on first use; throws WexaException when the host's executable cannot be found.
   static WexaConfig& Instance();
+
+  // Loads the palettes of the two skins again when the desktop's scheme is another than before.
+  void FollowSystemColors();
 
   std::wstring workingDirPath;
   std::wstring currentLanguage;
@@ -32,6 +36,8 @@ class WexaConfig {
   WexaConfig();
   // Fills the factory with the library's widgets; defined beside them.
   void RegisterWexaControls();
+
+  SystemScheme scheme_ = GetSystemScheme();
 };
 
 }  // namespace Wexa

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <utility>
 
 #include "Configuration.h"
 #include "FileText.h"
@@ -23,7 +24,18 @@ std::wstring ExecutableDirectory() {
   return path->substr(0, path->rfind(L'/') + 1);
 }
 
+bool IsSeparator(wchar_t c) {
+  return c == L'/' || c == L'\\';
+}
+
+// Begins at a root or a drive.
+bool IsFullPath(const std::wstring& name) {
+  if (!name.empty() && IsSeparator(name[0])) return true;
+  return name.size() > 2 && name[1] == L':' && IsSeparator(name[2]);
+}
+
 std::wstring ResourceDirectory(const std::wstring& name, const wchar_t* kind) {
+  if (IsFullPath(name)) return name;
   return GetWorkingDirPath() + L"wexaresources\\" + name + kind + L"\\";
 }
 
@@ -37,6 +49,13 @@ WexaConfig::WexaConfig() {
 WexaConfig& WexaConfig::Instance() {
   static WexaConfig config;
   return config;
+}
+
+void WexaConfig::FollowSystemColors() {
+  const SystemScheme scheme = GetSystemScheme();
+  if (std::exchange(scheme_, scheme) == scheme) return;
+  globalSkin.ReloadPalette();
+  keyMapSkin.ReloadPalette();
 }
 
 std::wstring GetWorkingDirPath() {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "BalloonTipIconType.h"
 #include "Point.h"
 #include "Rect.h"
 #include "Region.h"
@@ -71,6 +72,22 @@ class WEXA_API BaseImpl {
   virtual void SetTrackMouseEvent() = 0;
   virtual bool IsMouseTracked() = 0;
   virtual void SetMouseTracked(bool tracked) = 0;
+  virtual bool ShowBalloonTipEx(const std::wstring& text, BalloonTipIconType icon,
+                                bool closesOnInput, bool closesInTime) = 0;
+  virtual bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                                BalloonTipIconType icon, bool closesOnInput, bool closesInTime) = 0;
+  virtual bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                                bool closesOnInput, bool closesInTime) = 0;
+  virtual bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                                const std::wstring& iconPath, bool closesOnInput,
+                                bool closesInTime) = 0;
+  virtual bool ShowBalloonTipEx(const std::wstring& text, const unsigned char* icon, int size,
+                                bool closesOnInput, bool closesInTime) = 0;
+  virtual bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                                const unsigned char* icon, int size, bool closesOnInput,
+                                bool closesInTime) = 0;
+  virtual bool HideBalloonTip() = 0;
+  virtual bool IsBalloonTipDisplayed() = 0;
   // A slot of the widget's skin is about to be marked as changed.
   virtual void OnSkinColorsChanged() = 0;
   virtual ~BaseImpl() = default;

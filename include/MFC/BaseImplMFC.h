@@ -13,7 +13,9 @@ struct ControlPalette;
 
 namespace Wexa {
 
+class BalloonTip;
 class BaseGUIObject;
+struct TipContent;
 
 // What a widget was told before its native window exists; sizes in 96-DPI units, on the dialog.
 struct CreationRecord {
@@ -66,7 +68,24 @@ class BaseImplMFC : public BaseImpl {
   void SetTrackMouseEvent() override;
   bool IsMouseTracked() override { return mouseTracked_; }
   void SetMouseTracked(bool tracked) override { mouseTracked_ = tracked; }
-  void OnSkinColorsChanged() override {}
+  bool ShowBalloonTipEx(const std::wstring& text, BalloonTipIconType icon, bool closesOnInput,
+                        bool closesInTime) override;
+  bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                        BalloonTipIconType icon, bool closesOnInput, bool closesInTime) override;
+  bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text, bool closesOnInput,
+                        bool closesInTime) override;
+  bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                        const std::wstring& iconPath, bool closesOnInput,
+                        bool closesInTime) override;
+  bool ShowBalloonTipEx(const std::wstring& text, const unsigned char* icon, int size,
+                        bool closesOnInput, bool closesInTime) override;
+  bool ShowBalloonTipEx(const std::wstring& title, const std::wstring& text,
+                        const unsigned char* icon, int size, bool closesOnInput,
+                        bool closesInTime) override;
+  bool HideBalloonTip() override;
+  bool IsBalloonTipDisplayed() override;
+  // The window is due to be painted.
+  void OnSkinColorsChanged() override;
   HWND GetHandle() override;
 
   int HeightForWidth(int width) override;
@@ -102,6 +121,8 @@ class BaseImplMFC : public BaseImpl {
   void DeleteLayout();
   // The dialog is going while others may still hold the widget: its skin stands on its own.
   void LeaveDialog();
+  // The desktop's colours or its contrast changed.
+  virtual void OnSystemColorsChanged() {}
   // The native window is going: what the user entered stays readable.
   virtual void KeepState();
   // The colours the native control paints with, from the skin.
@@ -131,6 +152,7 @@ class BaseImplMFC : public BaseImpl {
 
  private:
   Size Clamped(int width, int height) const;
+  bool ShowBalloon(const TipContent& content, bool closesOnInput, bool closesInTime);
 
   BaseGUIObject* owner_;
   CreationRecord creation_;
@@ -145,6 +167,7 @@ class BaseImplMFC : public BaseImpl {
   bool enabledState_ = true;
   Rect lastGeometry_;
   std::vector<BaseGUIObject*> children_;
+  std::unique_ptr<BalloonTip> balloonTip_;
 };
 
 // The implementation behind a widget; null for a null widget.

@@ -13,6 +13,7 @@ namespace Wexa {
 
 class BaseDialogMFC;
 class ButtonBox;
+class ToolTips;
 
 class Dialog::impl : public BaseImplMFC {
  public:
@@ -36,6 +37,7 @@ class Dialog::impl : public BaseImplMFC {
   COLORREF BackgroundColor() override;
   void FillPalette(ControlPalette& palette) override;
   void OnSkinColorsChanged() override;
+  void OnSystemColorsChanged() override;
   void RefreshSkinColors() override;
   bool SetSkinMode(SkinMode mode, bool repaint) override;
   void SetCustomSkin(const SkinManager& skin, bool update);
@@ -58,6 +60,7 @@ class Dialog::impl : public BaseImplMFC {
   std::vector<std::wstring> tabOrder;
   WexaUtils::CursorTypes cursorType = WexaUtils::CursorTypes{};
   BuildStatistics statistics;
+  ToolTips& Tips() { return *toolTips_; }
 
   // -- From the native dialog
   bool OnInitDialog();
@@ -95,6 +98,7 @@ class Dialog::impl : public BaseImplMFC {
   std::vector<std::uint32_t> dialogTemplate_;  // keeps the records aligned
   int defaultButtonId_ = -1;
   bool wasInitialized_ = false;
+  std::unique_ptr<ToolTips> toolTips_;
 };
 
 // Ids of controls: one counter for the process, from 3000 up.

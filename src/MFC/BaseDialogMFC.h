@@ -9,6 +9,7 @@ namespace Wexa {
 class BaseDialogMFC : public CDialogEx {
  public:
   explicit BaseDialogMFC(Dialog::impl& impl) : impl_(impl) {}
+  Dialog::impl& Impl() { return impl_; }
   BOOL PreTranslateMessage(MSG* message) override;
 
  protected:

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "BaseGUIObject.h"
+#include "MFC/BalloonTip.h"
+#include "MFC/DeferredCalls.h"
 #include "MFC/DialogFont.h"
 #include "MFC/EventDispatch.h"
 #include "MFC/WidgetColors.h"
@@ -98,6 +100,7 @@ bool BaseImplMFC::Create(HWND parent) {
 void BaseImplMFC::AttachWindowProcedure() {
   SetWindowSubclass(GetHandle(), WexaWindowProcedure, kWindowProcedureId,
                     reinterpret_cast<DWORD_PTR>(owner_));
+  AddReceiver(owner_, GetHandle());
 }
 
 CRect BaseImplMFC::ScaledRect() const {
@@ -323,6 +326,10 @@ bool BaseImplMFC::SetSkinMode(SkinMode mode, bool repaint) {
     Window().RedrawWindow(nullptr, nullptr,
                           RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
   return true;
+}
+
+void BaseImplMFC::OnSkinColorsChanged() {
+  if (!skinManager_.GetColorChangeFlag() && GetHandle()) Window().Invalidate();
 }
 
 COLORREF BaseImplMFC::BackgroundColor() {

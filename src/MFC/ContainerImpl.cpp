@@ -15,6 +15,7 @@ ContainerImpl::ContainerImpl(BaseGUIObject* owner) : PaintedImpl(owner) {
 }
 
 void ContainerImpl::OnSkinColorsChanged() {
+  PaintedImpl::OnSkinColorsChanged();
   PassSkinChange(Children());
 }
 

@@ -1,6 +1,7 @@
 #include "Dialog.h"
 
 #include "MFC/DialogImplMFC.h"
+#include "MFC/ToolTips.h"
 #include "MFC/WidgetColors.h"
 #include "Translator.h"
 #include "platform/Classes.h"
@@ -76,6 +77,11 @@ void Dialog::SetFocusToCtrl(BaseGUIObject* widget) {
 
 void Dialog::SetDefaultButton(Button* button) {
   impl_->SetDefaultButton(button);
+}
+
+void Dialog::SetToolTip(const std::shared_ptr<BaseGUIObject>& widget, const std::wstring& title,
+                        const std::wstring& text, int id, CRect* area) {
+  impl_->Tips().Set(widget, {title, text}, id, area);
 }
 
 void Dialog::SetWindowTitle(const std::wstring& title) {

@@ -7,6 +7,7 @@
 #include "Label.h"
 #include "MFC/LayoutSettings.h"
 #include "MFC/RadioButtonImplMFC.h"
+#include "MFC/ToolTips.h"
 #include "MFC/WidgetSettings.h"
 #include "ScrollArea.h"
 #include "Splitter.h"
@@ -16,6 +17,7 @@
 #include "WexaObjectFactory.h"
 #include "WexaUtils.h"
 #include "form/FormText.h"
+#include "form/RichText.h"
 #include "layout/BoxLayout.h"
 #include "layout/GridLayout.h"
 #include "layout/SpacerItem.h"
@@ -160,12 +162,20 @@ void DialogBuilder::BuildWidget(const FormNode& node, const Place& place) {
                                            impl_.GetSkinManager().GetSkinMode());
   ApplyWidgetSettings(*widget, node, className);
   impl_.AddElement(node.name, widget);
+  AddToolTip(node, widget);
   ++impl_.statistics.widgets;
   PlaceWidget(node, *widget, place);
   if (const std::wstring* buddy = node.Text(PropertyId::Buddy);
       buddy && widget->Type() == GuiType::Label)
     buddies_.emplace_back(widget.get(), *buddy);
   BuildChildren(node, {widget.get()});
+}
+
+void DialogBuilder::AddToolTip(const FormNode& node, const std::shared_ptr<BaseGUIObject>& widget) {
+  const std::wstring* tip = node.Extra(L"toolTip");
+  if (!tip) return;
+  std::int32_t bold = 0;
+  impl_.Tips().Set(widget, {L"", IsRichText(*tip) ? PlainTextOf(*tip, bold) : *tip}, 0, nullptr);
 }
 
 void DialogBuilder::PlaceWidget(const FormNode& node, BaseGUIObject& widget, const Place& place) {

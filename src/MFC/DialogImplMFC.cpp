@@ -7,6 +7,7 @@
 #include "Configuration.h"
 #include "MFC/BaseDialogMFC.h"
 #include "MFC/ContainerImpl.h"
+#include "MFC/ToolTips.h"
 #include "MFC/WidgetColors.h"
 #include "WexaException.h"
 #include "WexaUtils.h"
@@ -29,6 +30,20 @@ Size WithinSurfaceLimits(Size size) {
   return {width, std::min(height, static_cast<int>(kMostPixels / width))};
 }
 
+// High contrast overrides the host's colours.
+const SkinManager* KeyMapParent() {
+  WexaConfig& config = WexaConfig::Instance();
+  config.FollowSystemColors();
+  return WexaUtils::IsSystemHighContrastMode() ? nullptr : &config.keyMapSkin;
+}
+
+void ReloadPalettesOf(const std::vector<BaseGUIObject*>& widgets) {
+  for (BaseGUIObject* widget : widgets) {
+    widget->GetSkinManager().ReloadPalette();
+    ReloadPalettesOf(ImplOf(widget)->Children());
+  }
+}
+
 [[noreturn]] void ThrowNotCreated() {
   throw WexaException(kSource, __LINE__, "Cannot create dialog from dialog template data.");
 }
@@ -44,7 +59,10 @@ UINT NextControlId() {
 }
 
 Dialog::impl::impl(Dialog* owner, DWORD style, CWnd* parent)
-    : BaseImplMFC(owner), window_(std::make_unique<BaseDialogMFC>(*this)), parentWindow_(parent) {
+    : BaseImplMFC(owner),
+      window_(std::make_unique<BaseDialogMFC>(*this)),
+      parentWindow_(parent),
+      toolTips_(std::make_unique<ToolTips>()) {
   Creation().style = style;
   resizable = (style & WS_THICKFRAME) != 0;
   InitSkin();
@@ -190,6 +208,7 @@ void Dialog::impl::OnGetMinMaxInfo(MINMAXINFO& info) {
 // -- Skin
 
 void Dialog::impl::InitSkin() {
+  WexaConfig::Instance().FollowSystemColors();
   const SkinManager& global = WexaConfig::Instance().globalSkin;
   if (global.GetSkinMode() == SkinMode::Custom) {
     GetSkinManager().SetCustomSkin(global);
@@ -207,7 +226,17 @@ void Dialog::impl::FillPalette(ControlPalette& palette) {
 }
 
 void Dialog::impl::OnSkinColorsChanged() {
+  BaseImplMFC::OnSkinColorsChanged();
   PassSkinChange(Children());
+}
+
+// The window core has the dialog painted.
+void Dialog::impl::OnSystemColorsChanged() {
+  WexaConfig::Instance().FollowSystemColors();
+  SkinManager& skin = GetSkinManager();
+  if (skin.GetRequestedMode() == SkinMode::XML) skin.SetParentSkinManager(KeyMapParent());
+  skin.ReloadPalette();
+  ReloadPalettesOf(Children());
 }
 
 void Dialog::impl::RefreshSkinColors() {
@@ -222,12 +251,10 @@ bool Dialog::impl::SetSkinMode(SkinMode mode, bool repaint) {
 }
 
 bool Dialog::impl::EnterKeyMapMode() {
-  const SkinManager& keyMapSkin = WexaConfig::Instance().keyMapSkin;
-  if (!keyMapSkin.IsKeyMapApplied()) return false;
+  if (!WexaConfig::Instance().keyMapSkin.IsKeyMapApplied()) return false;
   SkinManager& skin = GetSkinManager();
   skin.ResetInitilization();
-  const SkinManager* parent = WexaUtils::IsSystemHighContrastMode() ? nullptr : &keyMapSkin;
-  if (!skin.InitSkinManager(parent, SkinMode::XML)) {
+  if (!skin.InitSkinManager(KeyMapParent(), SkinMode::XML)) {
     skin.ResetInitilization();
     return false;
   }

@@ -12,6 +12,7 @@
 #include "MFC/ButtonImplMFC.h"
 #include "MFC/DialogImplMFC.h"
 #include "MFC/PagesImpl.h"
+#include "MFC/ToolTips.h"
 #include "Utf16.h"
 #include "WexaConfig.h"
 #include "WexaException.h"
@@ -176,6 +177,8 @@ void Dialog::impl::SettleFrame() {
 
 bool Dialog::impl::OnPreTranslate(MSG& message, BOOL& result) {
   if (!Owner()) return false;
+  if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN)
+    TellTips(*Owner(), message.hwnd, message.message);
   if (const auto& procedure = Owner()->PreTranslateMessage()) {
     int answer = procedure(&message);
     if (answer == 0 || answer == 1) {

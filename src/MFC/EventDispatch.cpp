@@ -5,8 +5,10 @@
 #include "BaseGUIObject.h"
 #include "Event.h"
 #include "KeyMap.h"
+#include "MFC/BackgroundMove.h"
 #include "MFC/BaseImplMFC.h"
 #include "MFC/DeferredCalls.h"
+#include "MFC/ToolTips.h"
 #include "WexaUtils.h"
 #include "layout/Layout.h"
 #include "platform/Theme.h"
@@ -42,6 +44,20 @@ bool IsReportedKey(int virtualKey) {
   }
 }
 
+// What makes tips come and go.
+bool ConcernsTips(UINT message, WPARAM wParam) {
+  switch (message) {
+    case WM_MOUSEMOVE:
+    case WM_MOUSELEAVE:
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MOUSEWHEEL:
+    case WM_MOVING: return true;
+    case WM_ACTIVATE: return LOWORD(wParam) == WA_INACTIVE;
+    default: return false;
+  }
+}
+
 }  // namespace
 
 // One native message on its way to one widget. The widget may die in any handler; its window then
@@ -52,6 +68,7 @@ class EventDispatch {
       : window_(window), widget_(widget), wParam_(wParam), lParam_(lParam) {}
 
   LRESULT Handle(UINT message) {
+    if (ConcernsTips(message, wParam_)) TellTips(widget_, window_, message);
     switch (message) {
       case WM_SIZE: return Finish(message, OnSize());
       case WM_ACTIVATE: return Finish(message, OnActivate());
@@ -60,7 +77,7 @@ class EventDispatch {
       case WM_SHOWWINDOW: return Finish(message, OfferVisibility(wParam_ != 0));
       case WM_WINDOWPOSCHANGED: return Finish(message, OnPositionChanged());
       case WM_CONTEXTMENU: return Finish(message, Offer(ContextMenuEvent()));
-      case WM_GETDLGCODE: return Finish(message, OnDialogCode());
+      case WM_GETDLGCODE: return OnDialogCode();
       case WM_KEYDOWN: return Finish(message, OnKey(Event::KeyPress));
       case WM_KEYUP: return Finish(message, OnKey(Event::KeyRelease));
       case WM_SYSKEYDOWN: return Finish(message, OnSystemKey(Event::KeyPress));
@@ -68,9 +85,9 @@ class EventDispatch {
       case WM_CHAR: return Finish(message, OnChar());
       case WM_TIMER: return Finish(message, Offer(TimerEvent(static_cast<int>(wParam_))));
       case WM_MOUSEMOVE: return Finish(message, OnMouseMove());
-      case WM_LBUTTONDOWN:
+      case WM_LBUTTONDOWN: return Finish(message, OnLeftButton(message, Event::MousePress));
+      case WM_LBUTTONUP: return Finish(message, OnLeftButton(message, Event::MouseRelease));
       case WM_RBUTTONDOWN: return Finish(message, OnMouse(Event::MousePress));
-      case WM_LBUTTONUP:
       case WM_RBUTTONUP: return Finish(message, OnMouse(Event::MouseRelease));
       case WM_LBUTTONDBLCLK: return Finish(message, OnMouse(Event::MouseDoubleClick));
       case WM_MOUSEHOVER: return Finish(message, OnMouse(Event::HoverEnter));
@@ -79,6 +96,7 @@ class EventDispatch {
       case WM_MOVING: return Finish(message, Offer(MovingEvent()));
       case WM_DROPFILES: return Finish(message, OnDropFiles());
       case WM_DPICHANGED: return Finish(message, Offer(DpiChangeEvent(HIWORD(wParam_))));
+      case WM_SYSCOLORCHANGE: return Finish(message, OnSystemColors());
       case WM_PAINT: return OnPaint();
       case kUpdateLayoutsMessage: return OnUpdateLayouts();
       case kDeferredCallMessage: RunDeferredCall(wParam_); return Default(message);
@@ -159,10 +177,17 @@ class EventDispatch {
     return handled;
   }
 
-  bool OnDialogCode() {
+  // A Tab that the host handles stays with the widget: the focus does not move on.
+  LRESULT OnDialogCode() {
+    if (!AsksForTab()) return Default(WM_GETDLGCODE);
+    KeyEvent tab(Event::KeyPress, Event::Key::Tab, CurrentModifiers(), L"", VK_TAB);
+    if (Offer(tab) || !IsAlive()) return DLGC_WANTTAB;
+    return Default(WM_GETDLGCODE);
+  }
+
+  bool AsksForTab() const {
     const auto* message = reinterpret_cast<const MSG*>(lParam_);
-    if (!message || message->message != WM_KEYDOWN || message->wParam != VK_TAB) return false;
-    return Offer(KeyEvent(Event::KeyPress, Event::Key::Tab, CurrentModifiers(), L"", VK_TAB));
+    return message && message->message == WM_KEYDOWN && message->wParam == VK_TAB;
   }
 
   bool OnKey(Event::Type type) {
@@ -197,7 +222,19 @@ class EventDispatch {
 
   bool OnMouseMove() {
     if (!Impl().IsMouseTracked()) Impl().SetTrackMouseEvent();
-    return OnMouse(Event::MouseMove);
+    return OnLeftButton(WM_MOUSEMOVE, Event::MouseMove);
+  }
+
+  // What the host does not take may move the dialog.
+  bool OnLeftButton(UINT message, Event::Type type) {
+    if (OnMouse(type)) return true;
+    if (IsAlive()) MoveByBackground(widget_, window_, message);
+    return false;
+  }
+
+  bool OnSystemColors() {
+    Impl().OnSystemColorsChanged();
+    return Offer(ApplicationPaletteChangeEvent());
   }
 
   bool OnMouseLeave() {
@@ -276,11 +313,13 @@ class EventDispatch {
 
   LRESULT OnDestroy() {
     Impl().KeepState();
+    Impl().HideBalloonTip();
     widget_.Destroyed(&widget_);
     return Default(WM_DESTROY);
   }
 
   LRESULT OnFinalDestroy() {
+    RemoveReceiver(&widget_, window_);
     LRESULT result = Default(WM_NCDESTROY);
     RemoveWindowSubclass(window_, WexaWindowProcedure, kWindowProcedureId);
     return result;

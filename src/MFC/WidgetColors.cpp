@@ -1,12 +1,54 @@
 #include "MFC/WidgetColors.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+
 #include "SkinManager.h"
 #include "platform/Theme.h"
 
 namespace Wexa {
 
+namespace {
+
+std::array<double, 256> LinearLevels() {
+  std::array<double, 256> levels{};
+  for (std::size_t i = 0; i < levels.size(); ++i) {
+    const double c = static_cast<double>(i) / 255.0;
+    levels[i] = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+  }
+  return levels;
+}
+
+double Linear(BYTE channel) {
+  static const auto levels = LinearLevels();
+  return levels[channel];
+}
+
+double Luminance(COLORREF color) {
+  return 0.2126 * Linear(GetRValue(color)) + 0.7152 * Linear(GetGValue(color)) +
+         0.0722 * Linear(GetBValue(color));
+}
+
+}  // namespace
+
 COLORREF SlotColor(const SkinManager& skin, int slot) {
   return static_cast<COLORREF>(static_cast<unsigned long>(skin.Slot(slot)));
+}
+
+double Contrast(COLORREF a, COLORREF b) {
+  constexpr double kFlare = 0.05;
+  const double first = Luminance(a) + kFlare;
+  const double second = Luminance(b) + kFlare;
+  return std::max(first, second) / std::min(first, second);
+}
+
+COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORREF face) {
+  constexpr double kReadable = 4.5;
+  const COLORREF color = SlotColor(skin, slot);
+  if (skin.Slot(slot).IsChanged() || Contrast(color, face) >= kReadable) return color;
+  const COLORREF other = SlotColor(skin, otherwise);
+  return Contrast(other, face) > Contrast(color, face) ? other : color;
 }
 
 COLORREF DialogBackground(const SkinManager& skin) {
@@ -31,9 +73,11 @@ void FillCommonPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.pressedFace = palette.face;
   palette.pressedText = palette.text;
   palette.accent = SlotColor(skin, Slot::kButtonAccent);
-  palette.accentText = SlotColor(skin, Slot::kSelectionText);
+  palette.accentText =
+      ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace, palette.accent);
   palette.selection = SlotColor(skin, Slot::kSelection);
-  palette.selectionText = SlotColor(skin, Slot::kSelectionText);
+  palette.selectionText =
+      ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace, palette.selection);
   palette.placeholder = SlotColor(skin, Slot::kPlaceholder);
 }
 
@@ -44,7 +88,8 @@ void FillButtonPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.pressedFace = SlotColor(skin, Slot::kButtonPressedFace);
   palette.disabledFace = SlotColor(skin, Slot::kButtonDisabledFace);
   palette.text = SlotColor(skin, Slot::kButtonText);
-  palette.pressedText = SlotColor(skin, Slot::kButtonPressedText);
+  palette.pressedText = ReadableColor(skin, Slot::kButtonPressedText, Slot::kButtonText,
+                                      palette.pressedFace);
   palette.disabledText = SlotColor(skin, Slot::kButtonDisabledText);
   palette.border = SlotColor(skin, Slot::kButtonBorder);
   palette.hoverBorder = SlotColor(skin, Slot::kButtonHoverBorder);

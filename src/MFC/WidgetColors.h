@@ -18,6 +18,7 @@ inline constexpr int kInputBorder = 4;
 inline constexpr int kInputDisabledBorder = 5;
 inline constexpr int kInputFocusBorder = 6;
 inline constexpr int kPlaceholder = 7;
+inline constexpr int kLabelDisabledText = 13;
 inline constexpr int kButtonText = 20;
 inline constexpr int kButtonDisabledText = 21;
 inline constexpr int kButtonPressedText = 22;
@@ -33,20 +34,33 @@ inline constexpr int kCheckText = 33;
 inline constexpr int kCheckDisabledText = 34;
 inline constexpr int kCheckFace = 36;
 inline constexpr int kCheckDisabledBorder = 42;
+inline constexpr int kScrollPressedThumb = 44;
+inline constexpr int kScrollFace = 45;
+inline constexpr int kScrollArrow = 46;
+inline constexpr int kScrollThumb = 47;
+inline constexpr int kScrollHoverThumb = 48;
 inline constexpr int kDialogFace = 74;
 inline constexpr int kDialogText = 93;
-inline constexpr int kLabelDisabledText = 84;
 inline constexpr int kSeparator = 87;
 inline constexpr int kGroupBorder = 91;
 inline constexpr int kContentFace = 94;
 inline constexpr int kSelection = 95;
 inline constexpr int kSelectionText = 96;
 inline constexpr int kLinkText = 100;
+inline constexpr int kLinkPressed = 101;
 inline constexpr int kLinkHover = 102;
 inline constexpr int kLinkDisabled = 103;
+inline constexpr int kTipFace = 118;
+inline constexpr int kTipText = 119;
+inline constexpr int kTipBorder = 91;
 }  // namespace Slot
 
 COLORREF SlotColor(const SkinManager& skin, int slot);
+// How much two colours differ in brightness, from 1 to 21: text needs 4.5, in high contrast 7.
+double Contrast(COLORREF a, COLORREF b);
+// The slot's colour for a text on `face`. Where the palette makes that hard to read and nobody set
+// the slot, the other slot's colour if that is easier.
+COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORREF face);
 COLORREF DialogBackground(const SkinManager& skin);
 // Between 0x00RRGGBB and 0x00BBGGRR.
 COLORREF SwapRedAndBlue(int color);

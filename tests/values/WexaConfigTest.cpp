@@ -36,6 +36,14 @@ TEST(WexaConfig, FindsTheDirectoriesOfAComponent) {
   SetWorkingDirPath(before);
 }
 
+TEST(WexaConfig, FullPathsAreDirectoriesByThemselves) {
+  EXPECT_EQ(GetUiDirPath(L"D:\\forms\\"), L"D:\\forms\\");
+  EXPECT_EQ(GetUiDirPath(L"D:/forms/"), L"D:/forms/");
+  EXPECT_EQ(GetImageDirPath(L"/usr/share/pictures/"), L"/usr/share/pictures/");
+  EXPECT_EQ(GetImageDirPath(L"\\\\server\\share\\"), L"\\\\server\\share\\");
+  EXPECT_EQ(GetUiDirPath(L"d:"), GetWorkingDirPath() + L"wexaresources\\d:ui\\");
+}
+
 TEST(WexaConfig, SharesOneFont) {
   EXPECT_EQ(GetFontInfo(), GetFontInfo());
   EXPECT_EQ(GetFontInfo()->faceName, L"Tahoma");

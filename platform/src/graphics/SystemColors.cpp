@@ -44,7 +44,7 @@ constexpr COLORREF Gray(int level) {
 }
 constexpr COLORREF kBlack = Gray(0);
 constexpr COLORREF kWhite = Gray(255);
-constexpr COLORREF kBlue = RGB(0, 120, 215);
+constexpr COLORREF kBlue = RGB(0, 119, 214);  // white is readable on it
 constexpr COLORREF kCyan = RGB(26, 235, 255);
 constexpr COLORREF kGreen = RGB(63, 242, 63);
 

@@ -39,6 +39,29 @@ class StubImpl : public BaseImpl {
   void SetTrackMouseEvent() override {}
   bool IsMouseTracked() override { return false; }
   void SetMouseTracked(bool) override {}
+  bool ShowBalloonTipEx(const std::wstring&, BalloonTipIconType, bool, bool) override {
+    return false;
+  }
+  bool ShowBalloonTipEx(const std::wstring&, const std::wstring&, BalloonTipIconType, bool,
+                        bool) override {
+    return false;
+  }
+  bool ShowBalloonTipEx(const std::wstring&, const std::wstring&, bool, bool) override {
+    return false;
+  }
+  bool ShowBalloonTipEx(const std::wstring&, const std::wstring&, const std::wstring&, bool,
+                        bool) override {
+    return false;
+  }
+  bool ShowBalloonTipEx(const std::wstring&, const unsigned char*, int, bool, bool) override {
+    return false;
+  }
+  bool ShowBalloonTipEx(const std::wstring&, const std::wstring&, const unsigned char*, int, bool,
+                        bool) override {
+    return false;
+  }
+  bool HideBalloonTip() override { return false; }
+  bool IsBalloonTipDisplayed() override { return false; }
   void OnSkinColorsChanged() override {}
   CWnd* GetCWnd() override { return nullptr; }
   HWND GetHandle() override { return nullptr; }

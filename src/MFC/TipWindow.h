@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "BalloonTipIconType.h"
+#include "SkinManager.h"
+#include "platform/Classes.h"
+
+class Painter;
+
+namespace Wexa {
+
+// What a tip says. The picture stands in the place of the icon.
+struct TipContent {
+  std::wstring title;
+  std::wstring text;
+  BalloonTipIconType icon = BalloonTipIconType::None;
+  std::shared_ptr<HBITMAP__> picture{};
+};
+
+struct TipColors {
+  COLORREF face;
+  COLORREF text;
+  COLORREF border;
+  COLORREF accent;
+};
+
+TipColors TipColorsOf(const SkinManager& skin);
+
+// A window over all others that never gets the activation, with an icon, a bold title and a text.
+class TipWindow : public CWnd {
+ public:
+  bool IsShown() const;
+  void Hide();
+
+ protected:
+  // Makes the hidden window, which lives no longer than the owner's top-level window. False when it
+  // cannot be made.
+  bool Prepare(HWND owner);
+  void SetContent(const TipContent& content, const TipColors& colors, HFONT font);
+  // With the padding around the content.
+  SIZE ContentSize() const { return size_; }
+  // Moved into the work area and shown there.
+  void ShowAt(CRect place);
+  const TipColors& Colors() const { return colors_; }
+  virtual void Paint(Painter& painter, const CRect& client);
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  void OnPaint();
+  void Measure();
+  void PaintIcon(Painter& painter, const CRect& place) const;
+  SIZE TextExtent(const std::wstring& text, HFONT font) const;
+
+  TipContent content_;
+  TipColors colors_{};
+  HFONT font_ = nullptr;
+  std::unique_ptr<CFont> titleFont_;
+  SIZE iconSize_{};
+  SIZE titleSize_{};
+  SIZE size_{};
+};
+
+// What the desktop leaves to windows.
+CRect ScreenArea();
+
+}  // namespace Wexa

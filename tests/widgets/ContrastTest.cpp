@@ -1,0 +1,106 @@
+// Texts have to be read on what they are drawn on, in every palette.
+
+#include "MFC/WidgetColors.h"
+#include "SkinManager.h"
+#include "platform/SystemColors.h"
+#include "platform/Theme.h"
+
+namespace Wexa {
+namespace {
+
+struct Pair {
+  std::string what;
+  COLORREF text;
+  COLORREF face;
+};
+
+using Fill = void (*)(ControlPalette&, const SkinManager&);
+
+void AddPairs(std::vector<Pair>& pairs, const std::string& family, Fill fill,
+              const SkinManager& skin) {
+  ControlPalette p{};
+  fill(p, skin);
+  pairs.push_back({family + " text on face", p.text, p.face});
+  pairs.push_back({family + " text on hovered face", p.text, p.hoverFace});
+  pairs.push_back({family + " text on pressed face", p.pressedText, p.pressedFace});
+  pairs.push_back({family + " selected text", p.selectionText, p.selection});
+  pairs.push_back({family + " placeholder", p.placeholder, p.face});
+}
+
+std::vector<Pair> EnabledPairs(const SkinManager& skin) {
+  std::vector<Pair> pairs;
+  AddPairs(pairs, "dialog", FillCommonPalette, skin);
+  AddPairs(pairs, "button", FillButtonPalette, skin);
+  AddPairs(pairs, "check", FillCheckPalette, skin);
+  AddPairs(pairs, "input", FillInputPalette, skin);
+  pairs.push_back({"tip", SlotColor(skin, Slot::kTipText), SlotColor(skin, Slot::kTipFace)});
+  pairs.push_back(
+      {"check text on dialog", SlotColor(skin, Slot::kCheckText), DialogBackground(skin)});
+  return pairs;
+}
+
+std::vector<Pair> DisabledPairs(const SkinManager& skin) {
+  std::vector<Pair> pairs;
+  for (Fill fill : {FillCommonPalette, FillButtonPalette, FillCheckPalette, FillInputPalette}) {
+    ControlPalette p{};
+    fill(p, skin);
+    pairs.push_back({"disabled text", p.disabledText, p.disabledFace});
+    pairs.push_back({"disabled text on dialog", p.disabledText, p.background});
+  }
+  return pairs;
+}
+
+class ContrastTest : public testing::TestWithParam<SkinMode> {
+ protected:
+  ContrastTest() {
+    if (IsHighContrast()) SetSystemScheme(SystemScheme::HighContrast);
+  }
+  ~ContrastTest() override { SetSystemScheme(SystemScheme::Light); }
+  static bool IsHighContrast() { return GetParam() == SkinMode::HCMDark; }
+};
+
+TEST_P(ContrastTest, EnabledTextsAreReadable) {
+  const SkinManager skin(GetParam());
+  const double least = IsHighContrast() ? 7.0 : 4.5;
+  for (const Pair& pair : EnabledPairs(skin))
+    EXPECT_GE(Contrast(pair.text, pair.face), least) << pair.what;
+}
+
+TEST_P(ContrastTest, DisabledTextsCanBeMadeOut) {
+  const SkinManager skin(GetParam());
+  for (const Pair& pair : DisabledPairs(skin))
+    EXPECT_GE(Contrast(pair.text, pair.face), IsHighContrast() ? 7.0 : 3.0) << pair.what;
+}
+
+TEST_P(ContrastTest, MarksStandOutFromTheAccent) {
+  const SkinManager skin(GetParam());
+  ControlPalette p{};
+  FillCheckPalette(p, skin);
+  EXPECT_GE(Contrast(p.accentText, p.accent), 3.0);
+}
+
+std::string NameOf(const testing::TestParamInfo<SkinMode>& mode) {
+  if (mode.param == SkinMode::Default) return "Light";
+  return mode.param == SkinMode::Dark ? "Dark" : "HighContrast";
+}
+
+INSTANTIATE_TEST_SUITE_P(Palettes, ContrastTest,
+                         testing::Values(SkinMode::Default, SkinMode::Dark, SkinMode::HCMDark),
+                         NameOf);
+
+TEST(ContrastOfColors, IsKnownForBlackAndWhite) {
+  EXPECT_NEAR(Contrast(RGB(0, 0, 0), RGB(255, 255, 255)), 21.0, 0.01);
+  EXPECT_NEAR(Contrast(RGB(119, 119, 119), RGB(255, 255, 255)), 4.48, 0.01);
+  EXPECT_EQ(Contrast(RGB(1, 2, 3), RGB(1, 2, 3)), 1.0);
+}
+
+TEST(ReadableColors, ASlotThatWasSetIsTakenAsItIs) {
+  SkinManager skin(SkinMode::Dark);
+  skin.Slot(Slot::kSelectionText) = static_cast<unsigned long>(SlotColor(skin, Slot::kSelection));
+  ControlPalette palette{};
+  FillInputPalette(palette, skin);
+  EXPECT_EQ(palette.selectionText, palette.selection);
+}
+
+}  // namespace
+}  // namespace Wexa

@@ -1,0 +1,195 @@
+#include "Button.h"
+#include "Configuration.h"
+#include "Event.h"
+#include "Label.h"
+#include "MFC/BaseImplMFC.h"
+#include "MFC/WidgetColors.h"
+#include "WexaConfig.h"
+#include "platform/SystemColors.h"
+#include "support/FormTest.h"
+
+namespace Wexa {
+namespace {
+
+std::string EditXml(const std::string& name) {
+  return ItemXml(WidgetXml("QLineEdit", name));
+}
+
+// 0x00RRGGBB, as pixels are.
+std::uint32_t Pixel(COLORREF color) {
+  return SwapRedAndBlue(static_cast<int>(color));
+}
+
+class SkinInUseTest : public FormTest {
+ protected:
+  ~SkinInUseTest() override {
+    SetSystemScheme(SystemScheme::Light);
+    WexaConfig::Instance().FollowSystemColors();
+    SetGlobalSkinMode(SkinMode::Default);
+  }
+
+  BaseGUIObject& Widget(const wchar_t* name) { return Find<BaseGUIObject>(name); }
+  SkinManagerColor& SlotOf(const wchar_t* name, int slot) {
+    return Widget(name).GetSkinManager().Slot(slot);
+  }
+  std::uint32_t FaceOf(const wchar_t* name) {
+    return Robot::PixelAt(Widget(name).GetPlatformHandle(), 10, 3);
+  }
+  std::uint32_t DialogFace() { return Robot::PixelAt(dialog_->GetHandle(), 2, 2); }
+
+  // Counts the paints of the widget.
+  std::shared_ptr<int> CountPaints(BaseGUIObject& widget) {
+    auto paints = std::make_shared<int>(0);
+    widget.SetEventProcedure([paints](BaseGUIObject*, Event* event) {
+      if (event->GetType() == Event::Paint) ++*paints;
+      return false;
+    });
+    return paints;
+  }
+};
+
+TEST_F(SkinInUseTest, AChangedSlotIsPaintedOnceAndByItsWidgetOnly) {
+  Open(ColumnForm(EditXml("a") + EditXml("b")));
+  auto a = CountPaints(Widget(L"a"));
+  auto b = CountPaints(Widget(L"b"));
+  Robot::PumpAll();
+  EXPECT_EQ(*a, 0);
+  SlotOf(L"a", Slot::kInputFace) = 0x102030UL;
+  SlotOf(L"a", Slot::kInputBorder) = 0x405060UL;
+  Robot::PumpAll();
+  EXPECT_EQ(*a, 1);
+  EXPECT_EQ(*b, 0);
+  EXPECT_EQ(FaceOf(L"a"), Pixel(0x102030));
+  EXPECT_NE(FaceOf(L"b"), Pixel(0x102030));
+}
+
+TEST_F(SkinInUseTest, ASlotThatTheWidgetDoesNotPaintWithChangesNoPixel) {
+  Open(ColumnForm(EditXml("a")));
+  const auto before = FaceOf(L"a");
+  SlotOf(L"a", Slot::kButtonFace) = 0x102030UL;
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), before);
+}
+
+TEST_F(SkinInUseTest, ASlotOfTheDialogReachesChildrenInContainers) {
+  Open(ColumnForm(ItemXml(WidgetXml("QGroupBox", "group",
+                                    "<layout class=\"QVBoxLayout\" name=\"l\">" + EditXml("deep") +
+                                        "</layout>")) +
+                  EditXml("flat")));
+  auto paints = CountPaints(Widget(L"deep"));
+  dialog_->GetSkinManager().Slot(Slot::kInputFace) = 0x102030UL;
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"deep"), Pixel(0x102030));
+  EXPECT_EQ(FaceOf(L"flat"), Pixel(0x102030));
+  EXPECT_EQ(*paints, 1);
+}
+
+TEST_F(SkinInUseTest, EveryChangeAfterAPaintIsSeen) {
+  Open(ColumnForm(EditXml("a")));
+  for (unsigned long color : {0x102030UL, 0x405060UL, 0x708090UL}) {
+    dialog_->GetSkinManager().Slot(Slot::kInputFace) = color;
+    Widget(L"a").Repaint();
+    Robot::PumpAll();
+    EXPECT_EQ(FaceOf(L"a"), Pixel(static_cast<COLORREF>(color)));
+  }
+}
+
+TEST_F(SkinInUseTest, SwitchingToDarkCostsOnePaintOfEachWidget) {
+  Open(ColumnForm(EditXml("a") + EditXml("b")));
+  auto a = CountPaints(Widget(L"a"));
+  auto dialog = CountPaints(*dialog_);
+  EXPECT_TRUE(dialog_->SetSkinMode(SkinMode::Dark, true));
+  Robot::PumpAll();
+  EXPECT_EQ(*a, 1);
+  EXPECT_EQ(*dialog, 1);
+  EXPECT_EQ(FaceOf(L"a"), 0x333333u);
+  EXPECT_EQ(DialogFace(), 0x4A4A4Au);
+}
+
+TEST_F(SkinInUseTest, HighContrastComesAndGoesWhileADialogIsOpen) {
+  SetGlobalSkinMode(SkinMode::Dark);
+  Open(ColumnForm(EditXml("a")));
+  auto paints = CountPaints(Widget(L"a"));
+  int told = 0;
+  dialog_->SetEventProcedure([&](BaseGUIObject*, Event* event) {
+    if (event->GetType() == Event::ApplicationPaletteChange) ++told;
+    return false;
+  });
+  SetSystemScheme(SystemScheme::HighContrast);
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), Pixel(GetSysColor(COLOR_BTNFACE)));
+  EXPECT_EQ(DialogFace(), Pixel(GetSysColor(COLOR_BTNFACE)));
+  EXPECT_EQ(*paints, 1);
+  EXPECT_EQ(told, 1);
+  SetSystemScheme(SystemScheme::Light);
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), 0x333333u) << "the dark skin is back";
+}
+
+TEST_F(SkinInUseTest, ADialogMadeAfterTheChangeHasTheNewColors) {
+  SetSystemScheme(SystemScheme::HighContrast);
+  Open(ColumnForm(EditXml("a")));
+  EXPECT_EQ(FaceOf(L"a"), Pixel(GetSysColor(COLOR_BTNFACE)));
+}
+
+TEST_F(SkinInUseTest, ExplicitColorsOutliveAChangeOfTheSystem) {
+  Open(ColumnForm(EditXml("a")));
+  SlotOf(L"a", Slot::kInputFace) = 0x102030UL;
+  SetSystemScheme(SystemScheme::HighContrast);
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), Pixel(0x102030));
+}
+
+// -- Key maps
+
+class KeyMapTest : public SkinInUseTest {
+ protected:
+  KeyMapTest() { WexaConfig::Instance().keyMapSkin = SkinManager(SkinMode::Default); }
+  ~KeyMapTest() override { WexaConfig::Instance().keyMapSkin = SkinManager(SkinMode::Default); }
+};
+
+TEST_F(KeyMapTest, WithoutAKeyMapTheModeIsRefusedAndNothingChanges) {
+  Open(ColumnForm(EditXml("a")));
+  const auto before = FaceOf(L"a");
+  EXPECT_FALSE(dialog_->SetSkinMode(SkinMode::XML, true));
+  Robot::PumpAll();
+  EXPECT_EQ(dialog_->GetSkinManager().GetSkinMode(), SkinMode::Default);
+  EXPECT_EQ(FaceOf(L"a"), before);
+}
+
+TEST_F(KeyMapTest, BothMapsColorTheWidgetsOfADialog) {
+  for (SkinMap map : {SkinMap::Inputs, SkinMap::Buttons}) {
+    Open(ColumnForm(EditXml("a")));
+    const unsigned long face = map == SkinMap::Inputs ? 0x102030 : 0x405060;
+    InitSkinColorByMap(map, {{L"input_bg", face}, {L"Active_BG", face + 1}});
+    ASSERT_TRUE(dialog_->SetSkinMode(SkinMode::XML, true));
+    Robot::PumpAll();
+    EXPECT_EQ(FaceOf(L"a"), Pixel(static_cast<COLORREF>(face)));
+    EXPECT_EQ(DialogFace(), Pixel(static_cast<COLORREF>(face + 1)));
+  }
+}
+
+TEST_F(KeyMapTest, HighContrastOverridesAKeyMapAndGivesItBack) {
+  InitSkinColorByMap(SkinMap::Inputs, {{L"Input_BG", 0x102030UL}});
+  Open(ColumnForm(EditXml("a")));
+  ASSERT_TRUE(dialog_->SetSkinMode(SkinMode::XML, true));
+  SetSystemScheme(SystemScheme::HighContrast);
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), Pixel(GetSysColor(COLOR_BTNFACE)));
+  SetSystemScheme(SystemScheme::Light);
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), Pixel(0x102030));
+  EXPECT_EQ(dialog_->GetSkinManager().GetSkinMode(), SkinMode::XML);
+}
+
+TEST_F(KeyMapTest, AModeBehindAKeyMapDetachesFromIt) {
+  InitSkinColorByMap(SkinMap::Inputs, {{L"Input_BG", 0x102030UL}});
+  Open(ColumnForm(EditXml("a")));
+  ASSERT_TRUE(dialog_->SetSkinMode(SkinMode::XML, true));
+  ASSERT_TRUE(dialog_->SetSkinMode(SkinMode::Dark, true));
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), 0x333333u);
+}
+
+}  // namespace
+}  // namespace Wexa
