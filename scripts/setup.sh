@@ -7,6 +7,8 @@ packages=(
   g++ cmake ninja-build pkg-config ccache mold
   # drawing, text, regions
   libcairo2-dev libpango1.0-dev libfontconfig-dev libpixman-1-dev fonts-dejavu-core
+  # scripts that DejaVu lacks: Devanagari, Chinese, Japanese and Korean, emoji
+  fonts-lohit-deva fonts-wqy-microhei fonts-noto-color-emoji
   # pictures
   libgdk-pixbuf-2.0-dev
   # the X display
@@ -15,7 +17,7 @@ packages=(
   # reading forms; the tools' options and JSON
   librapidxml-dev libutfcpp-dev libcli11-dev nlohmann-json3-dev
   # tests and benchmarks
-  libgtest-dev libgmock-dev libbenchmark-dev xvfb libxcb-xtest0-dev
+  libgtest-dev libgmock-dev libbenchmark-dev libssl-dev xvfb libxcb-xtest0-dev
 )
 
 if ! command -v dpkg-query >/dev/null; then

@@ -8,9 +8,12 @@
 struct EncrypterAccess {
   using Digest = std::array<unsigned char, 16>;
 
-  static Digest DigestOf(std::vector<unsigned char> data) {
+  static Digest DigestOf(const std::vector<unsigned char>& data) {
+    Encrypter::MD5Context context;
+    Encrypter::MD5Start(&context);
+    Encrypter::MD5Update(&context, data.data(), static_cast<unsigned int>(data.size()));
     Digest digest{};
-    Encrypter::MD5Generate(data.data(), static_cast<unsigned int>(data.size()), digest.data());
+    Encrypter::MD5Finish(&context, digest.data());
     return digest;
   }
   // What ReadAndDecryptFile turns back into `text`.

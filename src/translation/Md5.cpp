@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <utility>
 
 #include "Encrypter.h"
 
@@ -36,13 +37,31 @@ constexpr Round kRounds[4] = {{{7, 12, 17, 22}, 1, 0},
                               {{4, 11, 16, 23}, 3, 5},
                               {{6, 10, 15, 21}, 7, 0}};
 
-constexpr Word Mix(unsigned round, Word b, Word c, Word d) {
-  switch (round) {
-    case 0: return (b & c) | (~b & d);
-    case 1: return (d & b) | (~d & c);
-    case 2: return b ^ c ^ d;
-    default: return c ^ (b | ~d);
-  }
+// A step adds the parts of its mixed word one by one: what the last step changed, b, comes in as
+// late as can be, so that the processor need not wait for it.
+template <unsigned kRound>
+constexpr Word AddMixed(Word sum, Word b, Word c, Word d) {
+  if constexpr (kRound == 0) return sum + (d ^ (b & (c ^ d)));
+  if constexpr (kRound == 1) return sum + (~d & c) + (d & b);
+  if constexpr (kRound == 2) return sum + (b ^ (c ^ d));
+  return sum + (c ^ (b | ~d));
+}
+
+// The four words change their places from step to step.
+template <unsigned kStep>
+void DoStep(Word (&state)[4], const Word (&words)[16]) {
+  constexpr Round round = kRounds[kStep / 16];
+  Word& a = state[(64 - kStep) % 4];
+  const Word b = state[(65 - kStep) % 4];
+  const Word sum = a + kSines[kStep] + words[(round.factor * kStep + round.offset) % 16];
+  const Word mixed = AddMixed<kStep / 16>(sum, b, state[(66 - kStep) % 4], state[(67 - kStep) % 4]);
+  a = b + std::rotl(mixed, round.shifts[kStep % 4]);
+}
+
+template <unsigned... kSteps>
+void DoSteps(Word (&state)[4], const Word (&words)[16],
+             std::integer_sequence<unsigned, kSteps...>) {
+  (DoStep<kSteps>(state, words), ...);
 }
 
 Word ReadWord(const unsigned char* bytes) {
@@ -67,29 +86,25 @@ void Encrypter::MD5Update(MD5Context* context, const unsigned char* input, unsig
   if (context->total[0] < length) ++context->total[1];
   while (length > 0) {
     const unsigned part = std::min(length, kBlockLength - filled);
-    std::copy_n(input, part, context->buffer + filled);
-    filled = (filled + part) % kBlockLength;
+    if (part == kBlockLength) {
+      MD5Process(context, input);
+    } else {
+      std::copy_n(input, part, context->buffer + filled);
+      filled = (filled + part) % kBlockLength;
+      if (filled == 0) MD5Process(context, context->buffer);
+    }
     input += part;
     length -= part;
-    if (filled == 0) MD5Process(context, context->buffer);
   }
 }
 
 void Encrypter::MD5Process(MD5Context* context, const unsigned char block[64]) {
   Word words[16];
   for (int i = 0; i < 16; ++i) words[i] = ReadWord(block + 4 * i);
-  auto [a, b, c, d] = context->state;
-  for (unsigned step = 0; step < 64; ++step) {
-    const Round& round = kRounds[step / 16];
-    const Word word = words[(round.factor * step + round.offset) % 16];
-    const Word sum = a + Mix(step / 16, b, c, d) + kSines[step] + word;
-    a = d;
-    d = c;
-    c = b;
-    b += std::rotl(sum, round.shifts[step % 4]);
-  }
-  const Word result[4] = {a, b, c, d};
-  for (int i = 0; i < 4; ++i) context->state[i] += result[i];
+  Word state[4];
+  std::copy_n(context->state, 4, state);
+  DoSteps(state, words, std::make_integer_sequence<unsigned, 64>());
+  for (int i = 0; i < 4; ++i) context->state[i] += state[i];
 }
 
 void Encrypter::MD5Finish(MD5Context* context, unsigned char digest[16]) {

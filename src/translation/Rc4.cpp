@@ -8,20 +8,17 @@ namespace Wexa {
 
 namespace {
 
-// Indexes are bytes: they wrap around at 256.
+// Indexes are bytes: they wrap around at 256. The entries are bytes too, kept in words, which
+// processors store and load again faster.
 using Byte = unsigned char;
-using Permutation = std::array<Byte, 256>;
-
-constexpr Byte Sum(Byte a, Byte b) {
-  return static_cast<Byte>(a + b);
-}
+using Permutation = std::array<unsigned, 256>;
 
 Permutation ScheduleKey(std::string_view key) {
   Permutation s;
-  std::iota(s.begin(), s.end(), Byte{0});
+  std::iota(s.begin(), s.end(), 0u);
   Byte j = 0;
   for (std::size_t i = 0; i < s.size(); ++i) {
-    j = Sum(j, Sum(s[i], static_cast<Byte>(key[i % key.size()])));
+    j = static_cast<Byte>(j + s[i] + static_cast<Byte>(key[i % key.size()]));
     std::swap(s[i], s[j]);
   }
   return s;
@@ -34,10 +31,11 @@ void Rc4(std::vector<unsigned char>& data, std::string_view key) {
   Byte i = 0;
   Byte j = 0;
   for (Byte& byte : data) {
-    i = Sum(i, 1);
-    j = Sum(j, s[i]);
-    std::swap(s[i], s[j]);
-    byte ^= s[Sum(s[i], s[j])];
+    const unsigned a = s[++i];
+    j = static_cast<Byte>(j + a);
+    const unsigned b = std::exchange(s[j], a);
+    s[i] = b;
+    byte = static_cast<Byte>(byte ^ s[static_cast<Byte>(a + b)]);
   }
 }
 
