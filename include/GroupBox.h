@@ -15,12 +15,23 @@ class WEXA_API GroupBox : public BaseGUIObject {
   GroupBox();
   ~GroupBox() override;
 
+  // Fired with the new state when the user, or the host, switches a checkable box.
+  CallbackList<bool> Toggled;
+
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
   void SetTitle(const std::wstring& title);
   std::wstring GetTitle();
+
+  // A checkable box has a check box for its title; unchecked, what is in it is disabled. What the
+  // host disabled itself stays disabled when the box is checked again.
+  void SetCheckable(bool checkable);
+  bool IsCheckable() const;
+  // Counts for checkable boxes. Checked at first.
+  void SetChecked(bool checked);
+  bool IsChecked() const;
 
  private:
   std::shared_ptr<impl> impl_;

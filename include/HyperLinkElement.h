@@ -7,13 +7,16 @@
 
 namespace Wexa {
 
-// A text in the look of a link.
+// A text in the look of a link, used by a click on it, Return or Space.
 class WEXA_API HyperLinkElement : public BaseGUIObject {
  public:
   class impl;
 
   HyperLinkElement();
   ~HyperLinkElement() override;
+
+  // Fired when the link is used.
+  CallbackList<> Clicked;
 
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;

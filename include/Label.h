@@ -7,7 +7,8 @@
 
 namespace Wexa {
 
-// A text. With a buddy, the character after its "&" is a mnemonic that gives the buddy the focus.
+// A text; a line that does not fit ends in an ellipsis, unless it is wrapped. With a buddy, the
+// character after its "&" is a mnemonic that gives the buddy the focus.
 class WEXA_API Label : public BaseGUIObject {
  public:
   class impl;

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "BaseGUIObject.h"
 
 namespace Wexa {
 
-// A bar that shows how far something has come.
+// A bar that shows how far something has come, or only that it goes on.
 class WEXA_API ProgressBar : public BaseGUIObject {
  public:
   class impl;
@@ -18,10 +19,22 @@ class WEXA_API ProgressBar : public BaseGUIObject {
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
-  // The value is kept within the range.
+  // The value is kept within the range. From 0 to 0 the bar is indeterminate.
   void SetRange(int minimum, int maximum);
   void SetValue(int value);
   int GetValue() const;
+  int GetMinimum() const;
+  int GetMaximum() const;
+  // A part of the bar moves along while nobody knows how far things have come.
+  void SetIndeterminate(bool indeterminate);
+  bool IsIndeterminate() const;
+
+  // The text on horizontal bars, shown unless told otherwise: "%p" stands for the percentage, "%v"
+  // for the value and "%m" for the number of steps in the range. "%p%" at first.
+  void SetFormat(const std::wstring& format);
+  void SetTextVisible(bool visible);
+  // The text as shown; empty for an indeterminate bar.
+  std::wstring GetText() const;
 
  private:
   std::shared_ptr<impl> impl_;

@@ -6,7 +6,9 @@
 
 namespace Wexa {
 
-// A framed view of a content widget, which fills it unless it needs more room.
+// A framed view of a content widget, which fills it or, when it would like more room, is scrolled:
+// by two bars, the wheel, arrow and page keys that nothing inside takes, and to whatever gets the
+// focus.
 class WEXA_API ScrollArea : public BaseGUIObject {
  public:
   class impl;

@@ -1,30 +1,17 @@
 #pragma once
 
-#include <memory>
-
-#include "BaseGUIObject.h"
+#include "RangeControl.h"
 
 namespace Wexa {
 
-// A handle on a track. It shows its value.
-class WEXA_API Slider : public BaseGUIObject {
+// A handle on a track. Vertical ones grow upwards.
+class WEXA_API Slider : public RangeControl {
  public:
-  class impl;
-
   Slider();
-  ~Slider() override;
 
-  bool Create(HWND parent) override;
-  std::shared_ptr<BaseImpl> GetBaseImpl() const override;
-  Size IdealSize() override;
-
-  // The value is kept within the range.
-  void SetRange(int minimum, int maximum);
-  void SetValue(int value);
-  int GetValue() const;
-
- private:
-  std::shared_ptr<impl> impl_;
+  // Marks beside the track at every such step of the value; 0 for none.
+  void SetTickInterval(int interval);
+  int GetTickInterval() const;
 };
 
 }  // namespace Wexa

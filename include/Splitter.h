@@ -1,5 +1,6 @@
 #pragma once
 
+#include <list>
 #include <memory>
 #include <vector>
 
@@ -7,8 +8,9 @@
 
 namespace Wexa {
 
-// Widgets side by side, or one above the other, that share its area as in a box layout. The views
-// belong to the dialog that built them.
+// Widgets side by side, or one above the other, with handles between them that share out the room:
+// dragged by the mouse, or reached by Tab and moved by arrow keys. No view becomes smaller than its
+// minimum. The views belong to the dialog that built them.
 class WEXA_API Splitter : public BaseGUIObject {
  public:
   class impl;
@@ -18,13 +20,22 @@ class WEXA_API Splitter : public BaseGUIObject {
 
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
+  Size IdealSize() override;
 
-  // Counts for views added later.
   void SetOrientation(bool vertical);
+  // Appends a view.
   void AddView(BaseGUIObject* view);
   std::vector<BaseGUIObject*> GetViews();
-  // The gap between views, in 96-DPI units.
+  // Whether views follow a handle while it is dragged, as they do at first, or when it is let go; a
+  // line then shows where the handle will be.
+  void SetDynamicResizing(bool dynamic);
+  bool DynamicResizing() const;
+  // The handles' width in 96-DPI units; 0 or less leaves nothing to drag.
   void SetHandleWidth(int width);
+  int GetHandleWidth() const;
+  // The views' sizes in their order, in 96-DPI units; they are kept in proportion when the room is
+  // another. Views past the end of the list keep theirs.
+  void SetSizes(const std::list<int>& sizes);
 
  private:
   std::shared_ptr<impl> impl_;

@@ -34,6 +34,7 @@
 #include "ProgressBar.h"
 #include "RGBColor.h"
 #include "RadioButton.h"
+#include "RangeControl.h"
 #include "Rect.h"
 #include "Region.h"
 #include "RichEdit.h"

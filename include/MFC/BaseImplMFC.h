@@ -129,6 +129,14 @@ class BaseImplMFC : public BaseImpl {
   virtual void FillPalette(ControlPalette& palette);
   // The colour the widget gives what stands on it.
   virtual COLORREF BackgroundColor();
+  // The window that a child widget's window is made in.
+  virtual HWND HolderOf(const BaseGUIObject&) { return GetHandle(); }
+  // A child widget's window has been made.
+  virtual void OnChildCreated(BaseGUIObject&) {}
+  // A window inside the widget got the focus.
+  virtual void OnFocusWithin(HWND) {}
+  // Alt and a character; true when it is a mnemonic of the widget, which has followed it.
+  virtual bool OnMnemonic(wchar_t) { return false; }
   // Child widgets whose skins follow this one's.
   std::vector<BaseGUIObject*>& Children() { return children_; }
 

@@ -88,6 +88,7 @@ class Dialog::impl : public BaseImplMFC {
   bool EnterKeyMapMode();
   void ReinitialiseChildSkins(SkinMode mode);
   bool FollowBuddyMnemonic(const MSG& message);
+  bool FollowContainerMnemonic(const MSG& message);
   Size FrameSize();
   Size WithinLimits(Size client);
 

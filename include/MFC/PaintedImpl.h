@@ -13,6 +13,7 @@ class PaintedWnd : public CWnd {
  public:
   explicit PaintedWnd(class PaintedImpl& impl) : impl_(impl) {}
   BOOL Create(const CreationRecord& record, DWORD exStyle, const CRect& rect, CWnd* parent);
+  BOOL PreTranslateMessage(MSG* message) override;
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -33,6 +34,8 @@ class PaintedImpl : public BaseImplMFC {
   virtual void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) = 0;
   // Native messages of the window before its default processing; true when handled.
   virtual bool OnMessage(UINT, WPARAM, LPARAM, LRESULT&) { return false; }
+  // Input for the window or one inside it, before it is dispatched; true when it is used up.
+  virtual bool OnPreTranslate(const MSG&) { return false; }
 
  protected:
   bool CreateNative(CWnd* parent) override;

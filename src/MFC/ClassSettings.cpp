@@ -122,6 +122,45 @@ void Apply(SpinEdit& spin, const FormNode& node) {
   ApplyFixes(spin, node);
 }
 
+int ExtraNumberOr(const FormNode& node, std::wstring_view name, int absent) {
+  const std::wstring* text = node.Extra(name);
+  return text ? FormInteger(*text) : absent;
+}
+
+void Apply(RangeControl& control, const FormNode& node) {
+  ApplyRange(control, node, 0, 99);
+  control.SetSingleStep(ExtraNumberOr(node, L"singleStep", control.GetSingleStep()));
+  control.SetPageStep(ExtraNumberOr(node, L"pageStep", control.GetPageStep()));
+}
+
+void Apply(Slider& slider, const FormNode& node) {
+  Apply(static_cast<RangeControl&>(slider), node);
+  const std::wstring* position = node.Extra(L"tickPosition");
+  if (!position || HasEnumWord(*position, L"QSlider::NoTicks")) return;
+  slider.SetTickInterval(ExtraNumberOr(node, L"tickInterval", slider.GetPageStep()));
+}
+
+void Apply(ProgressBar& bar, const FormNode& node) {
+  ApplyRange(bar, node, 0, 100);
+  const std::wstring* shown = node.Extra(L"textVisible");
+  bar.SetTextVisible(!shown || *shown != L"false");
+  if (const std::wstring* format = node.Extra(L"format")) bar.SetFormat(*format);
+}
+
+void Apply(GroupBox& box, const FormNode& node) {
+  if (!IsExtraTrue(node, L"checkable")) return;
+  box.SetCheckable(true);
+  const std::wstring* checked = node.Extra(L"checked");
+  box.SetChecked(!checked || *checked != L"false");
+}
+
+void Apply(Splitter& splitter, const FormNode& node) {
+  splitter.SetOrientation(Has(node, PropertyId::Orientation, L"Qt::Vertical"));
+  splitter.SetHandleWidth(ExtraNumberOr(node, L"handleWidth", splitter.GetHandleWidth()));
+  const std::wstring* opaque = node.Extra(L"opaqueResize");
+  splitter.SetDynamicResizing(!opaque || *opaque != L"false");
+}
+
 void Apply(CheckBox& check, const FormNode& node) {
   if (IsExtraTrue(node, L"tristate")) check.SetTristate(true);
   if (IsExtraTrue(node, L"checked")) check.SetCheck(WexaUtils::Checked);
@@ -163,17 +202,16 @@ void ApplyClassSettings(BaseGUIObject& widget, const FormNode& node) {
     case GuiType::RadioButton: return Apply(static_cast<RadioButton&>(widget), node);
     case GuiType::Button: return Apply(static_cast<Button&>(widget), node);
     case GuiType::ButtonBox: return Apply(static_cast<ButtonBox&>(widget), node);
-    case GuiType::ProgressBar: return ApplyRange(static_cast<ProgressBar&>(widget), node, 0, 100);
-    case GuiType::Slider: return ApplyRange(static_cast<Slider&>(widget), node, 0, 99);
-    case GuiType::ScrollBar: return ApplyRange(static_cast<ScrollBar&>(widget), node, 0, 99);
+    case GuiType::ProgressBar: return Apply(static_cast<ProgressBar&>(widget), node);
+    case GuiType::Slider: return Apply(static_cast<Slider&>(widget), node);
+    case GuiType::ScrollBar: return Apply(static_cast<RangeControl&>(widget), node);
+    case GuiType::GroupBox: return Apply(static_cast<GroupBox&>(widget), node);
     case GuiType::ListBox: return static_cast<ListBox&>(widget).SetItems(node.itemTexts);
     case GuiType::MultiLineEdit:
       return static_cast<MultiLineEdit&>(widget).SetText(ImplOf(&widget)->Creation().text);
     case GuiType::RichEdit:
       return static_cast<RichEdit&>(widget).SetText(ImplOf(&widget)->Creation().text);
-    case GuiType::Splitter:
-      return static_cast<Splitter&>(widget).SetOrientation(
-          Has(node, PropertyId::Orientation, L"Qt::Vertical"));
+    case GuiType::Splitter: return Apply(static_cast<Splitter&>(widget), node);
     case GuiType::TabView:
     case GuiType::StackedDialog:
       return ApplyCurrentPage(static_cast<PagesImpl&>(*ImplOf(&widget)), node);

@@ -11,7 +11,6 @@
 #include "MFC/BaseDialogMFC.h"
 #include "MFC/ButtonImplMFC.h"
 #include "MFC/DialogImplMFC.h"
-#include "MFC/PagesImpl.h"
 #include "MFC/ToolTips.h"
 #include "Utf16.h"
 #include "WexaConfig.h"
@@ -99,13 +98,14 @@ void Dialog::impl::SizeToClient() {
 void Dialog::impl::CreateElements() {
   for (Element& element : elements_) {
     BaseGUIObject& widget = *element.widget;
-    auto* parent = static_cast<BaseGUIObject*>(widget.GetParent());
+    BaseImplMFC& parent = *ImplOf(static_cast<BaseGUIObject*>(widget.GetParent()));
+    HWND holder = parent.HolderOf(widget);
     widget.SetTopLevelDlg(window_.get());
-    widget.SetParentWindow(parent->GetPlatformHandle());
-    if (!widget.Create(parent->GetPlatformHandle()))
+    widget.SetParentWindow(holder);
+    if (!widget.Create(holder))
       throw WexaException("src/MFC/DialogImplMFC", __LINE__,
                           "Cannot create dialog from dialog template data.");
-    if (auto* pages = dynamic_cast<PagesImpl*>(ImplOf(parent))) pages->OnPageCreated(widget);
+    parent.OnChildCreated(widget);
   }
 }
 
@@ -186,9 +186,22 @@ bool Dialog::impl::OnPreTranslate(MSG& message, BOOL& result) {
       return true;
     }
   }
-  if (!FollowBuddyMnemonic(message)) return false;
+  if (!FollowBuddyMnemonic(message) && !FollowContainerMnemonic(message)) return false;
   result = TRUE;
   return true;
+}
+
+// Captions and titles that are drawn, not windows of their own.
+bool Dialog::impl::FollowContainerMnemonic(const MSG& message) {
+  if (message.message != WM_SYSCHAR || !GetHandle()) return false;
+  for (const Element& element : elements_) {
+    HWND window = element.widget->GetPlatformHandle();
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window)) continue;
+    const auto impl = element.widget->GetBaseImpl();  // a handler may destroy the dialog
+    if (static_cast<BaseImplMFC&>(*impl).OnMnemonic(static_cast<wchar_t>(message.wParam)))
+      return true;
+  }
+  return false;
 }
 
 // A label's mnemonic gives the focus to its buddy, wherever that stands in the tab order.

@@ -72,7 +72,7 @@ class EventDispatch {
     switch (message) {
       case WM_SIZE: return Finish(message, OnSize());
       case WM_ACTIVATE: return Finish(message, OnActivate());
-      case WM_SETFOCUS: return Finish(message, Offer(FocusEvent(Event::FocusIn)));
+      case WM_SETFOCUS: return OnFocusGained();
       case WM_KILLFOCUS: return Finish(message, Offer(FocusEvent(Event::FocusOut)));
       case WM_SHOWWINDOW: return Finish(message, OfferVisibility(wParam_ != 0));
       case WM_WINDOWPOSCHANGED: return Finish(message, OnPositionChanged());
@@ -126,6 +126,19 @@ class EventDispatch {
   }
 
   BaseImplMFC& Impl() { return *ImplOf(&widget_); }
+
+  // What holds the widget hears of the focus first, and may bring it into view.
+  LRESULT OnFocusGained() {
+    auto* holder = static_cast<BaseGUIObject*>(widget_.GetParent());
+    while (holder && IsAlive()) {
+      auto* next = static_cast<BaseGUIObject*>(holder->GetParent());
+      const auto impl = holder->GetBaseImpl();
+      static_cast<BaseImplMFC&>(*impl).OnFocusWithin(window_);
+      holder = next;
+    }
+    if (!IsAlive()) return kHandled;
+    return Finish(WM_SETFOCUS, Offer(FocusEvent(Event::FocusIn)));
+  }
 
   // Keyboard input that text widgets take as characters.
   bool IsTextWidget() const {

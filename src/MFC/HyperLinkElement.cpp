@@ -1,34 +1,123 @@
 #include "HyperLinkElement.h"
 
-#include "MFC/PaintedImpl.h"
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+#include "MFC/InteractiveImpl.h"
 #include "MFC/WidgetColors.h"
 #include "platform/Painter.h"
-#include "platform/Theme.h"
+#include "platform/VirtualKeys.h"
 
 namespace Wexa {
 
-class HyperLinkElement::impl : public PaintedImpl {
+namespace {
+
+constexpr UINT kFormat = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
+
+// The palette's faces carry the link's colours: text at rest, pressedText, hoverFace.
+class LinkWnd : public InteractiveWnd {
  public:
-  using PaintedImpl::PaintedImpl;
-  using PaintedImpl::SetText;
-  using PaintedImpl::Text;
+  std::function<void()> onUsed;
+
+ protected:
+  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
+    painter.FillRect(client, palette.background);
+    COLORREF color = Ink(palette);
+    CRect text = TextRect(client);
+    painter.Text(GetWindowText(), text, kFormat, Font(), color);
+    int line = std::max(Scale(1), 1);
+    painter.FillRect(CRect(text.left, text.bottom - line, text.right, text.bottom), color);
+    if (State().focusCue) painter.FocusRect(client, color);
+  }
+
+  void OnHover(POINT point) override { SetOver(TextRect(GetClientRect()).Contains(point)); }
+  void OnDrag(POINT point) override { OnHover(point); }
+  void OnLeave() override { isOver_ = false; }
+  void OnPress(POINT point) override {
+    OnHover(point);
+    pressed_ = isOver_;
+  }
+  void OnRelease(POINT point) override {
+    OnHover(point);
+    if (std::exchange(pressed_, false) && isOver_) Use();
+  }
+  void OnDragCancelled() override { pressed_ = false; }
+
+  bool OnKey(int key) override {
+    if (key != VK_RETURN && key != VK_SPACE) return false;
+    Use();
+    return true;
+  }
+  LRESULT DialogCode(const MSG* message) const override {
+    bool isReturn = message && message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
+    return isReturn ? DLGC_WANTALLKEYS : 0;
+  }
+  const wchar_t* Cursor() const override {
+    POINT point{};
+    GetCursorPos(&point);
+    ScreenToClient(&point);
+    return TextRect(GetClientRect()).Contains(point) ? IDC_HAND : nullptr;
+  }
+
+ private:
+  CRect TextRect(const CRect& client) const {
+    SIZE text = GetTextExtent(Font(), GetWindowText(), INT32_MAX, kFormat);
+    int top = client.top + std::max((client.Height() - static_cast<int>(text.cy)) / 2, 0);
+    return {client.left, top, std::min(client.right, client.left + text.cx),
+            std::min(client.bottom, top + text.cy)};
+  }
+
+  COLORREF Ink(const ControlPalette& palette) const {
+    if (!IsWindowEnabled()) return palette.disabledText;
+    if (pressed_ && isOver_) return palette.pressedText;
+    return isOver_ ? palette.hoverFace : palette.text;
+  }
+
+  void SetOver(bool over) {
+    if (over == isOver_) return;
+    isOver_ = over;
+    Invalidate();
+  }
+
+  void Use() {
+    const auto used = onUsed;  // the link may die in it
+    if (used) used();
+  }
+
+  bool isOver_ = false;
+  bool pressed_ = false;
+};
+
+}  // namespace
+
+class HyperLinkElement::impl : public InteractiveImpl {
+ public:
+  explicit impl(HyperLinkElement* owner) : InteractiveImpl(owner, std::make_shared<LinkWnd>()) {
+    Creation().style |= WS_TABSTOP;
+    static_cast<LinkWnd&>(Shown()).onUsed = [this] {
+      if (Owner()) static_cast<HyperLinkElement*>(Owner())->Clicked();
+    };
+  }
+  using InteractiveImpl::SetText;
+  using InteractiveImpl::Text;
 
   Size IdealSize() override {
-    SIZE text = GetTextExtent(Font(), Text());
+    SIZE text = GetTextExtent(Font(), Text(), INT32_MAX, kFormat);
     return {text.cx, text.cy};
   }
   Size MinimumIdealSize() override { return IdealSize(); }
 
   void FillPalette(ControlPalette& palette) override {
-    PaintedImpl::FillPalette(palette);
-    palette.text = SlotColor(GetSkinManager(), Slot::kLinkText);
+    InteractiveImpl::FillPalette(palette);
+    palette.text = Readable(Slot::kLinkText, palette);
+    palette.pressedText = Readable(Slot::kLinkPressed, palette);
+    palette.hoverFace = Readable(Slot::kLinkHover, palette);
     palette.disabledText = SlotColor(GetSkinManager(), Slot::kLinkDisabled);
   }
 
-  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
-    COLORREF color = GetCWnd()->IsWindowEnabled() ? palette.text : palette.disabledText;
-    painter.FillRect(client, palette.background);
-    painter.Text(Text(), client, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX, Font(), color);
+  COLORREF Readable(int slot, const ControlPalette& palette) {
+    return ReadableColor(GetSkinManager(), slot, Slot::kDialogText, palette.background);
   }
 };
 
@@ -49,7 +138,6 @@ Size HyperLinkElement::IdealSize() {
 }
 void HyperLinkElement::SetText(const std::wstring& text) {
   impl_->SetText(text);
-  if (GetPlatformHandle()) Repaint();
 }
 std::wstring HyperLinkElement::GetText() {
   return impl_->Text();

@@ -19,7 +19,7 @@ constexpr int kWrappedWidth = 320;
 class Label::impl : public BaseImplMFC {
  public:
   explicit impl(Label* owner) : BaseImplMFC(owner) {
-    Creation().style |= SS_LEFTNOWORDWRAP | SS_CENTERIMAGE | SS_NOPREFIX;
+    Creation().style |= SS_LEFTNOWORDWRAP | SS_ENDELLIPSIS | SS_CENTERIMAGE | SS_NOPREFIX;
   }
 
   CWnd* GetCWnd() override { return &window_; }
@@ -91,7 +91,8 @@ class Label::impl : public BaseImplMFC {
     if (alignment_ == Alignment::Center) style = SS_CENTER;
     if (alignment_ == Alignment::Right) style = SS_RIGHT;
     if (alignment_ == Alignment::Left && !wraps_) style = SS_LEFTNOWORDWRAP;
-    ChangeStyle(SS_TYPEMASK, style);
+    if (!wraps_) style |= SS_ENDELLIPSIS;
+    ChangeStyle(SS_TYPEMASK | SS_ENDELLIPSIS, style);
   }
 
   CStatic window_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ChildDialog.h"
+#include "platform/DialogManager.h"
 
 namespace Wexa {
 
@@ -16,20 +17,20 @@ ChildDialog* PagesImpl::Page(int index) const {
   return valid ? pages_[static_cast<std::size_t>(index)] : nullptr;
 }
 
-Size PagesImpl::AroundPages(Size (BaseGUIObject::*size)()) {
+Size PagesImpl::AroundPages(Size (BaseGUIObject::*size)(), const Size& own) {
   Size largest;
   for (ChildDialog* page : pages_) largest = largest.GetInflated((page->*size)());
   RECT margins = PageMargins();
   largest.SetWidth(largest.Width() + margins.left + margins.right);
   largest.SetHeight(largest.Height() + margins.top + margins.bottom);
-  return largest.GetInflated(OwnSize());
+  return largest.GetInflated(own);
 }
 
 Size PagesImpl::IdealSize() {
-  return AroundPages(&BaseGUIObject::IdealSize);
+  return AroundPages(&BaseGUIObject::IdealSize, OwnSize());
 }
 Size PagesImpl::MinimumIdealSize() {
-  return AroundPages(&BaseGUIObject::MinimumIdealSize);
+  return AroundPages(&BaseGUIObject::MinimumIdealSize, OwnMinimumSize());
 }
 
 Rect PagesImpl::PageRect() {
@@ -50,19 +51,38 @@ void PagesImpl::UpdateLayout() {
 
 bool PagesImpl::SetCurrentIndex(int index, bool updateLayout) {
   if (!Page(index)) return false;
+  ChildDialog* before = Page(CurrentIndex());
   current_ = index;
   if (!GetHandle()) return true;
+  bool hadFocus = before != Page(index) && IsChild(before->GetPlatformHandle(), GetFocus());
   UpdateLayout();
-  for (int i = 0; i < PageCount(); ++i)
+  if (!ShowOnly(index, updateLayout)) return false;
+  if (!hadFocus) return true;
+  if (HWND next = FocusAfterChange())
+    GetCWnd()->GetTopLevelParent()->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next),
+                                                TRUE);
+  return GetHandle() != nullptr;
+}
+
+bool PagesImpl::ShowOnly(int index, bool updateLayout) {
+  for (int i = 0; i < PageCount(); ++i) {
+    if (!GetHandle()) return false;
     if (Page(i)->GetPlatformHandle()) Page(i)->Show(i == index, updateLayout);
-  return true;
+  }
+  return GetHandle() != nullptr;
+}
+
+HWND PagesImpl::FocusAfterChange() {
+  HWND inside = GetNextDlgTabItem(Page(CurrentIndex())->GetPlatformHandle(), nullptr, FALSE);
+  if (inside) return inside;
+  return GetNextDlgTabItem(GetCWnd()->GetTopLevelParent()->GetSafeHwnd(), GetHandle(), FALSE);
 }
 
 void PagesImpl::EnablePage(int index, bool enable, bool remember) {
   if (ChildDialog* page = Page(index)) page->Enable(enable, remember);
 }
 
-void PagesImpl::OnPageCreated(BaseGUIObject& page) {
+void PagesImpl::OnChildCreated(BaseGUIObject& page) {
   page.Show(&page == Page(CurrentIndex()), false);
 }
 

@@ -1,5 +1,6 @@
 #include "MFC/PaintedImpl.h"
 
+#include "BaseGUIObject.h"
 #include "MFC/EventDispatch.h"
 #include "platform/Painter.h"
 #include "platform/Theme.h"
@@ -33,6 +34,12 @@ LRESULT PaintedWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
   LRESULT result = 0;
   if (impl_.OnMessage(message, wParam, lParam, result)) return result;
   return CWnd::WindowProc(message, wParam, lParam);
+}
+
+BOOL PaintedWnd::PreTranslateMessage(MSG* message) {
+  BaseGUIObject* owner = impl_.Owner();
+  const auto held = owner ? owner->GetBaseImpl() : nullptr;  // a handler may destroy the widget
+  return impl_.OnPreTranslate(*message);
 }
 
 void PaintedWnd::OnPaint() {

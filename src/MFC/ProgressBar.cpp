@@ -9,27 +9,116 @@
 
 namespace Wexa {
 
+namespace {
+
+constexpr UINT_PTR kMoveTimer = 0xF002;
+constexpr UINT kFrameMilliseconds = 40;
+constexpr DWORD kRoundMilliseconds = 1600;
+constexpr double kMovingPart = 0.25;
+
+void ReplaceAll(std::wstring& text, std::wstring_view mark, const std::wstring& value) {
+  for (std::size_t at = text.find(mark); at != std::wstring::npos;
+       at = text.find(mark, at + value.size()))
+    text.replace(at, mark.size(), value);
+}
+
+}  // namespace
+
 class ProgressBar::impl : public PaintedImpl {
  public:
   using PaintedImpl::PaintedImpl;
 
   ValueRange range;
+  std::wstring format = L"%p%";
+  bool textVisible = true;
 
   Size IdealSize() override { return IsVertical() ? Scale(20, 120) : Scale(120, 20); }
   Size MinimumIdealSize() override { return IsVertical() ? Scale(16, 40) : Scale(40, 16); }
 
+  void SetIndeterminate(bool indeterminate) {
+    told_ = indeterminate;
+    Refresh();
+  }
+  bool IsIndeterminate() const { return told_ || (range.Minimum() == 0 && range.Maximum() == 0); }
+
+  std::wstring ShownText() const {
+    if (!textVisible || IsIndeterminate()) return L"";
+    std::wstring text = format;
+    ReplaceAll(text, L"%p", std::to_wstring(static_cast<int>(range.Fraction() * 100)));
+    ReplaceAll(text, L"%v", std::to_wstring(range.Value()));
+    ReplaceAll(text, L"%m", std::to_wstring(range.Span()));
+    return text;
+  }
+
+  // After a change of what is shown: the timer runs only while something moves.
+  void Refresh() {
+    if (!GetHandle()) return;
+    if (moves_ != IsIndeterminate()) {
+      moves_ = !moves_;
+      if (moves_)
+        GetCWnd()->SetTimer(kMoveTimer, kFrameMilliseconds);
+      else
+        GetCWnd()->KillTimer(kMoveTimer);
+    }
+    GetCWnd()->Invalidate();
+  }
+  void RefreshSkinColors() override { Refresh(); }
+
   void FillPalette(ControlPalette& palette) override {
     FillInputPalette(palette, GetSkinManager());
     palette.background = BackgroundColor();
+    if (!GetCWnd()->IsWindowEnabled()) palette.accent = palette.disabledBorder;
   }
 
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
+    double from = 0;
+    double to = range.Fraction();
+    if (moves_) {
+      double part = static_cast<double>(GetTickCount() % kRoundMilliseconds) / kRoundMilliseconds;
+      from = part * (1 + kMovingPart) - kMovingPart;
+      to = from + kMovingPart;
+    }
     painter.FillRect(client, palette.background);
-    Theme::DrawProgress(painter, client, range.Fraction(), IsVertical(), palette);
+    Theme::DrawProgress(painter, client, from, to, IsVertical(), palette);
+    if (!IsVertical()) PaintText(painter, client, to, palette);
+  }
+
+  bool OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT&) override {
+    if (message == WM_ENABLE) GetCWnd()->Invalidate();
+    if (message != WM_TIMER || wParam != kMoveTimer) return false;
+    GetCWnd()->Invalidate();
+    return true;
+  }
+
+ protected:
+  bool CreateNative(CWnd* parent) override {
+    moves_ = false;
+    if (!PaintedImpl::CreateNative(parent)) return false;
+    Refresh();
+    return true;
   }
 
  private:
   bool IsVertical() const { return (Creation().style & PBS_VERTICAL) != 0; }
+
+  // The text changes colour where the bar has come.
+  void PaintText(Painter& painter, const CRect& client, double to, const ControlPalette& palette) {
+    std::wstring text = ShownText();
+    if (text.empty()) return;
+    constexpr UINT kFormat = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX;
+    CRect done = Theme::ProgressPart(client, 0, to, false);
+    CRect rest = Theme::ProgressPart(client, to, 1, false);
+    bool enabled = GetCWnd()->IsWindowEnabled();
+    painter.PushClip(done);
+    painter.Text(text, client, kFormat, Font(), enabled ? palette.accentText : palette.text);
+    painter.PopClip();
+    painter.PushClip(rest);
+    painter.Text(text, client, kFormat, Font(), enabled ? palette.text : palette.disabledText);
+    painter.PopClip();
+  }
+
+  bool told_ = false;
+  bool moves_ = false;
 };
 
 ProgressBar::ProgressBar()
@@ -49,14 +138,36 @@ Size ProgressBar::IdealSize() {
 }
 void ProgressBar::SetRange(int minimum, int maximum) {
   impl_->range.SetBounds(minimum, maximum);
-  if (GetPlatformHandle()) Repaint();
+  impl_->Refresh();
 }
 void ProgressBar::SetValue(int value) {
-  impl_->range.SetValue(value);
-  if (GetPlatformHandle()) Repaint();
+  if (impl_->range.SetValue(value)) impl_->Refresh();
 }
 int ProgressBar::GetValue() const {
   return impl_->range.Value();
+}
+int ProgressBar::GetMinimum() const {
+  return impl_->range.Minimum();
+}
+int ProgressBar::GetMaximum() const {
+  return impl_->range.Maximum();
+}
+void ProgressBar::SetIndeterminate(bool indeterminate) {
+  impl_->SetIndeterminate(indeterminate);
+}
+bool ProgressBar::IsIndeterminate() const {
+  return impl_->IsIndeterminate();
+}
+void ProgressBar::SetFormat(const std::wstring& format) {
+  impl_->format = format;
+  impl_->Refresh();
+}
+void ProgressBar::SetTextVisible(bool visible) {
+  impl_->textVisible = visible;
+  impl_->Refresh();
+}
+std::wstring ProgressBar::GetText() const {
+  return impl_->ShownText();
 }
 
 }  // namespace Wexa

@@ -1,63 +1,52 @@
 #include "Slider.h"
 
-#include "MFC/PaintedImpl.h"
-#include "MFC/ValueRange.h"
+#include <algorithm>
+
+#include "MFC/RangeImpl.h"
+#include "MFC/SliderWnd.h"
 #include "MFC/WidgetColors.h"
 #include "platform/ControlConstants.h"
-#include "platform/Painter.h"
-#include "platform/Theme.h"
 
 namespace Wexa {
 
-class Slider::impl : public PaintedImpl {
+namespace {
+
+constexpr int kIdealLength = 100;
+constexpr int kSmallestLength = 48;
+constexpr int kThickness = 24;
+
+class SliderImpl : public RangeControl::impl {
  public:
-  using PaintedImpl::PaintedImpl;
-
-  ValueRange range;
-
-  Size IdealSize() override { return IsVertical() ? Scale(24, 100) : Scale(100, 24); }
-  Size MinimumIdealSize() override { return IsVertical() ? Scale(24, 48) : Scale(48, 24); }
+  explicit SliderImpl(RangeControl* owner) : impl(owner, std::make_shared<SliderWnd>()) {
+    SetSizes(Scale(kIdealLength, kThickness), Scale(kSmallestLength, kThickness));
+  }
 
   void FillPalette(ControlPalette& palette) override {
     FillInputPalette(palette, GetSkinManager());
     palette.background = BackgroundColor();
   }
 
-  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
-    painter.FillRect(client, palette.background);
-    ControlState state;
-    state.enabled = GetCWnd()->IsWindowEnabled();
-    Theme::DrawSlider(painter, client, range.Fraction(), IsVertical(), state, palette);
-  }
-
- private:
-  bool IsVertical() const { return (Creation().style & TBS_VERT) != 0; }
+ protected:
+  bool IsVertical() const override { return (Creation().style & TBS_VERT) != 0; }
 };
 
-Slider::Slider() : BaseGUIObject(GuiType::Slider), impl_(std::make_shared<impl>(this)) {}
-Slider::~Slider() {
-  ReleaseImpl();
+SliderWnd& WindowOf(RangeControl::impl& impl) {
+  return static_cast<SliderWnd&>(impl.Bar());
 }
 
-bool Slider::Create(HWND parent) {
-  return impl_->Create(parent);
+}  // namespace
+
+Slider::Slider()
+    : RangeControl(GuiType::Slider, [](RangeControl* owner) -> std::shared_ptr<impl> {
+        return std::make_shared<SliderImpl>(owner);
+      }) {}
+
+void Slider::SetTickInterval(int interval) {
+  WindowOf(*impl_).tickInterval = std::max(interval, 0);
+  impl_->RefreshSkinColors();
 }
-std::shared_ptr<BaseImpl> Slider::GetBaseImpl() const {
-  return impl_;
-}
-Size Slider::IdealSize() {
-  return impl_->IdealSize();
-}
-void Slider::SetRange(int minimum, int maximum) {
-  impl_->range.SetBounds(minimum, maximum);
-  if (GetPlatformHandle()) Repaint();
-}
-void Slider::SetValue(int value) {
-  impl_->range.SetValue(value);
-  if (GetPlatformHandle()) Repaint();
-}
-int Slider::GetValue() const {
-  return impl_->range.Value();
+int Slider::GetTickInterval() const {
+  return WindowOf(*impl_).tickInterval;
 }
 
 }  // namespace Wexa

@@ -1,46 +1,8 @@
 #include "Splitter.h"
 
-#include "MFC/ContainerImpl.h"
-#include "layout/BoxLayout.h"
-#include "layout/WidgetItem.h"
+#include "MFC/SplitterImpl.h"
 
 namespace Wexa {
-
-namespace {
-
-constexpr int kHandleWidth = 6;
-
-}  // namespace
-
-// The views stand in a box layout whose spacing is the handle.
-class Splitter::impl : public ContainerImpl {
- public:
-  using ContainerImpl::ContainerImpl;
-
-  void AddView(BaseGUIObject* view) {
-    EnsureLayout();
-    Links().layout->AddItem(new WidgetItemV2(Links().layout, view));
-    views.push_back(view);
-    Children().push_back(view);
-  }
-
-  void SetHandleWidth(int width) {
-    EnsureLayout();
-    Links().layout->SetSpacing(Scale(width));
-  }
-
-  std::vector<BaseGUIObject*> views;
-  bool isVertical = false;
-
- private:
-  void EnsureLayout() {
-    if (Links().layout) return;
-    Layout* layout =
-        isVertical ? static_cast<Layout*>(new VBoxLayout(Owner())) : new HBoxLayout(Owner());
-    layout->SetContentsMargins(0, 0, 0, 0);
-    layout->SetSpacing(Scale(kHandleWidth));
-  }
-};
 
 Splitter::Splitter() : BaseGUIObject(GuiType::Splitter), impl_(std::make_shared<impl>(this)) {}
 Splitter::~Splitter() {
@@ -53,17 +15,33 @@ bool Splitter::Create(HWND parent) {
 std::shared_ptr<BaseImpl> Splitter::GetBaseImpl() const {
   return impl_;
 }
+Size Splitter::IdealSize() {
+  return impl_->IdealSize();
+}
 void Splitter::SetOrientation(bool vertical) {
-  impl_->isVertical = vertical;
+  impl_->SetOrientation(vertical);
 }
 void Splitter::AddView(BaseGUIObject* view) {
-  if (view) impl_->AddView(view);
+  impl_->AddView(view);
 }
 std::vector<BaseGUIObject*> Splitter::GetViews() {
-  return impl_->views;
+  return impl_->Views();
+}
+void Splitter::SetDynamicResizing(bool dynamic) {
+  impl_->isDynamic = dynamic;
+}
+bool Splitter::DynamicResizing() const {
+  return impl_->isDynamic;
 }
 void Splitter::SetHandleWidth(int width) {
   impl_->SetHandleWidth(width);
+}
+int Splitter::GetHandleWidth() const {
+  return impl_->HandleWidth();
+}
+void Splitter::SetSizes(const std::list<int>& sizes) {
+  const auto held = impl_;  // a handler may destroy the splitter
+  held->GiveSizes(sizes);
 }
 
 }  // namespace Wexa

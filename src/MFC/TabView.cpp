@@ -6,48 +6,82 @@
 
 #include "ChildDialog.h"
 #include "MFC/PagesImpl.h"
+#include "MFC/TabStrip.h"
 #include "MFC/WidgetColors.h"
+#include "platform/DialogManager.h"
 #include "platform/Painter.h"
-#include "platform/Theme.h"
+#include "platform/VirtualKeys.h"
 
 namespace Wexa {
 
 namespace {
 
 constexpr int kPageBorder = 1;
+constexpr int kNarrowestStrip = 96;
 constexpr std::size_t kLongestCaption = 255;
 
 }  // namespace
 
 class TabView::impl : public PagesImpl {
  public:
-  using PagesImpl::PagesImpl;
-
-  void SetCaption(int index, const std::wstring& text) {
-    if (index < 0) return;
-    auto place = static_cast<std::size_t>(index);
-    if (place >= captions_.size()) captions_.resize(place + 1);
-    captions_[place] = text;
-    if (GetHandle()) GetCWnd()->Invalidate();
-    InvalidateLayout();
+  explicit impl(TabView* owner) : PagesImpl(owner) {
+    Creation().style |= WS_TABSTOP;
+    strip_->onChosen = [this](int index) { ChangeByUser(index); };
+    strip_->isEnabled = [this](int index) { return IsPageEnabled(index); };
   }
 
+  void AddPage(ChildDialog* page, const std::wstring& caption) {
+    if (!page) return;
+    PagesImpl::AddPage(page);
+    captions_.push_back(caption);
+    RefreshStrip();
+  }
+
+  void SetCaption(int index, const std::wstring& text) {
+    if (!Page(index)) return;
+    captions_[static_cast<std::size_t>(index)] = text;
+    RefreshStrip();
+  }
   std::wstring Caption(int index) const {
-    auto place = static_cast<std::size_t>(index);
-    return index >= 0 && place < captions_.size() ? captions_[place] : L"";
+    return Page(index) ? captions_[static_cast<std::size_t>(index)] : L"";
   }
 
   bool SetCurrentIndex(int index, bool updateLayout) override {
+    int before = CurrentIndex();
+    if (!Page(index)) return false;
+    strip_->SetCurrent(index);
     if (!PagesImpl::SetCurrentIndex(index, updateLayout)) return false;
-    if (GetHandle()) GetCWnd()->Invalidate();
-    if (Owner()) static_cast<TabView*>(Owner())->CurrentChanged(index);
+    if (index != before) static_cast<TabView*>(Owner())->CurrentChanged(index);
     return true;
+  }
+
+  void EnablePage(int index, bool enable, bool remember) {
+    PagesImpl::EnablePage(index, enable, remember);
+    if (strip_->GetSafeHwnd()) strip_->Invalidate();
+  }
+
+  void Enable(bool enable, bool remember) override {
+    PagesImpl::Enable(enable, remember);
+    if (strip_->GetSafeHwnd()) strip_->EnableWindow(GetCWnd()->IsWindowEnabled());
+  }
+
+  void UpdateLayout() override {
+    if (strip_->GetSafeHwnd()) {
+      strip_->MoveWindow(CRect(0, 0, GetCWnd()->GetClientRect().Width(), StripHeight()));
+      strip_->Arrange();
+    }
+    PagesImpl::UpdateLayout();
+  }
+
+  void RefreshSkinColors() override {
+    PagesImpl::RefreshSkinColors();
+    if (strip_->GetSafeHwnd()) strip_->Invalidate();
   }
 
   void FillPalette(ControlPalette& palette) override {
     FillButtonPalette(palette, GetSkinManager());
     palette.background = BackgroundColor();
-    palette.pressedFace = palette.background;
+    palette.face = palette.background;
     palette.border = SlotColor(GetSkinManager(), Slot::kGroupBorder);
   }
 
@@ -56,50 +90,87 @@ class TabView::impl : public PagesImpl {
     CRect page = client;
     page.top = StripHeight() - Border();
     painter.FrameRect(page, palette.border, Border());
-    for (int i = 0; i < PageCount(); ++i)
-      if (i != CurrentIndex()) PaintTab(painter, i, palette);
-    if (PageCount() > 0) PaintTab(painter, CurrentIndex(), palette);
   }
 
-  bool OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT&) override {
-    if (message != WM_LBUTTONDOWN) return false;
-    int tab = TabAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
-    if (tab < 0 || tab == CurrentIndex()) return false;
-    SetCurrentIndex(tab, true);
+  // Control with Tab, or with a page key, turns the pages from anywhere inside.
+  bool OnPreTranslate(const MSG& message) override {
+    if (message.message != WM_KEYDOWN || GetKeyState(VK_CONTROL) >= 0) return false;
+    int direction = 0;
+    if (message.wParam == VK_TAB) direction = GetKeyState(VK_SHIFT) < 0 ? -1 : 1;
+    if (message.wParam == VK_NEXT) direction = 1;
+    if (message.wParam == VK_PRIOR) direction = -1;
+    if (direction == 0) return false;
+    int next = strip_->NextEnabled(CurrentIndex(), direction, true);
+    if (next >= 0) ChangeByUser(next);
     return true;
   }
 
+  bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&) override {
+    if (message == WM_SETFONT) strip_->SendMessage(message, wParam, lParam);
+    return false;
+  }
+
+  bool OnMnemonic(wchar_t letter) override {
+    for (int i = 0; i < PageCount(); ++i) {
+      if (!IsMnemonic(Caption(i), letter) || !IsPageEnabled(i)) continue;
+      strip_->SetFocus();
+      if (Owner()) ChangeByUser(i);
+      return true;
+    }
+    return false;
+  }
+
  protected:
+  bool CreateNative(CWnd* parent) override {
+    if (!PagesImpl::CreateNative(parent)) return false;
+    DWORD tabStop = Creation().style & WS_TABSTOP;
+    strip_->Create(L"", WS_CHILD | WS_VISIBLE | tabStop, CRect(), GetCWnd());
+    RefreshStrip();
+    return true;
+  }
+
   RECT PageMargins() const override { return {Border(), StripHeight(), Border(), Border()}; }
-  Size OwnSize() const override { return {TabRect(PageCount()).left, StripHeight()}; }
+
+  Size OwnSize() const override {
+    int width = 0;
+    for (const std::wstring& caption : captions_) width += TabStrip::WidthFor(Font(), caption);
+    return {width, StripHeight() + Border()};
+  }
+  // Tabs that do not fit are scrolled.
+  Size OwnMinimumSize() const override {
+    Size own = OwnSize();
+    return {std::min(own.Width(), Scale(kNarrowestStrip)), own.Height()};
+  }
+
+  HWND FocusAfterChange() override {
+    HWND page = Page(CurrentIndex())->GetPlatformHandle();
+    HWND inside = GetNextDlgTabItem(page, nullptr, FALSE);
+    return inside ? inside : strip_->GetSafeHwnd();
+  }
 
  private:
   static int Border() { return std::max(1, Scale(kPageBorder)); }
-  int StripHeight() const { return GetFontMetrics(Font()).height + 2 * Theme::TabPadding().cy; }
+  int StripHeight() const { return TabStrip::HeightFor(Font()); }
 
-  // The tab after the last one starts where the strip ends.
-  CRect TabRect(int index) const {
-    CRect tab(0, 0, 0, StripHeight());
-    for (int i = 0; i <= index; ++i) {
-      tab.left = tab.right;
-      tab.right += GetTextExtent(Font(), Caption(i)).cx + 2 * Theme::TabPadding().cx;
-    }
-    return tab;
+  bool IsPageEnabled(int index) const {
+    ChildDialog* page = Page(index);
+    return page && (!page->GetPlatformHandle() || page->IsEnabled());
   }
 
-  int TabAt(POINT point) const {
-    for (int i = 0; i < PageCount(); ++i)
-      if (TabRect(i).Contains(point)) return i;
-    return -1;
+  // A handler may destroy the view.
+  void ChangeByUser(int index) {
+    if (!Owner()) return;
+    const auto held = Owner()->GetBaseImpl();
+    static_cast<TabView*>(Owner())->SetCurrentIndex(index);
   }
 
-  void PaintTab(Painter& painter, int index, const ControlPalette& palette) {
-    ControlState state;
-    state.enabled = Page(index)->IsEnabled();
-    Theme::DrawTab(painter, TabRect(index), Caption(index), Font(), index == CurrentIndex(), state,
-                   palette);
+  void RefreshStrip() {
+    strip_->SetCaptions(captions_);
+    strip_->SetCurrent(CurrentIndex());
+    InvalidateLayout();
   }
 
+  std::shared_ptr<TabStrip> strip_ = std::make_shared<TabStrip>();
   std::vector<std::wstring> captions_;
 };
 
@@ -116,8 +187,7 @@ std::shared_ptr<BaseImpl> TabView::GetBaseImpl() const {
 }
 
 void TabView::AddPage(ChildDialog* page, const std::wstring& caption) {
-  impl_->AddPage(page);
-  impl_->SetCaption(impl_->PageCount() - 1, caption);
+  impl_->AddPage(page, caption);
 }
 
 int TabView::GetCurrentIndex() {
@@ -139,7 +209,7 @@ void TabView::ActivateNextTab() {
 
 void TabView::ActivatePreviousTab() {
   int current = GetCurrentIndex();
-  SetCurrentIndex(current < 1 ? GetItemCount() - 1 : current - 1);
+  SetCurrentIndex((current < 1 ? GetItemCount() : current) - 1);
 }
 
 void TabView::EnablePage(int index, bool enable, bool remember) {
@@ -147,7 +217,7 @@ void TabView::EnablePage(int index, bool enable, bool remember) {
 }
 
 void TabView::SetTabText(int index, const std::wstring& text) {
-  if (index < impl_->PageCount()) impl_->SetCaption(index, text);
+  impl_->SetCaption(index, text);
 }
 
 std::wstring TabView::GetTabText(int index) {

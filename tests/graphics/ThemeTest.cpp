@@ -37,10 +37,10 @@ std::vector<Part> AllParts() {
       {"tab",
        [](auto& p, auto& r, auto& s) { Theme::DrawTab(p, r, L"Tab", nullptr, true, s, palette); }},
       {"line", [](auto& p, auto& r, auto&) { Theme::DrawLine(p, r, true, palette); }},
-      {"bar", [](auto& p, auto& r, auto&) { Theme::DrawProgress(p, r, 0.4, false, palette); }},
+      {"bar", [](auto& p, auto& r, auto&) { Theme::DrawProgress(p, r, 0, 0.4, false, palette); }},
       {"slider", [](auto& p, auto& r, auto& s) { Theme::DrawSlider(p, r, 2, true, s, palette); }},
       {"scroll",
-       [](auto& p, auto& r, auto& s) { Theme::DrawScrollBar(p, r, 0.9, 7, true, s, palette); }},
+       [](auto& p, auto& r, auto& s) { Theme::DrawScrollThumb(p, r, true, s, palette); }},
       {"caption",
        [](auto& p, auto& r, auto&) {
          Theme::DrawCaption(p, r, L"T", true, true, FramePart::Close, FramePart::None);
@@ -170,7 +170,7 @@ TEST(Theme, ProgressFillsItsShare) {
   for (auto [fraction, pixels] : {std::pair{0.0, 0}, {0.5, 50}, {1.0, 100}, {9.0, 100}}) {
     TestCanvas canvas(102, 3);
     canvas.Paint([&](Painter& p) {
-      Theme::DrawProgress(p, {0, 0, 102, 3}, fraction, false, palette);
+      Theme::DrawProgress(p, {0, 0, 102, 3}, 0, fraction, false, palette);
     });
     EXPECT_EQ(canvas.Count(palette.accent), pixels);
   }

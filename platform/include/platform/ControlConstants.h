@@ -47,6 +47,7 @@ inline constexpr DWORD SS_LEFTNOWORDWRAP = 0xC;
 inline constexpr DWORD SS_NOPREFIX = 0x80;
 inline constexpr DWORD SS_NOTIFY = 0x100;
 inline constexpr DWORD SS_CENTERIMAGE = 0x200;  // text centred vertically
+inline constexpr DWORD SS_ENDELLIPSIS = 0x4000;  // lines are not wrapped, one too long is cut so
 inline constexpr int STN_CLICKED = 0;
 inline constexpr int STN_DBLCLK = 1;
 

@@ -71,12 +71,25 @@ void DrawTab(Painter&, const RECT&, std::wstring_view text, HFONT, bool selected
              const ControlState&, const ControlPalette&);
 SIZE TabPadding();
 void DrawLine(Painter&, const RECT&, bool vertical, const ControlPalette&);
-void DrawProgress(Painter&, const RECT&, double fraction, bool vertical, const ControlPalette&);
+// Progress bars: filled from one fraction of their length to another, from the bottom up when
+// vertical; and the rectangle that is filled so.
+void DrawProgress(Painter&, const RECT&, double from, double to, bool vertical,
+                  const ControlPalette&);
+RECT ProgressPart(const RECT&, double from, double to, bool vertical);
+// Sliders: the thumb's length along the track.
 void DrawSlider(Painter&, const RECT&, double fraction, bool vertical, const ControlState&,
                 const ControlPalette&);
-void DrawScrollBar(Painter&, const RECT&, double from, double to, bool vertical,
-                   const ControlState&, const ControlPalette&);
+int SliderThumbLength();
+// The parts of scroll bars.
+void DrawScrollThumb(Painter&, const RECT&, bool vertical, const ControlState&,
+                     const ControlPalette&);
+void DrawScrollArrow(Painter&, const RECT&, ArrowDirection, const ControlState&,
+                     const ControlPalette&);
 int ScrollBarWidth();
+int ShortestScrollThumb();
+// The handle between the panes of a splitter.
+void DrawSplitHandle(Painter&, const RECT&, bool vertical, const ControlState&,
+                     const ControlPalette&);
 
 // Frames of top-level windows.
 int CaptionHeight();

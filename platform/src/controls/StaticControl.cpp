@@ -24,6 +24,7 @@ UINT TextFormat(DWORD style) {
     case SS_LEFTNOWORDWRAP: format = DT_LEFT; break;
     default: break;
   }
+  if (style & SS_ENDELLIPSIS) format = (format & ~DT_WORDBREAK) | DT_END_ELLIPSIS;
   if (style & SS_CENTERIMAGE) format |= DT_VCENTER;
   if (style & SS_NOPREFIX) format |= DT_NOPREFIX;
   return format;

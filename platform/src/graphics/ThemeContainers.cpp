@@ -53,15 +53,14 @@ SIZE TabPadding() {
 void DrawTab(Painter& painter, const RECT& rect, std::wstring_view text, HFONT font, bool selected,
              const ControlState& state, const ControlPalette& palette) {
   bool hovered = state.hovered && state.enabled && !selected;
-  painter.FillRect(rect, selected  ? palette.face
-                         : hovered ? palette.hoverFace
-                                   : palette.background);
+  CRect mark(rect.left, rect.top, rect.right, rect.top + ScaleUnits(kTabMark));
+  painter.FillRect(rect, selected ? palette.face : palette.background);
+  if (hovered) painter.FillRect(mark, palette.hoverBorder);
   if (selected) {
     int line = LineWidth();
     painter.FillRect(RECT{rect.left, rect.top, rect.left + line, rect.bottom}, palette.border);
     painter.FillRect(RECT{rect.right - line, rect.top, rect.right, rect.bottom}, palette.border);
-    COLORREF mark = state.enabled ? palette.accent : palette.disabledBorder;
-    painter.FillRect(RECT{rect.left, rect.top, rect.right, rect.top + ScaleUnits(kTabMark)}, mark);
+    painter.FillRect(mark, state.enabled ? palette.accent : palette.disabledBorder);
   }
   UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | PrefixFormat(state);
   painter.Text(text, rect, format, font, InkColor(state, palette));

@@ -9,6 +9,7 @@ namespace {
 constexpr int kScrollBarWidth = 14;
 constexpr int kScrollThumbInset = 4;
 constexpr int kShortestThumb = 16;
+constexpr int kSplitGrip = 24;
 constexpr int kGroove = 4;
 constexpr int kSliderThumb = 14;
 constexpr int kSliderHole = 4;
@@ -41,21 +42,29 @@ int Length(const CRect& rect, bool vertical) {
 COLORREF ThumbColor(const ControlState& state, const ControlPalette& palette) {
   if (!state.enabled) return palette.disabledBorder;
   if (state.pressed) return palette.accent;
-  return state.hovered ? palette.placeholder : palette.border;
+  return state.hovered ? palette.hoverBorder : palette.border;
 }
 
 }  // namespace
 
-void DrawProgress(Painter& painter, const RECT& rect, double fraction, bool vertical,
+RECT ProgressPart(const RECT& rect, double from, double to, bool vertical) {
+  CRect inner = CRect(rect).Shrunk(LineWidth(), LineWidth());
+  int length = std::max(Length(inner, vertical), 0);
+  int start = Part(from, length);
+  int end = std::max(Part(to, length), start);
+  return vertical ? Along(inner, true, length - end, length - start)
+                  : Along(inner, false, start, end);
+}
+
+void DrawProgress(Painter& painter, const RECT& rect, double from, double to, bool vertical,
                   const ControlPalette& palette) {
-  int line = LineWidth();
-  DrawBox(painter, rect, 0, palette.face, palette.border, line);
-  CRect inner = CRect(rect).Shrunk(line, line);
-  if (inner.IsEmpty()) return;
-  int length = Length(inner, vertical);
-  int done = Part(fraction, length);
-  CRect bar = vertical ? Along(inner, true, length - done, length) : Along(inner, false, 0, done);
-  painter.FillRect(bar, palette.accent);
+  DrawBox(painter, rect, 0, palette.face, palette.border, LineWidth());
+  if (CRect(rect).Shrunk(LineWidth(), LineWidth()).IsEmpty()) return;
+  painter.FillRect(ProgressPart(rect, from, to, vertical), palette.accent);
+}
+
+int SliderThumbLength() {
+  return ScaleUnits(kSliderThumb);
 }
 
 void DrawSlider(Painter& painter, const RECT& rect, double fraction, bool vertical,
@@ -83,22 +92,42 @@ int ScrollBarWidth() {
   return ScaleUnits(kScrollBarWidth);
 }
 
-void DrawScrollBar(Painter& painter, const RECT& rect, double from, double to, bool vertical,
-                   const ControlState& state, const ControlPalette& palette) {
+int ShortestScrollThumb() {
+  return ScaleUnits(kShortestThumb);
+}
+
+void DrawScrollThumb(Painter& painter, const RECT& rect, bool vertical, const ControlState& state,
+                     const ControlPalette& palette) {
   CRect area(rect);
-  painter.FillRect(area, palette.background);
-  int length = Length(area, vertical);
-  int shortest = std::min(ScaleUnits(kShortestThumb), length);
-  int size = std::max(Part(Limited(to) - Limited(from), length), shortest);
-  int start = std::min(Part(from, length), length - size);
   int wide = vertical ? area.Width() : area.Height();
   int inset =
       ScaleUnits(state.hovered || state.pressed ? kScrollThumbInset - 1 : kScrollThumbInset);
   int thickness = std::max(wide - 2 * inset, LineWidth());
-  CRect thumb = Along(Band(area, vertical, thickness), vertical, start, start + size);
-  int margin = LineWidth();
-  CRect inner = vertical ? thumb.Shrunk(0, margin) : thumb.Shrunk(margin, 0);
-  painter.FillRoundRect(inner, thickness / 2, ThumbColor(state, palette));
+  CRect thumb = Band(area, vertical, thickness);
+  painter.FillRoundRect(thumb, thickness / 2, ThumbColor(state, palette));
+}
+
+void DrawScrollArrow(Painter& painter, const RECT& rect, ArrowDirection direction,
+                     const ControlState& state, const ControlPalette& palette) {
+  COLORREF color = state.enabled && (state.hovered || state.pressed) ? ThumbColor(state, palette)
+                                                                     : InkColor(state, palette);
+  painter.Arrow(rect, direction, color);
+}
+
+void DrawSplitHandle(Painter& painter, const RECT& rect, bool vertical, const ControlState& state,
+                     const ControlPalette& palette) {
+  CRect area(rect);
+  painter.FillRect(area, palette.background);
+  bool strong = state.hovered || state.pressed || (state.focused && state.focusCue);
+  COLORREF color = state.pressed || state.focusCue ? palette.accent
+                   : strong                        ? palette.hoverBorder
+                                                   : palette.border;
+  int grip = std::min(ScaleUnits(kSplitGrip), Length(area, vertical));
+  int start = (Length(area, vertical) - grip) / 2;
+  int thickness = strong ? ScaleUnits(2) : LineWidth();
+  CRect band = Band(area, vertical, thickness);
+  painter.FillRect(strong ? band : Along(band, vertical, start, start + grip), color);
+  if (state.focused && state.focusCue) painter.FocusRect(area, palette.text);
 }
 
 }  // namespace Theme
