@@ -1,0 +1,105 @@
+#include "GroupBox.h"
+
+#include "Event.h"
+#include "platform/VirtualKeys.h"
+#include "support/FormTest.h"
+
+namespace Wexa {
+namespace {
+
+class GroupBoxTest : public FormTest {
+ protected:
+  GroupBox& OpenGroup(const std::string& properties = "") {
+    Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "before")) +
+                    ItemXml(WidgetXml("QGroupBox", "group",
+                                      PropertyXml("title", "string", "&amp;Proxy") + properties +
+                                          "<layout class=\"QVBoxLayout\" name=\"l\">" +
+                                          ItemXml(WidgetXml("QLineEdit", "host")) +
+                                          ItemXml(WidgetXml("QLineEdit", "port")) + "</layout>"))));
+    return Find<GroupBox>(L"group");
+  }
+  std::string Checkable(const char* checked) {
+    return PropertyXml("checkable", "bool", "true") + PropertyXml("checked", "bool", checked);
+  }
+  bool IsEnabled(const wchar_t* name) { return Find<BaseGUIObject>(name).IsEnabled(); }
+  HWND Check() { return GetWindow(Find<GroupBox>(L"group").GetPlatformHandle(), GW_CHILD); }
+};
+
+TEST_F(GroupBoxTest, AnUncheckedBoxDisablesWhatIsInIt) {
+  GroupBox& group = OpenGroup(Checkable("false"));
+  EXPECT_FALSE(IsEnabled(L"host"));
+  EXPECT_TRUE(group.IsEnabled());
+  std::vector<bool> toggles;
+  group.Toggled.Connect([&](bool checked) { toggles.push_back(checked); });
+  robot_.ClickCentreOf(Check());
+  EXPECT_TRUE(group.IsChecked());
+  EXPECT_TRUE(IsEnabled(L"host"));
+  group.SetChecked(false);
+  group.SetChecked(false);
+  EXPECT_FALSE(IsEnabled(L"port"));
+  EXPECT_EQ(toggles, (std::vector{true, false}));
+}
+
+TEST_F(GroupBoxTest, WhatTheHostDisabledStaysDisabled) {
+  GroupBox& group = OpenGroup(Checkable("true"));
+  Find<BaseGUIObject>(L"port").Enable(false, true);
+  group.SetChecked(false);
+  group.SetChecked(true);
+  EXPECT_TRUE(IsEnabled(L"host"));
+  EXPECT_FALSE(IsEnabled(L"port"));
+}
+
+TEST_F(GroupBoxTest, TheCheckBoxWorksByKeyboard) {
+  GroupBox& group = OpenGroup(Checkable("true"));
+  dialog_->SetFocusToCtrl(&Find<BaseGUIObject>(L"before"));
+  robot_.Tab();
+  EXPECT_EQ(GetFocus(), Check());
+  robot_.Key(VK_SPACE);
+  EXPECT_FALSE(group.IsChecked());
+  robot_.AltKey(L'P');
+  EXPECT_TRUE(group.IsChecked());
+  robot_.Tab();
+  EXPECT_EQ(dialog_->GetFocusedCtrlPtr(), &Find<BaseGUIObject>(L"host"));
+}
+
+TEST_F(GroupBoxTest, APlainTitlesMnemonicLeadsIntoTheBox) {
+  OpenGroup();
+  robot_.AltKey(L'P');
+  EXPECT_EQ(dialog_->GetFocusedCtrlPtr(), &Find<BaseGUIObject>(L"host"));
+}
+
+TEST_F(GroupBoxTest, CheckableOrNotTheContentStartsBelowTheTitle) {
+  GroupBox& group = OpenGroup();
+  int plain = PlaceOf(L"host").Top();
+  group.SetCheckable(true);
+  Robot::PumpAll();
+  RECT check{};
+  GetWindowRect(Check(), &check);
+  EXPECT_GE(Find<BaseGUIObject>(L"host").GetWindowRect().Top(), check.bottom);
+  group.SetChecked(false);
+  group.SetCheckable(false);
+  Robot::PumpAll();
+  EXPECT_EQ(PlaceOf(L"host").Top(), plain);
+  EXPECT_TRUE(IsEnabled(L"host")) << "a plain box disables nothing";
+}
+
+TEST_F(GroupBoxTest, AHandlerMayDestroyTheDialog) {
+  OpenGroup(Checkable("true")).Toggled.Connect([this](bool) { dialog_.reset(); });
+  robot_.ClickCentreOf(Check());
+  EXPECT_EQ(dialog_, nullptr);
+}
+
+TEST_F(GroupBoxTest, AChildThatLosesTheFocusMayDestroyTheDialog) {
+  GroupBox& group = OpenGroup(Checkable("true"));
+  auto& host = Find<BaseGUIObject>(L"host");
+  dialog_->SetFocusToCtrl(&host);
+  host.SetEventProcedure([this](BaseGUIObject*, Event* event) {
+    if (event->GetType() == Event::FocusOut) dialog_.reset();
+    return false;
+  });
+  group.SetChecked(false);
+  EXPECT_EQ(dialog_, nullptr);
+}
+
+}  // namespace
+}  // namespace Wexa

@@ -1,0 +1,131 @@
+#include "ScrollArea.h"
+
+#include "Event.h"
+#include "platform/Theme.h"
+#include "platform/VirtualKeys.h"
+#include "support/FormTest.h"
+
+namespace Wexa {
+namespace {
+
+std::string RowsXml(int count, const std::string& className) {
+  std::string rows;
+  for (int i = 0; i < count; ++i)
+    rows += ItemXml(WidgetXml(className, "row" + std::to_string(i),
+                              PropertyXml("text", "string", "row " + std::to_string(i))));
+  return "<layout class=\"QVBoxLayout\" name=\"rows\">" + rows + "</layout>";
+}
+
+class ScrollAreaTest : public FormTest {
+ protected:
+  void OpenRows(int count, const std::string& className = "QPushButton", int width = 300) {
+    Open(ColumnForm(ItemXml(WidgetXml("QScrollArea", "area",
+                                      WidgetXml("QWidget", "content", RowsXml(count, className)))),
+                    width, 200));
+  }
+  Rect Area() { return Find<BaseGUIObject>(L"area").GetWindowRect(); }
+  // How far the content is scrolled down.
+  int Scrolled() {
+    return Area().Top() + 1 - Find<BaseGUIObject>(L"content").GetWindowRect().Top();
+  }
+  bool IsInside(const wchar_t* name) {
+    Rect row = Find<BaseGUIObject>(name).GetWindowRect();
+    return row.Top() >= Area().Top() && row.Bottom() <= Area().Bottom();
+  }
+  void Focus(const wchar_t* name) { dialog_->SetFocusToCtrl(&Find<BaseGUIObject>(name)); }
+  POINT InVerticalBar(int fromTop) {
+    return {Area().Right() - 1 - Theme::ScrollBarWidth() / 2, Area().Top() + fromTop};
+  }
+};
+
+TEST_F(ScrollAreaTest, SmallContentFillsTheView) {
+  OpenRows(2);
+  Rect content = Find<BaseGUIObject>(L"content").GetWindowRect();
+  EXPECT_EQ(content.Width(), Area().Width() - 2);
+  EXPECT_EQ(content.Height(), Area().Height() - 2);
+  robot_.Wheel(-1);
+  EXPECT_EQ(Scrolled(), 0);
+}
+
+TEST_F(ScrollAreaTest, LargeContentIsScrolledByTheBar) {
+  OpenRows(20);
+  Rect content = Find<BaseGUIObject>(L"content").GetWindowRect();
+  EXPECT_GT(content.Height(), 400);
+  EXPECT_EQ(content.Width(), Area().Width() - 2 - Theme::ScrollBarWidth());
+  robot_.Click(InVerticalBar(Area().Height() - 5));
+  int line = Scrolled();
+  EXPECT_GT(line, 0);
+  robot_.Click(InVerticalBar(Area().Height() - Theme::ScrollBarWidth() - 6));
+  EXPECT_GT(Scrolled(), line + 100) << "a page";
+  robot_.Drag(InVerticalBar(Area().Height() / 2), InVerticalBar(2000));
+  EXPECT_TRUE(IsInside(L"row19"));
+  robot_.Press(InVerticalBar(5));
+  robot_.AdvanceTime(3000);
+  robot_.Release();
+  EXPECT_EQ(Scrolled(), 0) << "a held arrow repeats";
+}
+
+TEST_F(ScrollAreaTest, WheelAndPageKeysScrollFromInside) {
+  OpenRows(20);
+  Focus(L"row0");
+  robot_.Wheel(-1);
+  int notch = Scrolled();
+  EXPECT_GT(notch, 0);
+  robot_.Key(VK_NEXT);
+  EXPECT_GT(Scrolled(), notch + 50);
+  robot_.Key(VK_PRIOR);
+  EXPECT_EQ(Scrolled(), notch);
+  robot_.Wheel(9);
+  EXPECT_EQ(Scrolled(), 0);
+}
+
+TEST_F(ScrollAreaTest, WhatGetsTheFocusIsScrolledIntoView) {
+  OpenRows(20);
+  Focus(L"row19");
+  EXPECT_TRUE(IsInside(L"row19"));
+  EXPECT_FALSE(IsInside(L"row0"));
+  robot_.Tab();
+  EXPECT_TRUE(IsInside(L"row0"));
+}
+
+TEST_F(ScrollAreaTest, ContentWithoutTabStopsIsScrolledThroughItsBar) {
+  OpenRows(20, "QLabel");
+  robot_.Tab();
+  robot_.Key(VK_DOWN);
+  EXPECT_GT(Scrolled(), 0);
+  robot_.Key(VK_END);
+  EXPECT_TRUE(IsInside(L"row19"));
+}
+
+TEST_F(ScrollAreaTest, MoreRoomScrollsBack) {
+  OpenRows(20);
+  Focus(L"row19");
+  dialog_->MoveWindow(0, 0, 400, 900, true);
+  Robot::PumpAll();
+  EXPECT_EQ(Scrolled(), 0);
+  EXPECT_TRUE(IsInside(L"row0") && IsInside(L"row19"));
+}
+
+TEST_F(ScrollAreaTest, RowsThatGoMakeTheBarGo) {
+  OpenRows(8);
+  int withBar = Find<BaseGUIObject>(L"content").GetWindowRect().Width();
+  for (const wchar_t* row : {L"row3", L"row4", L"row5", L"row6", L"row7"})
+    Find<BaseGUIObject>(row).Show(false, true);
+  Robot::PumpAll();
+  EXPECT_EQ(Find<BaseGUIObject>(L"content").GetWindowRect().Width(),
+            withBar + Theme::ScrollBarWidth());
+}
+
+TEST_F(ScrollAreaTest, AFocusChangeInsideMayDestroyTheDialog) {
+  OpenRows(20);
+  Focus(L"row0");
+  Find<BaseGUIObject>(L"row0").SetEventProcedure([this](BaseGUIObject*, Event* event) {
+    if (event->GetType() == Event::FocusOut) dialog_.reset();
+    return false;
+  });
+  Focus(L"row19");
+  EXPECT_EQ(dialog_, nullptr);
+}
+
+}  // namespace
+}  // namespace Wexa

@@ -1,0 +1,205 @@
+#include "TabView.h"
+
+#include "ChildDialog.h"
+#include "Event.h"
+#include "platform/DialogManager.h"
+#include "platform/Theme.h"
+#include "platform/VirtualKeys.h"
+#include "support/FormTest.h"
+
+namespace Wexa {
+namespace {
+
+std::string PageXml(const std::string& name, const std::string& title, const std::string& inner) {
+  return "<widget class=\"QWidget\" name=\"" + name + "\"><attribute name=\"title\"><string>" +
+         title + "</string></attribute><layout class=\"QVBoxLayout\" name=\"" + name + "Layout\">" +
+         ItemXml(inner) + "</layout></widget>";
+}
+
+std::string ThreePages() {
+  return ItemXml(WidgetXml("QTabWidget", "tabs",
+                           PageXml("one", "&amp;One", WidgetXml("QLineEdit", "edit1")) +
+                               PageXml("two", "&amp;Two", WidgetXml("QLineEdit", "edit2")) +
+                               PageXml("three", "T&amp;hree", WidgetXml("QLabel", "label3")))) +
+         ItemXml(WidgetXml("QLineEdit", "outside"));
+}
+
+class TabViewTest : public FormTest {
+ protected:
+  TabView& Tabs() { return Find<TabView>(L"tabs"); }
+  HWND Strip() { return GetWindow(Tabs().GetPlatformHandle(), GW_CHILD); }
+  bool IsShown(const wchar_t* page) { return Find<BaseGUIObject>(page).IsVisible(); }
+  void Focus(const wchar_t* name) { dialog_->SetFocusToCtrl(&Find<BaseGUIObject>(name)); }
+  bool HasFocus(const wchar_t* name) {
+    return GetFocus() == Find<BaseGUIObject>(name).GetPlatformHandle();
+  }
+  // The middle of a tab on the screen; all tabs fit.
+  POINT TabPoint(int index) {
+    POINT point{0, 8};
+    for (int i = 0; i <= index; ++i) {
+      int width = GetTextExtent(nullptr, Tabs().GetTabText(i), INT32_MAX, DT_SINGLELINE).cx +
+                  2 * Theme::TabPadding().cx;
+      point.x += i < index ? width : width / 2;
+    }
+    ClientToScreen(Strip(), &point);
+    return point;
+  }
+};
+
+TEST_F(TabViewTest, AClickShowsThePageAndTellsTheHost) {
+  Open(ColumnForm(ThreePages()));
+  std::vector<int> changes;
+  Tabs().CurrentChanged.Connect([&](int index) { changes.push_back(index); });
+  robot_.Click(TabPoint(1));
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 1);
+  EXPECT_TRUE(IsShown(L"two"));
+  EXPECT_FALSE(IsShown(L"one"));
+  robot_.Click(TabPoint(1));
+  EXPECT_EQ(changes, std::vector<int>{1});
+  EXPECT_EQ(GetFocus(), Strip());
+}
+
+TEST_F(TabViewTest, NextAndPreviousGoRound) {
+  Open(ColumnForm(ThreePages()));
+  Tabs().ActivatePreviousTab();
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 2);
+  Tabs().ActivateNextTab();
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 0);
+  Tabs().SetCurrentIndex(9);
+  Tabs().SetCurrentIndex(-1);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 0);
+  TabView empty;
+  empty.ActivateNextTab();
+  empty.ActivatePreviousTab();
+  empty.EnablePage(0, false, true);
+  EXPECT_EQ(empty.GetCurrentIndex(), -1);
+  EXPECT_EQ(empty.GetTabText(0), L"");
+}
+
+TEST_F(TabViewTest, ArrowsHomeAndEndMoveWithTheFocusOnTheStrip) {
+  Open(ColumnForm(ThreePages()));
+  SetFocus(Strip());
+  robot_.Key(VK_RIGHT);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 1);
+  robot_.Key(VK_END);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 2);
+  robot_.Key(VK_RIGHT);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 2) << "it does not go round";
+  robot_.Key(VK_HOME);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 0);
+  EXPECT_EQ(GetFocus(), Strip());
+  robot_.Tab();
+  EXPECT_TRUE(HasFocus(L"edit1"));
+  robot_.ShiftTab();
+  EXPECT_EQ(GetFocus(), Strip());
+}
+
+TEST_F(TabViewTest, ControlTabTurnsThePagesFromInside) {
+  Open(ColumnForm(ThreePages()));
+  Focus(L"edit1");
+  robot_.ControlKey(VK_TAB);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 1);
+  EXPECT_TRUE(HasFocus(L"edit2")) << "the focus leaves the hidden page";
+  robot_.ControlKey(VK_TAB);
+  EXPECT_EQ(GetFocus(), Strip()) << "nothing in the page takes it";
+  robot_.KeyDown(VK_SHIFT);
+  robot_.ControlKey(VK_TAB);
+  robot_.KeyUp(VK_SHIFT);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 1);
+  Focus(L"outside");
+  robot_.ControlKey(VK_TAB);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 1) << "only from inside";
+}
+
+TEST_F(TabViewTest, DisabledPagesAreSkippedAndNotClicked) {
+  Open(ColumnForm(ThreePages()));
+  Tabs().EnablePage(1, false, true);
+  robot_.Click(TabPoint(1));
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 0);
+  robot_.Key(VK_RIGHT);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 2);
+  robot_.AltKey(L'T');
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 2);
+  Tabs().EnablePage(1, true, true);
+  robot_.AltKey(L'T');
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 1);
+}
+
+TEST_F(TabViewTest, MnemonicsOfCaptionsWorkFromAnywhere) {
+  Open(ColumnForm(ThreePages()));
+  Focus(L"outside");
+  robot_.AltKey(L'H');
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 2);
+  EXPECT_EQ(GetFocus(), Strip());
+}
+
+TEST_F(TabViewTest, TabsThatDoNotFitAreScrolled) {
+  std::string pages;
+  for (int i = 0; i < 9; ++i)
+    pages += PageXml("p" + std::to_string(i), "A long caption", WidgetXml("QLabel", "l"));
+  Open(ColumnForm(ItemXml(WidgetXml("QTabWidget", "tabs", pages)), 320, 120));
+  EXPECT_LT(Tabs().GetWindowRect().Width(), 320);
+  RECT strip{};
+  GetWindowRect(Strip(), &strip);
+  POINT forward{strip.right - 5, strip.top + 8};
+  POINT first{strip.left + 5, strip.top + 8};
+  robot_.Click(forward);
+  robot_.Click(forward);
+  robot_.Click(first);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 2) << "the tab that was scrolled to the start";
+  Tabs().SetCurrentIndex(0);
+  robot_.Click(first);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 0) << "the current tab is brought into view";
+}
+
+TEST_F(TabViewTest, CaptionsAreCutAt255Characters) {
+  Open(ColumnForm(ThreePages()));
+  Tabs().SetTabText(0, std::wstring(300, L'x'));
+  EXPECT_EQ(Tabs().GetTabText(0).size(), 255u);
+  Tabs().SetTabText(-1, L"no");
+  Tabs().SetTabText(3, L"no");
+  EXPECT_EQ(Tabs().GetItemCount(), 3);
+}
+
+TEST_F(TabViewTest, RightToLeftMirrorsTabsAndArrows) {
+  Open(ColumnForm(ThreePages()));
+  POINT leftToRight = TabPoint(0);
+  CRect window;
+  GetWindowRect(Strip(), &window);
+  EXPECT_LT(leftToRight.x, (window.left + window.right) / 2);
+  for (HWND mirrored : {Tabs().GetPlatformHandle(), Strip()})
+    SetWindowLongPtrW(mirrored, GWL_EXSTYLE,
+                      GetWindowLongPtrW(mirrored, GWL_EXSTYLE) | WS_EX_LAYOUTRTL);
+  SetFocus(Strip());
+  robot_.Key(VK_LEFT);
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 1) << "the next tab stands to the left";
+  robot_.Click(TabPoint(2));
+  EXPECT_EQ(Tabs().GetCurrentIndex(), 2);
+  EXPECT_GT(TabPoint(0).x, (window.left + window.right) / 2);
+}
+
+TEST_F(TabViewTest, AHandlerMayDestroyTheDialog) {
+  for (int way = 0; way < 4; ++way) {
+    Open(ColumnForm(ThreePages()));
+    Tabs().CurrentChanged.Connect([this](int) { dialog_.reset(); });
+    SetFocus(Strip());
+    if (way == 0) robot_.Click(TabPoint(1));
+    if (way == 1) robot_.Key(VK_RIGHT);
+    if (way == 2) robot_.ControlKey(VK_TAB);
+    if (way == 3) robot_.AltKey(L'T');
+    EXPECT_EQ(dialog_, nullptr) << way;
+  }
+}
+
+TEST_F(TabViewTest, APageMayDestroyTheDialogWhenItIsHidden) {
+  Open(ColumnForm(ThreePages()));
+  Find<BaseGUIObject>(L"one").SetEventProcedure([this](BaseGUIObject*, Event* event) {
+    if (event->GetType() == Event::Hide) dialog_.reset();
+    return false;
+  });
+  robot_.Click(TabPoint(1));
+  EXPECT_EQ(dialog_, nullptr);
+}
+
+}  // namespace
+}  // namespace Wexa
