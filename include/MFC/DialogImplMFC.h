@@ -82,6 +82,7 @@ class Dialog::impl : public BaseImplMFC {
   void CreateElements();
   void ApplyTabOrder();
   void ArrangeFirstTime();
+  void ArrangeLayout(Layout& layout);
   DLGTEMPLATE& Template();
   void ChooseDefaultButton();
   void SettleFrame();

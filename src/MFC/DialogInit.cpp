@@ -132,15 +132,22 @@ void Dialog::impl::ApplyTabOrder() {
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
 }
 
+// What no layout places, the form does; it shares out its place by itself.
+void Dialog::impl::ArrangeFirstTime() {
+  if (Layout* layout = Links().layout) ArrangeLayout(*layout);
+  for (Element& element : elements_) {
+    BaseImplMFC& widget = *ImplOf(element.widget.get());
+    if (!widget.Links().layoutItem && widget.IsVisible()) widget.UpdateLayout();
+  }
+}
+
 // The first pass finds the dialog's limits; the window then takes a size within them, tall enough
 // for wrapped texts.
-void Dialog::impl::ArrangeFirstTime() {
-  Layout* layout = Links().layout;
-  if (!layout) return;
-  layout->RequestUpdate(false);
-  layout->Activate();
+void Dialog::impl::ArrangeLayout(Layout& layout) {
+  layout.RequestUpdate(false);
+  layout.Activate();
   int width = std::max(clientSize.Width(), MinimumSize().Width());
-  int height = layout->HasHeightForWidth() ? layout->TotalHeightForWidth(width) : 0;
+  int height = layout.HasHeightForWidth() ? layout.TotalHeightForWidth(width) : 0;
   ResizeClient(width, std::max(clientSize.Height(), height));
 }
 

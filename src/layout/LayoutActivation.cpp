@@ -163,6 +163,12 @@ void Layout::PrepareTree() {
   activated_ = true;
 }
 
+void Layout::StartAgain() {
+  PrepareTree();
+  activated_ = false;
+  requestPosted_ = false;
+}
+
 void Layout::ClearRequestsInTree() {
   requestPosted_ = false;
   for (int i = 0; LayoutItem* item = ItemAt(i); ++i) {
