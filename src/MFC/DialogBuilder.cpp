@@ -224,7 +224,7 @@ void DialogBuilder::GroupRadioButtons() {
     Key key;
     if (widget->Type() == GuiType::RadioButton) {
       auto* radio = static_cast<RadioButton::impl*>(ImplOf(widget));
-      key = {radio->groupName, parent};
+      key = {radio->groupName, radio->groupName.empty() ? parent : nullptr};
       groups[key].push_back(radio);
     }
     auto [place, isFirst] = previous.try_emplace(parent, key);

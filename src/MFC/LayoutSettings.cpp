@@ -1,6 +1,7 @@
 #include "MFC/LayoutSettings.h"
 
 #include <string>
+#include <string_view>
 
 #include "MFC/BaseImplMFC.h"
 #include "form/FormModel.h"
@@ -39,6 +40,13 @@ void ApplyMargins(Layout& layout, const FormNode& node) {
   layout.SetContentsMargins(sides[0], sides[1], sides[2], sides[3]);
 }
 
+// Newer forms name the enumeration as well.
+std::wstring WithoutEnumName(std::wstring text) {
+  constexpr std::wstring_view kEnumName = L"SizeConstraint::";
+  const auto at = text.find(kEnumName);
+  return at == text.npos ? text : text.erase(at, kEnumName.size());
+}
+
 void ApplyGridLists(GridLayout& grid, const FormNode& node) {
   ForEachNumber(node.Text(PropertyId::RowStretch),
                 [&](int row, int value) { grid.SetRowStretch(row, value); });
@@ -63,7 +71,8 @@ void ApplyLayoutSettings(Layout& layout, const FormNode& node) {
       grid->SetHorizontalSpacing(Scale(FormInteger(*horizontal)));
   }
   if (const std::wstring* text = node.Text(PropertyId::SizeConstraint))
-    if (auto constraint = SizeConstraintFromText(*text)) layout.SetSizeConstraint(*constraint);
+    if (auto constraint = SizeConstraintFromText(WithoutEnumName(*text)))
+      layout.SetSizeConstraint(*constraint);
 }
 
 void ApplyLayoutLists(Layout& layout, const FormNode& node) {

@@ -169,9 +169,12 @@ void RadioButton::impl::PaintOwnerDrawn() {
 
 // -- Input
 
-// Arrow keys and mnemonics click before they focus: only the focused and checked button reports.
+// The buttons of a group need not follow one another in their parent, so that the native button
+// does not know them. Arrow keys and mnemonics click before they focus: only the focused and
+// checked button reports.
 void RadioButton::impl::OnClicked() {
   HWND window = GetHandle();
+  if (IsChecked()) SetCheck();
   if (!Owner() || GetFocus() != window || !IsChecked()) return;
   auto* owner = static_cast<RadioButton*>(Owner());
   owner->Clicked();
