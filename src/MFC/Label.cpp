@@ -4,6 +4,7 @@
 
 #include "MFC/BaseImplMFC.h"
 #include "MFC/WidgetColors.h"
+#include "layout/WidgetLink.h"
 #include "platform/ControlConstants.h"
 #include "platform/Theme.h"
 
@@ -70,7 +71,7 @@ class Label::impl : public BaseImplMFC {
     InvalidateLayout();
   }
 
-  BaseGUIObject* buddy = nullptr;
+  WidgetLink buddy;
 
  protected:
   bool CreateNative(CWnd* parent) override {
@@ -133,11 +134,11 @@ void Label::SetFont(const FontData& font) {
   impl_->SetFont(font);
 }
 void Label::SetBuddy(BaseGUIObject* buddy) {
-  impl_->buddy = buddy;
+  impl_->buddy = WidgetLink(buddy);
   impl_->ChangeStyle(SS_NOPREFIX, buddy ? 0 : SS_NOPREFIX);
 }
 BaseGUIObject* Label::GetBuddy() const {
-  return impl_->buddy;
+  return impl_->buddy.Widget();
 }
 
 }  // namespace Wexa
