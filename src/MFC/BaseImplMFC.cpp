@@ -186,7 +186,7 @@ void BaseImplMFC::MoveWindow(int x, int y, int width, int height, bool) {
   bool isTopLevel = (window.GetStyle() & WS_CHILD) == 0;  // moved by its user, too
   if (place != lastGeometry_ || isTopLevel) window.MoveWindow(place.PlatformRect(), true);
   lastGeometry_ = place;
-  UpdateLayout();
+  if (GetHandle()) UpdateLayout();  // unless a handler closed the window
 }
 
 void BaseImplMFC::Resize(int width, int height) {

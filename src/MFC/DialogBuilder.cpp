@@ -42,6 +42,12 @@ bool IsVerticalSpacer(const FormNode& node, const FormNode* parentLayout) {
   return parentLayout && parentLayout->layoutKind == FormNode::LayoutKind::VBox;
 }
 
+// Below a custom skin any palette does: the dialog's colours show through.
+SkinMode ChildModeOf(const SkinManager& skin) {
+  const SkinMode mode = skin.GetRequestedMode();
+  return mode == SkinMode::Custom ? SkinMode::Default : mode;
+}
+
 Layout* MakeLayout(FormNode::LayoutKind kind, WexaObject* parent) {
   switch (kind) {
     case FormNode::LayoutKind::HBox: return new HBoxLayout(parent);
@@ -159,7 +165,7 @@ void DialogBuilder::BuildWidget(const FormNode& node, const Place& place) {
   widget->SetParent(place.widget);
   ImplOf(place.widget)->Children().push_back(widget.get());
   widget->GetSkinManager().InitSkinManager(&impl_.GetSkinManager(),
-                                           impl_.GetSkinManager().GetSkinMode());
+                                           ChildModeOf(impl_.GetSkinManager()));
   ApplyWidgetSettings(*widget, node, className);
   impl_.AddElement(node.name, widget);
   AddToolTip(node, widget);

@@ -180,7 +180,7 @@ void Dialog::impl::MoveWindow(int x, int y, int width, int height, bool) {
   Size client = WithinLimits({width - frame.Width(), height - frame.Height()});
   Rect place(x, y, client.Width() + frame.Width(), client.Height() + frame.Height());
   window.MoveWindow(place.PlatformRect(), true);
-  UpdateLayout();
+  if (GetHandle()) UpdateLayout();  // unless a handler closed the window
 }
 
 void Dialog::impl::ResizeClient(int width, int height) {
@@ -213,7 +213,7 @@ void Dialog::impl::InitSkin() {
   if (global.GetSkinMode() == SkinMode::Custom) {
     GetSkinManager().SetCustomSkin(global);
   } else {
-    GetSkinManager().InitSkinManager(&global, global.GetSkinMode());
+    GetSkinManager().InitSkinManager(&global, global.GetRequestedMode());
   }
 }
 

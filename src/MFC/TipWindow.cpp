@@ -22,8 +22,9 @@ constexpr int kGap = 8;
 constexpr int kTitleGap = 4;
 constexpr int kIconSide = 16;
 constexpr int kTextWidth = 320;
-constexpr COLORREF kWarning = RGB(157, 93, 0);
-constexpr COLORREF kError = RGB(196, 43, 28);
+// On light and on dark faces.
+constexpr COLORREF kWarning[] = {RGB(157, 93, 0), RGB(255, 200, 61)};
+constexpr COLORREF kError[] = {RGB(196, 43, 28), RGB(255, 145, 135)};
 
 void RegisterOnce() {
   static const WNDCLASSW description{kWindowClass, DefWindowProcW, 0, nullptr};
@@ -51,8 +52,10 @@ SIZE IconSizeOf(const TipContent& content) {
 
 COLORREF IconColor(BalloonTipIconType icon, const TipColors& colors) {
   if (WexaUtils::IsSystemHighContrastMode()) return colors.text;
-  if (icon == BalloonTipIconType::Warning) return kWarning;
-  return icon == BalloonTipIconType::Error ? kError : colors.accent;
+  if (icon == BalloonTipIconType::Information) return colors.accent;
+  const auto& signs = icon == BalloonTipIconType::Warning ? kWarning : kError;
+  const bool isDark = Contrast(signs[1], colors.face) > Contrast(signs[0], colors.face);
+  return signs[isDark ? 1 : 0];
 }
 
 }  // namespace
@@ -140,7 +143,7 @@ void TipWindow::PaintIcon(Painter& painter, const CRect& place) const {
   if (content_.picture) return painter.Picture(content_.picture.get(), place);
   painter.FillEllipse(place, IconColor(content_.icon, colors_));
   if (content_.icon == BalloonTipIconType::Error)
-    return painter.Cross(place.Shrunk(Scale(2), Scale(2)), colors_.face);
+    return painter.Cross(place, colors_.face);
   const wchar_t* mark = content_.icon == BalloonTipIconType::Warning ? L"!" : L"i";
   painter.Text(mark, place, DT_CENTER | DT_VCENTER | DT_SINGLELINE, font_, colors_.face);
 }

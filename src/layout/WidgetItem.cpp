@@ -72,7 +72,7 @@ Orientation WidgetItem::ExpandingDirections() {
   return layout ? own | InnerExpanding(policy, *layout) : own;
 }
 
-// Moving may destroy the widget, its layout and this item.
+// Moving may destroy the widget, its layout and this item, or close its window.
 void WidgetItem::SetGeometry(const Rect& rect) {
   if (IsEmpty()) return;
   const WidgetLink link = link_;
@@ -84,7 +84,8 @@ void WidgetItem::SetGeometry(const Rect& rect) {
   link.Widget()->MoveWindow(place.Left(), SaturatedSum(place.Top(), -scrolled), place.Width(),
                             place.Height(), true);
   if (link && isSizedComboBox) link.Impl()->RefreshDropDownSelection();
-  if (link && link.Impl()->LayoutGeometry() != before) link.Widget()->Update();
+  const bool moved = link && link.Impl()->LayoutGeometry() != before;
+  if (moved && link.Impl()->GetHandle()) link.Widget()->Update();
 }
 
 Rect WidgetItem::Geometry() {

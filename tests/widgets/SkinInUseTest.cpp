@@ -25,7 +25,7 @@ class SkinInUseTest : public FormTest {
   ~SkinInUseTest() override {
     SetSystemScheme(SystemScheme::Light);
     WexaConfig::Instance().FollowSystemColors();
-    SetGlobalSkinMode(SkinMode::Default);
+    WexaConfig::Instance().globalSkin.SetSkinMode(SkinMode::Default);
   }
 
   BaseGUIObject& Widget(const wchar_t* name) { return Find<BaseGUIObject>(name); }
@@ -137,6 +137,15 @@ TEST_F(SkinInUseTest, ExplicitColorsOutliveAChangeOfTheSystem) {
   SlotOf(L"a", Slot::kInputFace) = 0x102030UL;
   SetSystemScheme(SystemScheme::HighContrast);
   Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), Pixel(0x102030));
+}
+
+TEST_F(SkinInUseTest, AGlobalCustomSkinColorsAllWidgetsOfADialog) {
+  SkinManager custom(SkinMode::Dark);
+  custom.Slot(Slot::kInputFace) = 0x102030UL;
+  SetGlobalCustomSkin(custom);
+  Open(ColumnForm(EditXml("a")));
+  EXPECT_EQ(DialogFace(), 0x4A4A4Au);
   EXPECT_EQ(FaceOf(L"a"), Pixel(0x102030));
 }
 
