@@ -22,11 +22,6 @@ bool RangeControl::impl::CreateNative(CWnd* parent) {
   return InteractiveImpl::CreateNative(parent);
 }
 
-void RangeControl::impl::SetSizes(Size ideal, Size minimum) {
-  ideal_ = ideal;
-  minimum_ = minimum;
-}
-
 Size RangeControl::impl::Turned(Size size) const {
   return IsVertical() ? Size(size.Height(), size.Width()) : size;
 }

@@ -12,20 +12,18 @@ class RangeControl::impl : public InteractiveImpl {
   impl(RangeControl* owner, std::shared_ptr<RangeWnd> window);
 
   RangeWnd& Bar() { return static_cast<RangeWnd&>(Shown()); }
-  Size IdealSize() override { return Turned(ideal_); }
-  Size MinimumIdealSize() override { return Turned(minimum_); }
+  Size IdealSize() override { return Turned(LyingIdealSize()); }
+  Size MinimumIdealSize() override { return Turned(LyingMinimumSize()); }
 
  protected:
   bool CreateNative(CWnd* parent) override;
   virtual bool IsVertical() const = 0;
-  // As for a horizontal bar.
-  void SetSizes(Size ideal, Size minimum);
+  // Of a horizontal bar.
+  virtual Size LyingIdealSize() const = 0;
+  virtual Size LyingMinimumSize() const = 0;
 
  private:
   Size Turned(Size size) const;
-
-  Size ideal_;
-  Size minimum_;
 };
 
 }  // namespace Wexa

@@ -13,10 +13,7 @@ constexpr int kSmallestLength = 40;
 
 class ScrollBarImpl : public RangeControl::impl {
  public:
-  explicit ScrollBarImpl(RangeControl* owner) : impl(owner, std::make_shared<ScrollBarWnd>()) {
-    int width = Theme::ScrollBarWidth();
-    SetSizes({Scale(kIdealLength), width}, {Scale(kSmallestLength), width});
-  }
+  explicit ScrollBarImpl(RangeControl* owner) : impl(owner, std::make_shared<ScrollBarWnd>()) {}
 
   void FillPalette(ControlPalette& palette) override {
     FillScrollPalette(palette, GetSkinManager());
@@ -24,6 +21,10 @@ class ScrollBarImpl : public RangeControl::impl {
 
  protected:
   bool IsVertical() const override { return (Creation().style & SBS_VERT) != 0; }
+  Size LyingIdealSize() const override { return {Scale(kIdealLength), Theme::ScrollBarWidth()}; }
+  Size LyingMinimumSize() const override {
+    return {Scale(kSmallestLength), Theme::ScrollBarWidth()};
+  }
 };
 
 }  // namespace

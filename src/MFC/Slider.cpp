@@ -17,9 +17,7 @@ constexpr int kThickness = 24;
 
 class SliderImpl : public RangeControl::impl {
  public:
-  explicit SliderImpl(RangeControl* owner) : impl(owner, std::make_shared<SliderWnd>()) {
-    SetSizes(Scale(kIdealLength, kThickness), Scale(kSmallestLength, kThickness));
-  }
+  explicit SliderImpl(RangeControl* owner) : impl(owner, std::make_shared<SliderWnd>()) {}
 
   void FillPalette(ControlPalette& palette) override {
     FillInputPalette(palette, GetSkinManager());
@@ -28,6 +26,8 @@ class SliderImpl : public RangeControl::impl {
 
  protected:
   bool IsVertical() const override { return (Creation().style & TBS_VERT) != 0; }
+  Size LyingIdealSize() const override { return Scale(kIdealLength, kThickness); }
+  Size LyingMinimumSize() const override { return Scale(kSmallestLength, kThickness); }
 };
 
 SliderWnd& WindowOf(RangeControl::impl& impl) {
