@@ -24,6 +24,7 @@ Examples:
   wexa-preview settings.ui                            work in the dialog
   wexa-preview --png shot.png --scale 1.5 --skin dark settings.ui
   wexa-preview --dump - --size 400x300 --size 800x600 settings.ui
+  wexa-preview --language de --plain --working-dir host settings.ui
   wexa-preview --report forms/                        one JSON line for each form
 
 Exit status: 0 all went well, 1 a form or a file failed, 2 wrong options.)";
@@ -72,6 +73,19 @@ void AddLooks(CLI::App& app, Options& options) {
       ->check(CLI::IsMember({"offscreen", "x11"}));
 }
 
+void AddLanguage(CLI::App& app, Options& options) {
+  auto* language = app.add_option("--language", options.language,
+                                  "Open the forms in this language, such as de or pt_BR");
+  language->type_name("CODE");
+  app.add_option(
+         "--working-dir", options.workingDir,
+         "The folder that has the language files in lang/CODE; the current one if not given")
+      ->type_name("DIR")
+      ->check(CLI::ExistingDirectory)
+      ->needs(language);
+  app.add_flag("--plain", options.plain, "The language files are not encrypted")->needs(language);
+}
+
 void AddOptions(CLI::App& app, Options& options) {
   app.footer(kExamples);
   app.set_version_flag("--version", "wexa-preview " WEXA_VERSION);
@@ -82,6 +96,7 @@ void AddOptions(CLI::App& app, Options& options) {
   dump->type_name("FILE");
   AddSizes(app, options.sizes);
   AddLooks(app, options);
+  AddLanguage(app, options);
   app.add_flag("--report", options.report, "Time each form; one line of JSON for each")
       ->excludes(png)
       ->excludes(dump);

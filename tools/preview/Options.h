@@ -15,8 +15,11 @@ struct Options {
   std::string dump;                // the JSON's file, "-" for standard output; empty for none
   std::vector<Wexa::Size> sizes;   // client sizes in pixels, in the order given
   std::optional<double> scale;
-  std::string skin;     // "light", "dark", "contrast"; empty for the desktop's
-  std::string display;  // "offscreen", "x11"; empty for what is there
+  std::string skin;        // "light", "dark", "contrast"; empty for the desktop's
+  std::string display;     // "offscreen", "x11"; empty for what is there
+  std::string language;    // a code as TS files write it; empty for none
+  std::string workingDir;  // the folder of "lang"; empty for the current one
+  bool plain = false;      // language files are not encrypted
   bool rightToLeft = false;
   bool report = false;
 

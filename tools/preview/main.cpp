@@ -8,6 +8,7 @@
 #include "preview/Dump.h"
 #include "preview/ExitStatus.h"
 #include "preview/FormFiles.h"
+#include "preview/Language.h"
 #include "preview/Options.h"
 #include "preview/Preview.h"
 #include "preview/PreviewWindow.h"
@@ -77,6 +78,7 @@ int Run(const Options& options) {
     return kWrongOptions;
   }
   Apply(options);
+  for (const std::string& warning : LoadLanguage(options)) PrintError(warning);
   OpenDisplay();
   bool ok = true;
   for (const std::string& file : forms)
