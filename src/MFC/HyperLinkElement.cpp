@@ -14,6 +14,7 @@ namespace Wexa {
 namespace {
 
 constexpr UINT kFormat = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
+constexpr int kFocusGap = 2;  // around the text
 
 // The palette's faces carry the link's colours: text at rest, pressedText, hoverFace.
 class LinkWnd : public InteractiveWnd {
@@ -28,7 +29,8 @@ class LinkWnd : public InteractiveWnd {
     painter.Text(GetWindowText(), text, kFormat, Font(), color);
     int line = std::max(Scale(1), 1);
     painter.FillRect(CRect(text.left, text.bottom - line, text.right, text.bottom), color);
-    if (State().focusCue) painter.FocusRect(client, color);
+    int gap = Scale(kFocusGap);
+    if (State().focusCue) painter.FocusRect(text.Shrunk(-gap, -gap), color);
   }
 
   void OnHover(POINT point) override { SetOver(TextRect(GetClientRect()).Contains(point)); }
@@ -63,8 +65,10 @@ class LinkWnd : public InteractiveWnd {
  private:
   CRect TextRect(const CRect& client) const {
     SIZE text = GetTextExtent(Font(), GetWindowText(), INT32_MAX, kFormat);
+    int gap = Scale(kFocusGap);
     int top = client.top + std::max((client.Height() - static_cast<int>(text.cy)) / 2, 0);
-    return {client.left, top, std::min(client.right, client.left + text.cx),
+    int left = client.left + gap;
+    return {left, top, std::min(client.right - gap, left + text.cx),
             std::min(client.bottom, top + text.cy)};
   }
 
@@ -104,7 +108,8 @@ class HyperLinkElement::impl : public InteractiveImpl {
 
   Size IdealSize() override {
     SIZE text = GetTextExtent(Font(), Text(), INT32_MAX, kFormat);
-    return {text.cx, text.cy};
+    int around = 2 * Scale(kFocusGap);
+    return {text.cx + around, text.cy + around};
   }
   Size MinimumIdealSize() override { return IdealSize(); }
 

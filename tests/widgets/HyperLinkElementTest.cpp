@@ -28,9 +28,10 @@ class HyperLinkElementTest : public FormTest {
   }
   // The colour of the line under the text, as 0x00RRGGBB.
   std::uint32_t Ink() {
-    Size size = Link().GetClientRect().GetSize();
-    int height = Link().IdealSize().Height();
-    return Robot::PixelAt(Link().GetPlatformHandle(), 1, (size.Height() - height) / 2 + height - 1);
+    constexpr int kGap = 2;
+    int height = Link().IdealSize().Height() - 2 * kGap;
+    int top = (Link().GetClientRect().Height() - height) / 2;
+    return Robot::PixelAt(Link().GetPlatformHandle(), kGap, top + height - 1);
   }
   void Color(int slot, int color) {
     Link().GetSkinManager().Slot(slot) = static_cast<unsigned long>(SwapRedAndBlue(color));
