@@ -39,8 +39,16 @@ void Make(benchmark::State& state) {
   }
   state.counters["bytes"] = BytesOfOne<Widget>();
 }
-BENCHMARK(Make<Wexa::Button>)->UseManualTime()->Unit(benchmark::kMicrosecond)->Name("MakeButton");
-BENCHMARK(Make<Wexa::Label>)->UseManualTime()->Unit(benchmark::kMicrosecond)->Name("MakeLabel");
+BENCHMARK(Make<Wexa::Button>)
+    ->UseManualTime()
+    ->Iterations(2000)
+    ->Unit(benchmark::kMicrosecond)
+    ->Name("MakeButton");
+BENCHMARK(Make<Wexa::Label>)
+    ->UseManualTime()
+    ->Iterations(2000)
+    ->Unit(benchmark::kMicrosecond)
+    ->Name("MakeLabel");
 
 }  // namespace
 }  // namespace bench
