@@ -237,6 +237,25 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{"--png missing/x.png rows.ui", 1, "missing/x.png"},
                     Refusal{"--dump missing/x.json rows.ui", 1, "missing/x.json"}));
 
+TEST_F(PreviewTest, AKeyMapColorsThePicture) {
+  tool_.Write("keys.txt", "; colours\n\nActive_BG = #123456\nprimary_text=#FFFFFF\n");
+  EXPECT_EQ(tool_.Run("--png plain.png rows.ui").status, 0);
+  EXPECT_EQ(tool_.Run("--png colored.png --keymap keys.txt rows.ui").status, 0);
+  EXPECT_EQ(SizeOfPng(tool_.Read("plain.png")), SizeOfPng(tool_.Read("colored.png")));
+  EXPECT_NE(tool_.Read("plain.png"), tool_.Read("colored.png"));
+}
+
+TEST_F(PreviewTest, ABrokenKeyMapIsRefusedWithItsLine) {
+  for (const char* line : {"Active_BG", "Active_BG = 123456", "Active_BG = #12345", "= #123456",
+                           "Active_BG = #123456 or so"}) {
+    tool_.Write("keys.txt", std::string("Active_BG = #123456\n") + line + "\n");
+    const Outcome outcome = tool_.Run("--png x.png --keymap keys.txt rows.ui");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.errors, HasSubstr("keys.txt:2: "));
+  }
+  EXPECT_THAT(tool_.Run("--keymap none.txt rows.ui").errors, HasSubstr("Cannot read none.txt"));
+}
+
 TEST_F(PreviewTest, HelpAndVersionSucceed) {
   const Outcome help = tool_.Run("--help");
   EXPECT_EQ(help.status, 0);

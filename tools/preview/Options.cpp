@@ -8,6 +8,7 @@
 #include "WexaConfig.h"
 #include "platform/SystemColors.h"
 #include "preview/ExitStatus.h"
+#include "preview/KeyMapFile.h"
 
 namespace preview {
 namespace {
@@ -67,6 +68,8 @@ void AddLooks(CLI::App& app, Options& options) {
   app.add_option("--skin", options.skin, "Colours; the desktop's when not given")
       ->type_name("NAME")
       ->check(CLI::IsMember({"light", "dark", "contrast"}));
+  app.add_option("--keymap", options.keyMap, "Colours of the dialogs: lines Key = #RRGGBB")
+      ->type_name("FILE");
   app.add_flag("--rtl", options.rightToLeft, "Lay out from right to left");
   app.add_option("--display", options.display, "Where to show it")
       ->type_name("NAME")
@@ -142,6 +145,8 @@ void Apply(const Options& options) {
     SetSystemScheme(SystemScheme::Dark);  // for what skins leave to the desktop: the frame
     Wexa::SetGlobalSkinMode(Wexa::SkinMode::Dark);
   }
+  if (!options.keyMap.empty())
+    Wexa::InitSkinColorByMap(Wexa::SkinMap::Inputs, ReadKeyMap(options.keyMap));
   if (options.rightToLeft) Wexa::SetLayoutRTL(true);
 }
 

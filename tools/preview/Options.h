@@ -16,6 +16,7 @@ struct Options {
   std::vector<Wexa::Size> sizes;   // client sizes in pixels, in the order given
   std::optional<double> scale;
   std::string skin;        // "light", "dark", "contrast"; empty for the desktop's
+  std::string keyMap;      // a file of colours by key; empty for none
   std::string display;     // "offscreen", "x11"; empty for what is there
   std::string language;    // a code as TS files write it; empty for none
   std::string workingDir;  // the folder of "lang"; empty for the current one
@@ -35,7 +36,8 @@ struct CommandLine {
 // Prints the help, the version or what is wrong with the options.
 CommandLine ReadCommandLine(int argc, char** argv);
 
-// Sets display, scale, skin and direction. Before the first use of the library.
+// Sets display, scale, skin, colours and direction. Before the first use of the library. Throws
+// std::runtime_error for a key map that cannot be read.
 void Apply(const Options& options);
 
 }  // namespace preview

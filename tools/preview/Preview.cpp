@@ -5,8 +5,15 @@
 #include "preview/FormFiles.h"
 
 namespace preview {
+
+void UseKeyMap(Wexa::Dialog& dialog) {
+  dialog.SetSkinMode(Wexa::SkinMode::XML, false);  // refused when there is no map
+}
+
 Preview::Preview(const std::string& file)
-    : dialog_(LibraryPath(file), nullptr, 0, WexaUtils::GetScaleFactor()) {}
+    : dialog_(LibraryPath(file), nullptr, 0, WexaUtils::GetScaleFactor()) {
+  UseKeyMap(dialog_);
+}
 
 void Preview::Show() {
   dialog_.DoModeless(true);

@@ -7,6 +7,9 @@
 
 namespace preview {
 
+// Gives the dialog the colours of the key map, if there is one.
+void UseKeyMap(Wexa::Dialog& dialog);
+
 // A form's dialog, shown without a modal loop so that it can be sized, measured and pictured.
 class Preview {
  public:

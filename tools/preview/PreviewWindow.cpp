@@ -10,6 +10,7 @@
 #include "display/offscreen/OffscreenDisplay.h"
 #include "platform/Classes.h"
 #include "preview/FormFiles.h"
+#include "preview/Preview.h"
 
 namespace preview {
 namespace {
@@ -53,6 +54,7 @@ class WindowDialog : public Dialog {
  public:
   WindowDialog(const std::wstring& file, std::optional<Wexa::Size> client)
       : Dialog(file, nullptr, 0, WexaUtils::GetScaleFactor()), client_(client) {
+    UseKeyMap(*this);
     for (const auto& element : GetImpl()->Elements()) Connect(*element.widget);
   }
 
