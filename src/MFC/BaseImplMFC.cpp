@@ -89,7 +89,6 @@ CWnd& BaseImplMFC::Window() {
 // -- Creation -----------------------------------------------------------------
 
 bool BaseImplMFC::Create(HWND parent) {
-  if (lastGeometry_ != Rect() && Links().layout) Links().layout->StartAgain();
   lastGeometry_ = Rect();
   if (!IsWindow(parent) || !CreateNative(CWnd::FromHandle(parent))) return false;
   AttachWindowProcedure();

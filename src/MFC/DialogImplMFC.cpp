@@ -199,7 +199,7 @@ void Dialog::impl::SetFixedSize(Size size) {
 
 void Dialog::impl::OnGetMinMaxInfo(MINMAXINFO& info) {
   Size frame = FrameSize();
-  Size least = MinimumSize();
+  Size least = WithinSurfaceLimits(MinimumSize());
   Size most = WithinSurfaceLimits(MaximumSize());
   info.ptMinTrackSize = {least.Width() + frame.Width(), least.Height() + frame.Height()};
   info.ptMaxTrackSize = {most.Width() + frame.Width(), most.Height() + frame.Height()};

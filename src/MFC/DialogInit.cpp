@@ -132,8 +132,11 @@ void Dialog::impl::ApplyTabOrder() {
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
 }
 
-// What no layout places, the form does; it shares out its place by itself.
+// Sizes and places from before all windows were there mean nothing. What no layout places, the form
+// does; it shares out its place by itself.
 void Dialog::impl::ArrangeFirstTime() {
+  for (Element& element : elements_)
+    if (Layout* layout = ImplOf(element.widget.get())->Links().layout) layout->StartAgain();
   if (Layout* layout = Links().layout) ArrangeLayout(*layout);
   for (Element& element : elements_) {
     BaseImplMFC& widget = *ImplOf(element.widget.get());
@@ -141,14 +144,15 @@ void Dialog::impl::ArrangeFirstTime() {
   }
 }
 
-// The first pass finds the dialog's limits; the window then takes a size within them, tall enough
-// for wrapped texts.
+// The first pass finds the dialog's limits; the window then takes a size within them in which all
+// has its place, even where the form allows less, and tall enough for wrapped texts.
 void Dialog::impl::ArrangeLayout(Layout& layout) {
   layout.RequestUpdate(false);
   layout.Activate();
-  int width = std::max(clientSize.Width(), MinimumSize().Width());
+  const Size least = layout.TotalMinimumSize().GetInflated(MinimumSize());
+  int width = std::max(clientSize.Width(), least.Width());
   int height = layout.HasHeightForWidth() ? layout.TotalHeightForWidth(width) : 0;
-  ResizeClient(width, std::max(clientSize.Height(), height));
+  ResizeClient(width, std::max({clientSize.Height(), least.Height(), height}));
 }
 
 // -- Default button

@@ -109,7 +109,7 @@ class Layout : public WexaObject, public LayoutItem {
   void WidgetEvent(Event* event);
   // The posted request has arrived; the next one is posted again.
   void ClearRequestPosted() { requestPosted_ = false; }
-  // The widget's window is made again: nothing in it has its place, no request is under way.
+  // The windows in the widget are new: nothing has its place, no request is under way.
   void StartAgain();
   // Marks this layout and those that hold it, up to the first widget.
   void MarkDirtyUpward();
