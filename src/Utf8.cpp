@@ -2,26 +2,46 @@
 
 #include <utf8.h>
 
+#include <algorithm>
+
 namespace Wexa {
 
 namespace {
 
-// Without branches, so that the compiler can look at many bytes at once.
-bool IsAscii(std::string_view bytes) {
+constexpr std::size_t kBlock = 16;
+
+// Without branches, so that the compiler can look at all bytes at once.
+bool IsAscii(const char* block) {
   unsigned char all = 0;
-  for (const char byte : bytes) all |= static_cast<unsigned char>(byte);
+  for (std::size_t i = 0; i < kBlock; ++i) all |= static_cast<unsigned char>(block[i]);
   return all < 0x80;
+}
+
+// Widens blocks of plain ASCII, up to the first other one.
+void WidenAscii(const char*& from, const char* end, wchar_t*& to) {
+  while (static_cast<std::size_t>(end - from) >= kBlock && IsAscii(from)) {
+    for (std::size_t i = 0; i < kBlock; ++i) to[i] = static_cast<wchar_t>(from[i]);
+    from += kBlock;
+    to += kBlock;
+  }
 }
 
 }  // namespace
 
-std::optional<std::wstring> WidenUtf8(std::string_view bytes) {
-  if (IsAscii(bytes)) return std::wstring(bytes.begin(), bytes.end());
-  if (utf8::find_invalid(bytes.begin(), bytes.end()) != bytes.end()) return std::nullopt;
+std::optional<std::wstring> WidenUtf8(std::string_view bytes) try {
   std::wstring text(bytes.size(), L'\0');
-  const wchar_t* end = utf8::unchecked::utf8to32(bytes.begin(), bytes.end(), text.data());
-  text.resize(static_cast<std::size_t>(end - text.data()));
+  const char* from = bytes.data();
+  const char* const end = from + bytes.size();
+  wchar_t* to = text.data();
+  while (from < end) {
+    WidenAscii(from, end, to);
+    const char* const blockEnd = from + std::min(kBlock, static_cast<std::size_t>(end - from));
+    while (from < blockEnd) *to++ = static_cast<wchar_t>(utf8::next(from, end));
+  }
+  text.resize(static_cast<std::size_t>(to - text.data()));
   return text;
+} catch (const utf8::exception&) {
+  return std::nullopt;
 }
 
 std::string NarrowUtf8(std::wstring_view text) {

@@ -24,17 +24,15 @@ void Encrypter::RC4CryptBlock(std::vector<unsigned char>& data) {
 }
 
 std::wstring Encrypter::ReadAndDecryptFile(const std::wstring& path) try {
-  const auto bytes = Wexa::ReadFile(path);
+  auto bytes = Wexa::ReadFile(path);
   if (!bytes || bytes->size() <= kDigestLength) return {};
-  std::vector<unsigned char> payload(bytes->begin(), bytes->end());
+  const auto length = bytes->size() - kDigestLength;
+  auto* data = reinterpret_cast<unsigned char*>(bytes->data());
   unsigned char digest[kDigestLength];
-  const auto length = payload.size() - kDigestLength;
-  MD5Generate(payload.data(), static_cast<unsigned int>(length), digest);
-  if (!std::equal(digest, std::end(digest),
-                  payload.begin() + static_cast<std::ptrdiff_t>(length))) {
-    return {};
-  }
-  payload.resize(length);
+  MD5Generate(data, static_cast<unsigned int>(length), digest);
+  if (!std::equal(digest, std::end(digest), data + length)) return {};
+  std::vector<unsigned char> payload(data, data + length);
+  bytes.reset();
   RC4CryptBlock(payload);
   return TextOf(payload);
 } catch (const std::exception&) {

@@ -100,8 +100,12 @@ void Translator::MergeFormTranslations(const std::wstring& name) {
 void Translator::ReadFormTranslations(const std::wstring& path) {
   TsLines lines;
   try {
-    const auto unit = LoadTsText(ReadOrDiagnose(path), GetCurrentLanguage(), lines);
-    if (unit) unit_.AppendTsTranslationUnit(*unit);
+    auto unit = LoadTsText(ReadOrDiagnose(path), GetCurrentLanguage(), lines);
+    if (unit && unit_.GetMessageMap().empty()) {
+      unit_ = std::move(*unit);
+    } else if (unit) {
+      unit_.AppendTsTranslationUnit(*unit);
+    }
   } catch (const XmlParseError& error) {
     Diagnose(path, error.Line(), Widen(error.what()));
   } catch (const std::logic_error&) {

@@ -12,7 +12,7 @@ namespace {
 
 struct Location {
   int line;
-  std::wstring fileName;
+  std::wstring_view fileName;  // in the document
 };
 
 void Replace(std::wstring& text, wchar_t character, const wchar_t* reference) {
@@ -61,9 +61,11 @@ class TsReader {
         translation = TextOf(*part);
       }
     }
-    const std::wstring escaped = EscapeForXml(std::move(translation));
-    for (auto& location : locations_) {
-      unit_.AddMessageFromTS(std::move(location.fileName), location.line, escaped);
+    std::wstring escaped = EscapeForXml(std::move(translation));
+    for (const auto& location : locations_) {
+      const bool last = &location == &locations_.back();
+      unit_.AddMessageFromTS(std::wstring(location.fileName), location.line,
+                             last ? std::move(escaped) : escaped);
     }
   }
 
@@ -71,14 +73,13 @@ class TsReader {
     const auto path = AttributeOf(element, L"filename");
     const auto line = AttributeOf(element, L"line");
     if (!path || !line) return;
-    const auto name = path->substr(path->rfind(L'/') + 1);
-    locations_.push_back({ReadLine(element, *line), std::wstring(name)});
+    locations_.push_back({ReadLine(element, *line), path->substr(path->rfind(L'/') + 1)});
   }
 
   int ReadLine(const XmlNode& element, std::wstring_view number) {
     if (lines_.relative == 0 && IsRelative(number)) lines_.relative = document_.LineOf(element);
     try {
-      return std::stoi(std::wstring(number));
+      return std::stoi(number_.assign(number));
     } catch (const std::logic_error&) {
       lines_.bad = document_.LineOf(element);
       throw;
@@ -88,6 +89,7 @@ class TsReader {
   const XmlDocument& document_;
   TsLines& lines_;
   std::vector<Location> locations_;  // of the message being read
+  std::wstring number_;              // kept for its memory
   TSTranslationUnit unit_;
 };
 

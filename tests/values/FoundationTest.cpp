@@ -99,6 +99,16 @@ TEST(Utf8, WidensOneCharacterForEachCodePoint) {
   EXPECT_EQ(WidenUtf8(""), L"");
 }
 
+TEST(Utf8, WidensCharactersAtEveryPlaceOfALongText) {
+  for (std::size_t before = 0; before < 40; ++before) {
+    const std::string ascii(before, 'a');
+    EXPECT_EQ(WidenUtf8(ascii + "\xE4\xB8\xBC" + std::string(40, 'b')),
+              std::wstring(before, L'a') + L"\u4E3C" + std::wstring(40, L'b'));
+    EXPECT_EQ(WidenUtf8(ascii + "\xE4\xB8"), std::nullopt);
+    EXPECT_EQ(WidenUtf8(ascii + "\xFF" + std::string(40, 'b')), std::nullopt);
+  }
+}
+
 TEST(Utf8, RefusesWhatIsNotWellFormed) {
   for (const char* bytes :
        {"\x80", "\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "a\xFF"}) {
