@@ -86,7 +86,8 @@ class TextLine {
   std::unique_ptr<Impl> impl_;
 };
 
-// The screen's resolution, set once by the display when it opens (96 before that).
+// The screen's resolution; the first question opens the display, which may throw as it does. 96 in a
+// program without displays.
 int GetScreenDpi();
 void SetScreenDpi(int dpi);
 // A metric of 96-DPI units in pixels, truncated toward zero; never below 1x.

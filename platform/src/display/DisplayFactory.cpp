@@ -6,6 +6,7 @@
 #include "display/Display.h"
 #include "display/offscreen/OffscreenDisplay.h"
 #include "display/x11/X11Display.h"
+#include "graphics/ScreenDpi.h"
 #include "platform/Font.h"
 
 namespace display {
@@ -50,6 +51,12 @@ std::unique_ptr<Display>& Instance() {
   static auto& instance = *new std::unique_ptr<Display>;
   return instance;
 }
+
+// Whoever asks for the resolution first opens the display.
+[[maybe_unused]] const bool probes = [] {
+  SetScreenProbe([] { Current(); });
+  return true;
+}();
 
 }  // namespace
 

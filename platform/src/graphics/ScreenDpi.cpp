@@ -1,4 +1,7 @@
+#include "graphics/ScreenDpi.h"
+
 #include <algorithm>
+#include <utility>
 
 #include "platform/Font.h"
 
@@ -6,19 +9,22 @@ namespace {
 
 constexpr int kUnitsPerInch = 96;
 
-int& ScreenDpi() {
-  static int dpi = kUnitsPerInch;
-  return dpi;
-}
+constinit int screenDpi = 0;  // not known yet
+constinit ScreenProbe screenProbe = nullptr;
 
 }  // namespace
 
+void SetScreenProbe(ScreenProbe probe) {
+  screenProbe = probe;
+}
+
 int GetScreenDpi() {
-  return ScreenDpi();
+  if (screenDpi == 0 && screenProbe) std::exchange(screenProbe, nullptr)();
+  return screenDpi ? screenDpi : kUnitsPerInch;
 }
 
 void SetScreenDpi(int dpi) {
-  ScreenDpi() = std::max(dpi, 1);
+  screenDpi = std::max(dpi, 1);
 }
 
 int ScaleUnits(int units) {
