@@ -23,7 +23,7 @@ std::wstring Wide(const std::string& text) {
 // A component's TS file is named as the component, "_" and what the nameless one's is named.
 std::vector<std::wstring> FindComponents(const fs::path& nameless) {
   std::vector<std::wstring> names;
-  const std::string suffix = "_" + nameless.filename().string();
+  const std::string suffix = std::string("_").append(nameless.filename().string());
   std::error_code error;
   for (const auto& entry : fs::directory_iterator(nameless.parent_path(), error)) {
     const std::string file = entry.path().filename().string();
@@ -35,8 +35,9 @@ std::vector<std::wstring> FindComponents(const fs::path& nameless) {
 }
 
 std::string Describe(const Wexa::LanguageDiagnostic& diagnostic) {
-  const std::string line = diagnostic.line > 0 ? ":" + std::to_string(diagnostic.line) : "";
-  return Wexa::NativePath(diagnostic.file) + line + ": " + Wexa::NarrowUtf8(diagnostic.reason);
+  std::string place = Wexa::NativePath(diagnostic.file);
+  if (diagnostic.line > 0) place.append(":").append(std::to_string(diagnostic.line));
+  return place + ": " + Wexa::NarrowUtf8(diagnostic.reason);
 }
 
 }  // namespace
