@@ -22,7 +22,7 @@ constexpr const char* kSource = "src/MFC/DialogImplMFC";
 constexpr int kFilteredOut = -1;
 // A dialog's surface stays within what memory and servers bear.
 constexpr int kLargestSide = 16384;
-constexpr std::int64_t kMostPixels = 64 << 20;
+constexpr std::int64_t kMostPixels = 32 << 20;
 
 Size WithinSurfaceLimits(Size size) {
   int width = std::clamp(size.Width(), 1, kLargestSide);

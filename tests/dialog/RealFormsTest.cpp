@@ -82,6 +82,7 @@ class RealFormsTest : public DialogTest {
 
   // Whether the form itself limits the parent, perhaps to less than what is in it needs.
   bool IsLimited(HWND parent) {
+    if (parent == dialog_->GetHandle()) return Impl().Links().explicitMaximum.width;
     for (const auto& element : Impl().Elements()) {
       const auto& links = ImplOf(element.widget.get())->Links();
       if (element.widget->GetPlatformHandle() == parent)
