@@ -25,9 +25,8 @@ class Dialog::impl : public BaseImplMFC {
   impl(Dialog* owner, DWORD style, CWnd* parent);
   ~impl() override;
 
-  // Builds from the text, or from the file when there is no text. Throws as the constructor of
-  // Dialog says.
-  void Build(const std::wstring& text, const std::wstring& uiFile);
+  // Builds from the form file. Throws as the constructor of Dialog says.
+  void Build(const std::wstring& uiFile);
 
   void Release() override;
   CWnd* GetCWnd() override;

@@ -3,7 +3,6 @@
 #include "MFC/DialogImplMFC.h"
 #include "MFC/ToolTips.h"
 #include "MFC/WidgetColors.h"
-#include "Translator.h"
 #include "platform/Classes.h"
 
 namespace Wexa {
@@ -21,10 +20,9 @@ Dialog::Dialog()
 Dialog::Dialog(const std::wstring& uiFile, HWND parent, unsigned long style, double scale)
     : BaseGUIObject(GuiType::Dialog), scale_(scale), uiFile_(uiFile) {
   SetParentWindow(parent);
-  std::wstring translated = Translator::GetInstance().TranslateUIFile(uiFile);
   impl_ = std::make_shared<impl>(this, static_cast<DWORD>(style ? style : kDefaultStyle),
                                  CWnd::FromHandle(parent));
-  impl_->Build(translated, uiFile);
+  impl_->Build(uiFile);
 }
 
 Dialog::~Dialog() {

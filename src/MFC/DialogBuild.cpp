@@ -3,7 +3,6 @@
 #include <chrono>
 #include <stdexcept>
 
-#include "Encrypter.h"
 #include "FileText.h"
 #include "MFC/DialogBuilder.h"
 #include "MFC/DialogImplMFC.h"
@@ -25,9 +24,9 @@ double MillisecondsSince(std::chrono::steady_clock::time_point start) {
       .count();
 }
 
-// Encrypted forms first; a file that is none may be a plain form.
+// The form's text, translated. Encrypted forms first; a file that is none may be a plain form.
 std::wstring ReadForm(const std::wstring& path) {
-  std::wstring text = Encrypter::ReadAndDecryptFile(path);
+  std::wstring text = Translator::GetInstance().TranslateUIFile(path);
   if (!text.empty()) return text;
   const auto bytes = ReadFile(path);
   const auto plain = bytes ? PlainFormText(*bytes) : std::nullopt;
@@ -48,9 +47,9 @@ void ParseForm(std::wstring text, FormModel& model) {
 
 }  // namespace
 
-void Dialog::impl::Build(const std::wstring& text, const std::wstring& uiFile) {
+void Dialog::impl::Build(const std::wstring& uiFile) {
   auto start = std::chrono::steady_clock::now();
-  std::wstring form = text.empty() ? ReadForm(uiFile) : text;
+  std::wstring form = ReadForm(uiFile);
   statistics.readMilliseconds = MillisecondsSince(start);
   if (form.empty()) Fail(__LINE__, "Could not load and parse UI file");
 
