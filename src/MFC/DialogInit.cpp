@@ -223,11 +223,9 @@ bool Dialog::impl::FollowBuddyMnemonic(const MSG& message) {
     auto& label = static_cast<Label&>(*element.widget);
     if (!label.GetBuddy() || !label.GetPlatformHandle()) continue;
     if (!IsWindowVisible(label.GetPlatformHandle())) continue;
-    wchar_t mnemonic = GetMnemonic(label.GetText());
-    bool matches =
-        mnemonic && mnemonic == static_cast<wchar_t>(towupper(static_cast<wint_t>(message.wParam)));
+    if (!IsMnemonic(label.GetText(), static_cast<wchar_t>(message.wParam))) continue;
     HWND buddy = label.GetBuddy()->GetPlatformHandle();
-    if (!matches || !IsWindowEnabled(buddy) || GetFocus() == buddy) continue;
+    if (!IsWindowEnabled(buddy) || GetFocus() == buddy) continue;
     window_->GotoDlgCtrl(buddy);
     return true;
   }

@@ -51,6 +51,12 @@ COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORRE
   return Contrast(other, face) > Contrast(color, face) ? other : color;
 }
 
+COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face) {
+  constexpr int kFaint = 40;
+  const COLORREF color = SlotColor(skin, slot);
+  return skin.Slot(slot).IsChanged() || color != text ? color : MixColors(text, face, kFaint);
+}
+
 COLORREF DialogBackground(const SkinManager& skin) {
   return SlotColor(skin, Slot::kDialogFace);
 }
@@ -73,12 +79,10 @@ void FillCommonPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.pressedFace = palette.face;
   palette.pressedText = palette.text;
   palette.accent = SlotColor(skin, Slot::kButtonAccent);
-  palette.accentText =
-      ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace, palette.accent);
+  palette.accentText = ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace, palette.accent);
   palette.selection = SlotColor(skin, Slot::kSelection);
   palette.selectionText =
       ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace, palette.selection);
-  palette.placeholder = SlotColor(skin, Slot::kPlaceholder);
 }
 
 void FillButtonPalette(ControlPalette& palette, const SkinManager& skin) {
@@ -88,8 +92,8 @@ void FillButtonPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.pressedFace = SlotColor(skin, Slot::kButtonPressedFace);
   palette.disabledFace = SlotColor(skin, Slot::kButtonDisabledFace);
   palette.text = SlotColor(skin, Slot::kButtonText);
-  palette.pressedText = ReadableColor(skin, Slot::kButtonPressedText, Slot::kButtonText,
-                                      palette.pressedFace);
+  palette.pressedText =
+      ReadableColor(skin, Slot::kButtonPressedText, Slot::kButtonText, palette.pressedFace);
   palette.disabledText = SlotColor(skin, Slot::kButtonDisabledText);
   palette.border = SlotColor(skin, Slot::kButtonBorder);
   palette.hoverBorder = SlotColor(skin, Slot::kButtonHoverBorder);
@@ -117,7 +121,9 @@ void FillInputPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.disabledFace = palette.background;
   palette.text = SlotColor(skin, Slot::kInputText);
   palette.pressedText = palette.text;
-  palette.disabledText = SlotColor(skin, Slot::kInputDisabledText);
+  palette.disabledText =
+      FaintColor(skin, Slot::kInputDisabledText, palette.text, palette.disabledFace);
+  palette.placeholder = FaintColor(skin, Slot::kPlaceholder, palette.text, palette.face);
   palette.border = SlotColor(skin, Slot::kInputBorder);
   palette.hoverBorder = SlotColor(skin, Slot::kInputHoverBorder);
   palette.disabledBorder = SlotColor(skin, Slot::kInputDisabledBorder);

@@ -61,6 +61,9 @@ double Contrast(COLORREF a, COLORREF b);
 // The slot's colour for a text on `face`. Where the palette makes that hard to read and nobody set
 // the slot, the other slot's colour if that is easier.
 COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORREF face);
+// The slot's colour for what must not look like `text`: where the palette gives both the same
+// colour and nobody set the slot, one between the text and its face.
+COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face);
 COLORREF DialogBackground(const SkinManager& skin);
 // Between 0x00RRGGBB and 0x00BBGGRR.
 COLORREF SwapRedAndBlue(int color);

@@ -130,11 +130,15 @@ TEST_F(DialogKeysTest, AMnemonicOfALabelLeadsToItsBuddy) {
     return TextWidget("QLabel", std::string("of ") + buddy, text,
                       PropertyXml("buddy", "cstring", buddy));
   };
-  Open(ColumnForm(label("&amp;Later", "later") + label("&amp;None", "nobody") + LineEdit("first") +
-                  LineEdit("later") + TextWidget("QCheckBox", "check", "&amp;Check")));
+  Open(ColumnForm(label("&amp;\u00DCber", "first") + label("&amp;Later", "later") +
+                  label("&amp;None", "nobody") + LineEdit("first") + LineEdit("later") +
+                  TextWidget("QCheckBox", "check", "&amp;Check")));
   EXPECT_EQ(FocusedName(), L"first");
   robot_.AltKey(L'l');
   EXPECT_EQ(FocusedName(), L"later") << "though it comes after another edit";
+  robot_.AltKey(L'\u00FC');
+  EXPECT_EQ(FocusedName(), L"first") << "letters beyond ASCII have cases too";
+  robot_.AltKey(L'l');
   robot_.AltKey(L'n');
   EXPECT_EQ(FocusedName(), L"later");
   robot_.AltKey(L'c');

@@ -24,7 +24,12 @@ void AddPairs(std::vector<Pair>& pairs, const std::string& family, Fill fill,
   pairs.push_back({family + " text on hovered face", p.text, p.hoverFace});
   pairs.push_back({family + " text on pressed face", p.pressedText, p.pressedFace});
   pairs.push_back({family + " selected text", p.selectionText, p.selection});
-  pairs.push_back({family + " placeholder", p.placeholder, p.face});
+}
+
+ControlPalette InputPalette(const SkinManager& skin) {
+  ControlPalette palette{};
+  FillInputPalette(palette, skin);
+  return palette;
 }
 
 std::vector<Pair> EnabledPairs(const SkinManager& skin) {
@@ -33,6 +38,8 @@ std::vector<Pair> EnabledPairs(const SkinManager& skin) {
   AddPairs(pairs, "button", FillButtonPalette, skin);
   AddPairs(pairs, "check", FillCheckPalette, skin);
   AddPairs(pairs, "input", FillInputPalette, skin);
+  const ControlPalette input = InputPalette(skin);
+  pairs.push_back({"placeholder", input.placeholder, input.face});
   pairs.push_back({"tip", SlotColor(skin, Slot::kTipText), SlotColor(skin, Slot::kTipFace)});
   pairs.push_back(
       {"check text on dialog", SlotColor(skin, Slot::kCheckText), DialogBackground(skin)});
@@ -72,6 +79,12 @@ TEST_P(ContrastTest, DisabledTextsCanBeMadeOut) {
     EXPECT_GE(Contrast(pair.text, pair.face), IsHighContrast() ? 7.0 : 3.0) << pair.what;
 }
 
+TEST_P(ContrastTest, WhatIsNotEnteredDoesNotLookSo) {
+  const ControlPalette p = InputPalette(SkinManager(GetParam()));
+  EXPECT_GE(Contrast(p.placeholder, p.text), 1.4);
+  EXPECT_GE(Contrast(p.disabledText, p.text), 1.4);
+}
+
 TEST_P(ContrastTest, MarksStandOutFromTheAccent) {
   const SkinManager skin(GetParam());
   ControlPalette p{};
@@ -97,9 +110,10 @@ TEST(ContrastOfColors, IsKnownForBlackAndWhite) {
 TEST(ReadableColors, ASlotThatWasSetIsTakenAsItIs) {
   SkinManager skin(SkinMode::Dark);
   skin.Slot(Slot::kSelectionText) = static_cast<unsigned long>(SlotColor(skin, Slot::kSelection));
-  ControlPalette palette{};
-  FillInputPalette(palette, skin);
+  skin.Slot(Slot::kPlaceholder) = static_cast<unsigned long>(SlotColor(skin, Slot::kInputText));
+  const ControlPalette palette = InputPalette(skin);
   EXPECT_EQ(palette.selectionText, palette.selection);
+  EXPECT_EQ(palette.placeholder, palette.text);
 }
 
 }  // namespace

@@ -40,6 +40,8 @@ struct ControlState {
 
 enum class FramePart { None, Caption, Close, Border };
 
+// The colour so many percent of the way from one to the other.
+COLORREF MixColors(COLORREF from, COLORREF to, int percent);
 // The system-colour palette of a control on a dialog.
 ControlPalette SystemPalette();
 

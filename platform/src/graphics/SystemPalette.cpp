@@ -7,12 +7,6 @@ BYTE MixChannel(BYTE from, BYTE to, int percent) {
   return static_cast<BYTE>((from * (100 - percent) + to * percent + 50) / 100);
 }
 
-COLORREF Mix(COLORREF from, COLORREF to, int percent) {
-  return RGB(MixChannel(GetRValue(from), GetRValue(to), percent),
-             MixChannel(GetGValue(from), GetGValue(to), percent),
-             MixChannel(GetBValue(from), GetBValue(to), percent));
-}
-
 ControlPalette BasePalette() {
   ControlPalette palette{};
   palette.background = GetSysColor(COLOR_BTNFACE);
@@ -31,10 +25,10 @@ ControlPalette BasePalette() {
 
 // Tints lie between the system's colours.
 void AddTints(ControlPalette& palette) {
-  palette.disabledFace = Mix(palette.background, palette.face, 40);
-  palette.disabledBorder = Mix(palette.border, palette.background, 60);
-  palette.hoverFace = Mix(palette.face, palette.accent, 10);
-  palette.pressedFace = Mix(palette.face, palette.accent, 24);
+  palette.disabledFace = MixColors(palette.background, palette.face, 40);
+  palette.disabledBorder = MixColors(palette.border, palette.background, 60);
+  palette.hoverFace = MixColors(palette.face, palette.accent, 10);
+  palette.pressedFace = MixColors(palette.face, palette.accent, 24);
   palette.pressedText = palette.text;
 }
 
@@ -48,6 +42,12 @@ void AddPlainColors(ControlPalette& palette) {
 }
 
 }  // namespace
+
+COLORREF MixColors(COLORREF from, COLORREF to, int percent) {
+  return RGB(MixChannel(GetRValue(from), GetRValue(to), percent),
+             MixChannel(GetGValue(from), GetGValue(to), percent),
+             MixChannel(GetBValue(from), GetBValue(to), percent));
+}
 
 ControlPalette SystemPalette() {
   ControlPalette palette = BasePalette();

@@ -1,6 +1,5 @@
 #include "support/Robot.h"
 
-#include <cwctype>
 #include <optional>
 
 #include "platform/Classes.h"
@@ -146,7 +145,7 @@ void Robot::ControlKey(int virtualKey) {
 
 void Robot::AltKey(wchar_t letter) {
   KeyDown(VK_MENU);
-  Key(static_cast<int>(std::towupper(static_cast<wint_t>(letter))));
+  TypeCharacter(letter);
   KeyUp(VK_MENU);
 }
 
