@@ -4,11 +4,13 @@
 #include <string>
 
 #include "BaseGUIObject.h"
+#include "WexaUtils.h"
 
 namespace Wexa {
 
 // A text; a line that does not fit ends in an ellipsis, unless it is wrapped. With a buddy, the
-// character after its "&" is a mnemonic that gives the buddy the focus.
+// character after its "&" is a mnemonic that gives the buddy the focus. A picture takes the text's
+// place.
 class WEXA_API Label : public BaseGUIObject {
  public:
   class impl;
@@ -25,11 +27,18 @@ class WEXA_API Label : public BaseGUIObject {
   void SetText(const std::wstring& text);
   std::wstring GetText();
   void SetAlignment(Alignment alignment);
-  // Texts are centred vertically unless told otherwise.
+  // Content is centred vertically unless told otherwise.
   void SetVerticallyCentered(bool centered);
   // A wrapped label's height depends on its width.
   void SetWordWrap(bool wrap);
   void SetFont(const FontData& font);
+  // Shows a picture, grey while the label is disabled. What fits or fills follows the label's size.
+  // `iconSize` chooses among the icons of an icon file. False when there is no picture to read;
+  // nothing changes then.
+  bool LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                   WexaUtils::ScalePicture scale, int iconSize);
+  // A file, its type by its extension.
+  bool LoadPicture(const std::wstring& path, WexaUtils::ScalePicture scale, int iconSize);
   // Not owned; null for none.
   void SetBuddy(BaseGUIObject* buddy);
   BaseGUIObject* GetBuddy() const;

@@ -7,7 +7,7 @@
 #include "Button.h"
 #include "MFC/BaseImplMFC.h"
 #include "MFC/ButtonMFC.h"
-#include "MFC/ButtonPictures.h"
+#include "MFC/WidgetPictures.h"
 
 namespace Wexa {
 
@@ -67,7 +67,7 @@ class Button::impl : public BaseImplMFC {
   ButtonStyle style_ = ButtonStyle::Native;
   bool checkable_ = false;
   bool hasBorders_ = false;
-  ButtonPictures pictures_;
+  WidgetPictures pictures_;
   std::optional<std::array<RGBColor, 5>> faces_;  // normal, hovered, pressed, disabled, checked
 };
 

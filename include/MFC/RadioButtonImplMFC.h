@@ -5,7 +5,7 @@
 
 #include "MFC/BaseImplMFC.h"
 #include "MFC/ButtonMFC.h"
-#include "MFC/ButtonPictures.h"
+#include "MFC/WidgetPictures.h"
 #include "RadioButton.h"
 
 namespace Wexa {
@@ -45,7 +45,7 @@ class RadioButton::impl : public BaseImplMFC {
   ControlState Look() const;
 
   ButtonMFC<RadioButton> window_;
-  ButtonPictures pictures_;
+  WidgetPictures pictures_;
 };
 
 }  // namespace Wexa

@@ -24,6 +24,7 @@
 #include "SpinEdit.h"
 #include "Splitter.h"
 #include "TabView.h"
+#include "WexaConfig.h"
 #include "form/FormModel.h"
 #include "form/FormText.h"
 #include "form/RichText.h"
@@ -65,6 +66,16 @@ int AlignmentOf(const FormNode& node) {
   return isRight ? 2 : 0;
 }
 
+// Forms name pictures in a resource file (":/icons/warning.png") or relative to themselves. Hosts
+// keep them in the directory of images, in the folders of the resource file or flat.
+void LoadPicture(Label& label, const std::wstring& name, WexaUtils::ScalePicture scale) {
+  const std::size_t path = name.find_first_not_of(L":/");
+  if (path == name.npos) return;
+  const std::size_t file = name.find_last_of(L'/') + 1;
+  for (const std::size_t from : {path, file})
+    if (label.LoadPicture(GetImageDirPath(L"") + name.substr(from), scale, 0)) return;
+}
+
 void Apply(Label& label, const FormNode& node) {
   const std::wstring* format = node.Extra(L"textFormat");
   bool isPlain = format && HasEnumWord(*format, L"Qt::PlainText");
@@ -77,6 +88,10 @@ void Apply(Label& label, const FormNode& node) {
   label.SetAlignment(static_cast<Label::Alignment>(AlignmentOf(node)));
   if (Has(node, PropertyId::Alignment, L"Qt::AlignTop")) label.SetVerticallyCentered(false);
   if (Has(node, PropertyId::WordWrap, L"true")) label.SetWordWrap(true);
+  if (const std::wstring* picture = node.Extra(L"pixmap"))
+    LoadPicture(
+        label, *picture,
+        IsExtraTrue(node, L"scaledContents") ? WexaUtils::FillTarget : WexaUtils::ScaleByFactor);
 }
 
 void Apply(Edit& edit, const FormNode& node) {

@@ -1,11 +1,15 @@
 #include "Label.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "MFC/BaseImplMFC.h"
+#include "MFC/EventDispatch.h"
+#include "MFC/LabelPicture.h"
 #include "MFC/WidgetColors.h"
 #include "layout/WidgetLink.h"
 #include "platform/ControlConstants.h"
+#include "platform/Painter.h"
 #include "platform/Theme.h"
 
 namespace Wexa {
@@ -14,6 +18,20 @@ namespace {
 
 // A wrapped text asks for lines of about this width.
 constexpr int kWrappedWidth = 320;
+
+// The native text, or what is painted in its place.
+class LabelWnd : public CStatic {
+ public:
+  std::function<void()> paint;  // null for the text
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_PAINT || lParam == kPostPaint || !paint)
+      return CStatic::WindowProc(message, wParam, lParam);
+    paint();
+    return 0;
+  }
+};
 
 }  // namespace
 
@@ -26,6 +44,7 @@ class Label::impl : public BaseImplMFC {
   CWnd* GetCWnd() override { return &window_; }
 
   Size IdealSize() override {
+    if (picture_) return {picture_.IdealSize().cx, picture_.IdealSize().cy};
     SIZE line = Extent(INT32_MAX);
     if (!wraps_ || line.cx <= Scale(kWrappedWidth)) return {line.cx, line.cy};
     SIZE block = Extent(Scale(kWrappedWidth));
@@ -33,13 +52,16 @@ class Label::impl : public BaseImplMFC {
   }
 
   Size MinimumIdealSize() override {
+    if (picture_) return picture_.IsFitted() ? Size(0, 0) : IdealSize();
     if (!wraps_) return IdealSize();
     SIZE block = Extent(1);
     return {std::min(static_cast<int>(block.cx), Scale(kWrappedWidth)), Extent(INT32_MAX).cy};
   }
 
-  bool HasHeightForWidth() override { return wraps_; }
-  int HeightForWidth(int width) override { return wraps_ ? Extent(std::max(width, 1)).cy : -1; }
+  bool HasHeightForWidth() override { return wraps_ && !picture_; }
+  int HeightForWidth(int width) override {
+    return HasHeightForWidth() ? Extent(std::max(width, 1)).cy : -1;
+  }
 
   void FillPalette(ControlPalette& palette) override {
     FillCommonPalette(palette, GetSkinManager());
@@ -55,6 +77,14 @@ class Label::impl : public BaseImplMFC {
   void SetWordWrap(bool wrap) {
     wraps_ = wrap;
     SetHorizontalStyle();
+  }
+
+  bool LoadPicture(const PictureRequest& request) {
+    if (!picture_.Load(request)) return false;
+    window_.paint = [this] { PaintPicture(); };
+    if (GetHandle()) window_.Invalidate();
+    InvalidateLayout();
+    return true;
   }
 
   void SetAlignment(Alignment alignment) {
@@ -96,7 +126,18 @@ class Label::impl : public BaseImplMFC {
     ChangeStyle(SS_TYPEMASK | SS_ENDELLIPSIS, style);
   }
 
-  CStatic window_;
+  void PaintPicture() {
+    CPaintDC dc(GetHandle());
+    Painter painter(dc);
+    CRect client = window_.GetClientRect();
+    painter.FillRect(client, BackgroundColor());
+    int across = static_cast<int>(alignment_);
+    int down = Creation().style & SS_CENTERIMAGE ? 1 : 0;
+    picture_.Paint(painter, client, across, down, window_.IsWindowEnabled());
+  }
+
+  LabelWnd window_;
+  LabelPicture picture_;
   Alignment alignment_ = Alignment::Left;
   bool wraps_ = false;
 };
@@ -129,6 +170,14 @@ void Label::SetVerticallyCentered(bool centered) {
 }
 void Label::SetWordWrap(bool wrap) {
   impl_->SetWordWrap(wrap);
+}
+bool Label::LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                        WexaUtils::ScalePicture scale, int iconSize) {
+  return impl_->LoadPicture({data, size, type, scale, iconSize});
+}
+bool Label::LoadPicture(const std::wstring& path, WexaUtils::ScalePicture scale, int iconSize) {
+  const PictureFile file(path);
+  return LoadPicture(file.bytes.get(), file.size, file.type, scale, iconSize);
 }
 void Label::SetFont(const FontData& font) {
   impl_->SetFont(font);

@@ -1,7 +1,7 @@
 #include <array>
-#include <cstdint>
 #include <string_view>
 
+#include "MFC/WidgetPictures.h"
 #include "WexaUtils.h"
 #include "platform/Bitmap.h"
 #include "platform/Classes.h"
@@ -18,35 +18,10 @@ bool IsComboBox(const CWnd* window) {
          name.data() == kComboBoxClass;
 }
 
-CSize ByFactor(const BITMAP& picture) {
-  const double factor = WexaUtils::GetScaleFactor();
-  return {static_cast<int>(picture.bmWidth * factor), static_cast<int>(picture.bmHeight * factor)};
-}
-
-// value * numerator / denominator, for positive numbers rounded down.
-int Portion(int value, int numerator, int denominator) {
-  return static_cast<int>(std::int64_t{value} * numerator / denominator);
-}
-
-CSize NewSize(const BITMAP& picture, WexaUtils::ScalePicture mode, const CRect& target,
-              bool isComboBox) {
-  CSize size = ByFactor(picture);
-  const auto fitHeight = [&](int height) { size.cy = isComboBox ? size.cy : height; };
-  switch (mode) {
-    case WexaUtils::FitHeight:
-      fitHeight(target.Height());
-      size.cx = Portion(target.Height(), picture.bmWidth, picture.bmHeight);
-      break;
-    case WexaUtils::FitWidth:
-      size.cx = target.Width();
-      fitHeight(Portion(target.Width(), picture.bmHeight, picture.bmWidth));
-      break;
-    case WexaUtils::FillTarget:
-      size.cx = target.Width();
-      fitHeight(target.Height());
-      break;
-    default: break;
-  }
+// The native control of combo boxes keeps the height of its pictures.
+CSize NewSize(CSize picture, WexaUtils::ScalePicture mode, const CRect& target, bool isComboBox) {
+  CSize size = Wexa::ScaledPictureSize(picture, mode, target);
+  if (isComboBox) size.cy = Wexa::ScaledPictureSize(picture, WexaUtils::ScaleByFactor, target).cy;
   return size;
 }
 
@@ -56,7 +31,7 @@ HBITMAP WexaUtils::ScaleBitmap(HBITMAP bitmap, ScalePicture mode, RECT target, C
   BITMAP picture{};
   if (!GetBitmapDescription(bitmap, &picture)) return nullptr;
   if (mode == KeepSize) return bitmap;
-  const CSize size = NewSize(picture, mode, target, IsComboBox(window));
+  const CSize size = NewSize({picture.bmWidth, picture.bmHeight}, mode, target, IsComboBox(window));
   if (size.cx == picture.bmWidth && size.cy == picture.bmHeight) return bitmap;
   return StretchBitmap(bitmap, size.cx, size.cy);
 }

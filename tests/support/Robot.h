@@ -4,6 +4,7 @@
 #include <string>
 
 #include "display/offscreen/OffscreenDisplay.h"
+#include "platform/Geometry.h"
 #include "platform/Window.h"
 
 // Uses windows on the offscreen display as a person would: puts input where a real display does and
@@ -44,6 +45,8 @@ class Robot {
   static std::uint32_t PixelAt(HWND window, int x, int y);
   // How many pixels of the client area's rectangle differ from a colour (0x00RRGGBB).
   static int InkIn(HWND window, const RECT& rect, std::uint32_t background);
+  // The smallest rectangle of the client area around all pixels of that colour; empty without any.
+  static CRect BoundsOf(HWND window, std::uint32_t color);
   // Whether the rectangle shows more than one colour.
   static bool HasInk(HWND window, const RECT& rect);
 

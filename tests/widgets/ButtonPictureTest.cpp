@@ -34,18 +34,8 @@ class ButtonPictureTest : public FormTest {
     Robot::PumpAll();
   }
 
-  // The smallest rectangle around all pixels of that colour.
   static CRect BoundsOf(BaseGUIObject& widget, std::uint32_t color) {
-    const Size size = widget.GetClientRect().GetSize();
-    CRect bounds(size.Width(), size.Height(), 0, 0);
-    for (int y = 0; y < size.Height(); ++y) {
-      for (int x = 0; x < size.Width(); ++x) {
-        if (Robot::PixelAt(widget.GetPlatformHandle(), x, y) != color) continue;
-        bounds = CRect(std::min<int>(bounds.left, x), std::min<int>(bounds.top, y),
-                       std::max<int>(bounds.right, x + 1), std::max<int>(bounds.bottom, y + 1));
-      }
-    }
-    return bounds.IsEmpty() ? CRect() : bounds;
+    return Robot::BoundsOf(widget.GetPlatformHandle(), color);
   }
 
   // 0x00RRGGBB, as pixels are read.

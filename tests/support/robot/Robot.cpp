@@ -1,5 +1,6 @@
 #include "support/Robot.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "platform/Classes.h"
@@ -197,6 +198,20 @@ int Robot::InkIn(HWND window, const RECT& rect, std::uint32_t background) {
     for (int x = rect.left; x < rect.right; ++x)
       if (PixelAt(window, x, y) != background) ++ink;
   return ink;
+}
+
+CRect Robot::BoundsOf(HWND window, std::uint32_t color) {
+  RECT client{};
+  GetClientRect(window, &client);
+  CRect bounds(client.right, client.bottom, 0, 0);
+  for (int y = 0; y < client.bottom; ++y) {
+    for (int x = 0; x < client.right; ++x) {
+      if (PixelAt(window, x, y) != color) continue;
+      bounds = CRect(std::min<int>(bounds.left, x), std::min<int>(bounds.top, y),
+                     std::max<int>(bounds.right, x + 1), std::max<int>(bounds.bottom, y + 1));
+    }
+  }
+  return bounds.IsEmpty() ? CRect() : bounds;
 }
 
 bool Robot::HasInk(HWND window, const RECT& rect) {

@@ -29,8 +29,8 @@ struct PictureRequest {
   int iconSize;
 };
 
-// The pictures of a button.
-struct ButtonPictures {
+// The pictures of a widget.
+struct WidgetPictures {
   UniqueBitmap normal;
   UniqueBitmap disabled;
 
@@ -41,6 +41,10 @@ struct ButtonPictures {
 
 // Null when the bytes are no picture or its size is refused.
 UniqueBitmap LoadPictureInto(const CRect& area, CWnd* window, const PictureRequest& request);
+
+// The size in which a picture shows by the mode; what fits or fills takes its measure from the
+// area.
+CSize ScaledPictureSize(CSize picture, WexaUtils::ScalePicture mode, const CRect& area);
 
 // A picture with a text to its right. Either may be empty.
 CSize ContentSize(CSize picture, CSize text);

@@ -1,6 +1,7 @@
-#include "MFC/ButtonPictures.h"
+#include "MFC/WidgetPictures.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "MFC/BaseImplMFC.h"
 
@@ -20,12 +21,28 @@ WexaUtils::ImageTypes TypeOf(const std::wstring& path) {
                                    : WexaUtils::WstrToImageType(path.substr(dot));
 }
 
+// value * numerator / denominator, for positive numbers rounded down; 0 where nothing is to share.
+int Portion(int value, int numerator, int denominator) {
+  return denominator > 0 ? static_cast<int>(std::int64_t{value} * numerator / denominator) : 0;
+}
+
 }  // namespace
+
+CSize ScaledPictureSize(CSize picture, WexaUtils::ScalePicture mode, const CRect& area) {
+  switch (mode) {
+    case WexaUtils::KeepSize: return picture;
+    case WexaUtils::FitHeight:
+      return {Portion(area.Height(), picture.cx, picture.cy), area.Height()};
+    case WexaUtils::FitWidth: return {area.Width(), Portion(area.Width(), picture.cy, picture.cx)};
+    case WexaUtils::FillTarget: return {area.Width(), area.Height()};
+    default: return {Scale(picture.cx), Scale(picture.cy)};
+  }
+}
 
 PictureFile::PictureFile(const std::wstring& path)
     : bytes(WexaUtils::LoadImageBuffer(path, &size)), type(TypeOf(path)) {}
 
-CSize ButtonPictures::Size() const {
+CSize WidgetPictures::Size() const {
   BITMAP description{};
   GetBitmapDescription(normal.get(), &description);
   return {description.bmWidth, description.bmHeight};
