@@ -8,7 +8,11 @@ namespace {
 
 constexpr int kWidgets = 1000;
 
-// The pass over the geometry, with the moves of the native windows that it makes.
+// The pass over the geometry, with the moves of the native windows that it makes: one after the
+// other, or each after a paint pass, which validates the windows and leaves the caches cold.
+enum class Between { Nothing, Paint };
+
+template <Between between>
 void ResizeLayout(benchmark::State& state) {
   ShownForm form(kWidgets);
   for (auto _ : state) {
@@ -16,10 +20,11 @@ void ResizeLayout(benchmark::State& state) {
     state.SetIterationTime(SecondsOf([&] {
       form.Layout().Fit({0, 0, size.Width(), size.Height()});
     }));
-    PaintNow();
+    if (between == Between::Paint) PaintNow();
   }
 }
-BENCHMARK(ResizeLayout)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ResizeLayout<Between::Nothing>)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ResizeLayout<Between::Paint>)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void ResizeAndPaint(benchmark::State& state) {
   ShownForm form(kWidgets);

@@ -17,6 +17,7 @@ class PaintedWnd : public CWnd {
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 
  private:
   void OnPaint();

@@ -99,7 +99,7 @@ bool BaseImplMFC::Create(HWND parent) {
 
 void BaseImplMFC::AttachWindowProcedure() {
   SetWindowSubclass(GetHandle(), WexaWindowProcedure, kWindowProcedureId,
-                    reinterpret_cast<DWORD_PTR>(owner_));
+                    reinterpret_cast<DWORD_PTR>(owner_), MoveInterest::SizeOnly);
   AddReceiver(owner_, GetHandle());
 }
 
@@ -127,7 +127,7 @@ void BaseImplMFC::Show(bool show, bool updateLayout) {
 }
 
 bool BaseImplMFC::IsVisible() {
-  return GetHandle() && (Window().GetStyle() & WS_VISIBLE) != 0;
+  return (GetWindowLongPtrW(GetHandle(), GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
 void BaseImplMFC::Enable(bool enable, bool remember) {
@@ -182,8 +182,10 @@ void BaseImplMFC::MoveWindow(int x, int y, int width, int height, bool) {
   CWnd& window = Window();
   Size size = Clamped(width, height);
   Rect place(x, y, size.Width(), size.Height());
-  bool isTopLevel = (window.GetStyle() & WS_CHILD) == 0;  // moved by its user, too
-  if (place != lastGeometry_ || isTopLevel) window.MoveWindow(place.PlatformRect(), true);
+  const auto isTopLevel = [&] {
+    return (window.GetStyle() & WS_CHILD) == 0;
+  };  // moved by its user, too
+  if (place != lastGeometry_ || isTopLevel()) window.MoveWindow(place.PlatformRect(), true);
   lastGeometry_ = place;
   if (GetHandle()) UpdateLayout();  // unless a handler closed the window
 }
@@ -240,10 +242,7 @@ bool BaseImplMFC::PostLayoutRequest() {
 }
 
 int BaseImplMFC::ParentScrollOffset() {
-  constexpr int kVertical = 1;
-  if (!GetHandle()) return 0;
-  CWnd* parent = Window().GetParent();
-  return parent ? parent->GetScrollPos(kVertical) : 0;
+  return GetScrollPos(GetParent(GetHandle()), SB_VERT);
 }
 
 // -- Timers, redraws, pointer -------------------------------------------------

@@ -64,8 +64,8 @@ bool ConcernsTips(UINT message, WPARAM wParam) {
 // no longer exists, and nothing of the widget is touched after that.
 class EventDispatch {
  public:
-  EventDispatch(HWND window, BaseGUIObject& widget, WPARAM wParam, LPARAM lParam)
-      : window_(window), widget_(widget), wParam_(wParam), lParam_(lParam) {}
+  EventDispatch(HWND window, BaseGUIObject& widget, BaseImplMFC& impl, WPARAM wParam, LPARAM lParam)
+      : window_(window), widget_(widget), impl_(impl), wParam_(wParam), lParam_(lParam) {}
 
   LRESULT Handle(UINT message) {
     if (ConcernsTips(message, wParam_)) TellTips(widget_, window_, message);
@@ -125,8 +125,6 @@ class EventDispatch {
     return (*procedure)(&widget_, &record);
   }
 
-  BaseImplMFC& Impl() { return *ImplOf(&widget_); }
-
   // What holds the widget hears of the focus first, and may bring it into view.
   LRESULT OnFocusGained() {
     auto* holder = static_cast<BaseGUIObject*>(widget_.GetParent());
@@ -165,7 +163,7 @@ class EventDispatch {
 
   bool OnSize() {
     Size size(LOWORD(lParam_), HIWORD(lParam_));
-    if (Layout* layout = Impl().Links().layout) {
+    if (Layout* layout = impl_.Links().layout) {
       ResizeEvent event(size, size);
       layout->WidgetEvent(&event);
     }
@@ -234,7 +232,7 @@ class EventDispatch {
   }
 
   bool OnMouseMove() {
-    if (!Impl().IsMouseTracked()) Impl().SetTrackMouseEvent();
+    if (!impl_.IsMouseTracked()) impl_.SetTrackMouseEvent();
     return OnLeftButton(WM_MOUSEMOVE, Event::MouseMove);
   }
 
@@ -246,12 +244,12 @@ class EventDispatch {
   }
 
   bool OnSystemColors() {
-    Impl().OnSystemColorsChanged();
+    impl_.OnSystemColorsChanged();
     return Offer(ApplicationPaletteChangeEvent());
   }
 
   bool OnMouseLeave() {
-    Impl().SetMouseTracked(false);
+    impl_.SetMouseTracked(false);
     return Offer(MouseLeaveEvent());
   }
 
@@ -287,7 +285,7 @@ class EventDispatch {
   // so that a host can draw over what its children painted.
   LRESULT OnPaint() {
     if (lParam_ == kPostPaint) return OnPostPaint();
-    Impl().GetSkinManager().UpdateCustomColors();
+    impl_.GetSkinManager().UpdateCustomColors();
     bool handled = Offer(PaintEvent());
     if (!IsAlive()) return kHandled;
     LRESULT result = kHandled;
@@ -310,7 +308,7 @@ class EventDispatch {
   }
 
   LRESULT OnUpdateLayouts() {
-    if (Layout* layout = Impl().Links().layout) {
+    if (Layout* layout = impl_.Links().layout) {
       Event request(Event::LayoutRequest);
       layout->WidgetEvent(&request);
       if (!IsAlive()) return kHandled;
@@ -320,13 +318,13 @@ class EventDispatch {
   }
 
   LRESULT OnGetPalette() {
-    Impl().FillPalette(*reinterpret_cast<ControlPalette*>(lParam_));
+    impl_.FillPalette(*reinterpret_cast<ControlPalette*>(lParam_));
     return kHandled;
   }
 
   LRESULT OnDestroy() {
-    Impl().KeepState();
-    Impl().HideBalloonTip();
+    impl_.KeepState();
+    impl_.HideBalloonTip();
     widget_.Destroyed(&widget_);
     return Default(WM_DESTROY);
   }
@@ -340,6 +338,7 @@ class EventDispatch {
 
   HWND window_;
   BaseGUIObject& widget_;
+  BaseImplMFC& impl_;
   WPARAM wParam_;
   LPARAM lParam_;
 };
@@ -348,7 +347,8 @@ LRESULT WexaWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lPa
                             DWORD_PTR data) {
   auto& widget = *reinterpret_cast<BaseGUIObject*>(data);
   const auto impl = widget.GetBaseImpl();  // outlives a widget that dies in its own handler
-  return EventDispatch(window, widget, wParam, lParam).Handle(message);
+  return EventDispatch(window, widget, static_cast<BaseImplMFC&>(*impl), wParam, lParam)
+      .Handle(message);
 }
 
 }  // namespace Wexa

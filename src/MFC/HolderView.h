@@ -14,6 +14,7 @@ class HolderView : public CWnd {
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
   BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -28,6 +28,7 @@ class InteractiveWnd : public CWnd, public std::enable_shared_from_this<Interact
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 
   virtual void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) = 0;
   virtual void OnPress(POINT) {}

@@ -12,7 +12,8 @@ namespace {
 constexpr wchar_t kWindowClass[] = L"WexaWidget";
 
 void RegisterOnce() {
-  static const WNDCLASSW description{kWindowClass, DefWindowProcW, 0, nullptr};
+  static const WNDCLASSW description{kWindowClass, DefWindowProcW, 0, nullptr,
+                                     MoveInterest::SizeOnly};
   static const ATOM registered = RegisterClassW(&description);
   static_cast<void>(registered);
 }

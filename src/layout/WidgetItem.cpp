@@ -52,16 +52,9 @@ bool WidgetItem::IsEmpty() {
   return !widget || widget->Type() == BaseGUIObject::GuiType::Dialog || !widget->IsVisible();
 }
 
-Size WidgetItem::SizeHint() {
-  return IsEmpty() ? Size() : WidgetSizes::Of(*link_.Widget()).SmartHint();
-}
-
-Size WidgetItem::MinimumSize() {
-  return IsEmpty() ? Size() : WidgetSizes::Of(*link_.Widget()).SmartMinimum();
-}
-
-Size WidgetItem::MaximumSize() {
-  return IsEmpty() ? Size() : WidgetSizes::Of(*link_.Widget()).SmartMaximum(Alignment());
+WidgetItem::WantedSizes WidgetItem::Sizes() {
+  const auto sizes = WidgetSizes::Of(*link_.Widget());
+  return {sizes.SmartHint(), sizes.SmartMinimum(), sizes.SmartMaximum(Alignment())};
 }
 
 Orientation WidgetItem::ExpandingDirections() {
@@ -77,7 +70,7 @@ void WidgetItem::SetGeometry(const Rect& rect) {
   if (IsEmpty()) return;
   const WidgetLink link = link_;
   const bool isSizedComboBox = IsSizedComboBox(*link.Widget());
-  const Rect place = PlaceInCell(rect, MaximumSize());
+  const Rect place = PlaceInCell(rect, Sizes().maximum);
   const int scrolled = isSizedComboBox ? 0 : link.Impl()->ParentScrollOffset();
   const Rect before = link.Impl()->LayoutGeometry();
 
@@ -137,22 +130,9 @@ bool WidgetItemV2::IsRegistered() const {
   return Link() && Link().Impl()->Links().layoutItem == this;
 }
 
-const WidgetItemV2::CachedSizes& WidgetItemV2::Sizes() {
-  if (!sizes_ || !IsRegistered()) {
-    const auto sizes = WidgetSizes::Of(*Link().Widget());
-    sizes_ = {sizes.SmartHint(), sizes.SmartMinimum(), sizes.SmartMaximum(Alignment())};
-  }
+WidgetItem::WantedSizes WidgetItemV2::Sizes() {
+  if (!sizes_ || !IsRegistered()) sizes_ = WidgetItem::Sizes();
   return *sizes_;
-}
-
-Size WidgetItemV2::SizeHint() {
-  return IsEmpty() ? Size() : Sizes().hint;
-}
-Size WidgetItemV2::MinimumSize() {
-  return IsEmpty() ? Size() : Sizes().minimum;
-}
-Size WidgetItemV2::MaximumSize() {
-  return IsEmpty() ? Size() : Sizes().maximum;
 }
 
 int WidgetItemV2::HeightForWidth(int width) {

@@ -14,9 +14,9 @@ class WidgetItem : public LayoutItem {
   // The widget is not owned.
   explicit WidgetItem(BaseGUIObject* widget) : link_(widget) {}
 
-  Size SizeHint() override;
-  Size MinimumSize() override;
-  Size MaximumSize() override;
+  Size SizeHint() override { return IsEmpty() ? Size() : Sizes().hint; }
+  Size MinimumSize() override { return IsEmpty() ? Size() : Sizes().minimum; }
+  Size MaximumSize() override { return IsEmpty() ? Size() : Sizes().maximum; }
   Orientation ExpandingDirections() override;
   // Keeps the widget within its maximum: at the left of the rectangle, in the middle of its height.
   void SetGeometry(const Rect& rect) override;
@@ -27,7 +27,15 @@ class WidgetItem : public LayoutItem {
   int HeightForWidth(int width) override;
 
  protected:
+  struct WantedSizes {
+    Size hint;
+    Size minimum;
+    Size maximum;
+  };
+
   const WidgetLink& Link() const { return link_; }
+  // What the widget, which is not empty, asks for.
+  virtual WantedSizes Sizes();
 
  private:
   WidgetLink link_;
@@ -59,9 +67,6 @@ class WidgetItemV2 : public WidgetItem {
   WidgetItemV2(Layout* owner, BaseGUIObject* widget);
   ~WidgetItemV2() override;
 
-  Size SizeHint() override;
-  Size MinimumSize() override;
-  Size MaximumSize() override;
   int HeightForWidth(int width) override;
 
   // Forgets the sizes, and those of all that holds the widget, up to the top.
@@ -73,18 +78,14 @@ class WidgetItemV2 : public WidgetItem {
   Layout* Owner() const { return owner_; }
   void SetOwner(Layout* owner) { owner_ = owner; }
 
- private:
-  struct CachedSizes {
-    Size hint;
-    Size minimum;
-    Size maximum;
-  };
+ protected:
+  WantedSizes Sizes() override;
 
+ private:
   bool IsRegistered() const;
-  const CachedSizes& Sizes();
 
   Layout* owner_;
-  std::optional<CachedSizes> sizes_;
+  std::optional<WantedSizes> sizes_;
   HeightForWidthCache heights_;
 };
 

@@ -29,6 +29,35 @@ TEST_F(PlaceTest, MoveTellsWhatChangedAndOnlyThat) {
   EXPECT_THAT(TakeNotes(), ElementsAre("POSCHANGING"));
 }
 
+// A child of a class that has no use for the steps, with a procedure in front that notes them.
+TEST_F(PlaceTest, QuietChildrenHearOfTheirSizeAlone) {
+  static std::vector<UINT> heard;
+  const auto note = [](HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR, DWORD_PTR) {
+    heard.push_back(message);
+    return DefSubclassProc(window, message, w, l);
+  };
+  const WNDCLASSW quiet{L"Quiet", DefWindowProcW, 0, nullptr, MoveInterest::SizeOnly};
+  RegisterClassW(&quiet);
+  const HWND child = CreateWindowExW(0, L"Quiet", L"", WS_CHILD | WS_VISIBLE | WS_BORDER, 0, 0, 9,
+                                     9, ShowWindowAt({10, 10, 110, 110}), nullptr, nullptr);
+  SetWindowSubclass(child, note, 1, 0, MoveInterest::SizeOnly);
+  const auto move = [&](CRect place) {
+    heard.clear();
+    MoveWindow(child, place.left, place.top, place.Width(), place.Height(), FALSE);
+    return heard;
+  };
+  EXPECT_THAT(move({1, 0, 10, 9}), IsEmpty());
+  EXPECT_THAT(move({1, 0, 30, 20}), ElementsAre(WM_SIZE));
+  CRect client;
+  GetClientRect(child, &client);
+  EXPECT_EQ(client, CRect(0, 0, 27, 18));
+  ShowWindow(child, SW_HIDE);
+  EXPECT_THAT(heard, testing::Contains(WM_WINDOWPOSCHANGED)) << "hiding is always told";
+  SetWindowSubclass(child, note, 1, 0);
+  EXPECT_THAT(move({2, 0, 31, 20}),
+              ElementsAre(WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED, WM_MOVE));
+}
+
 TEST_F(PlaceTest, HandlerMayChangeWhatIsAskedFor) {
   const HWND window = ShowWindowAt({10, 10, 110, 110});
   handler = [](HWND, UINT message, WPARAM, LPARAM lParam) -> std::optional<LRESULT> {

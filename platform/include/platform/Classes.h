@@ -51,7 +51,8 @@ class CWnd {
   HWND m_hWnd = nullptr;
   HWND GetSafeHwnd() const { return m_hWnd; }
 
-  // The object of a window; for one without an object, a temporary that lives until the window dies.
+  // The object of a window; for one without an object, a temporary that lives until the window
+  // dies.
   static CWnd* FromHandle(HWND window);
   // The object of a window, or null.
   static CWnd* FromHandlePermanent(HWND window);
@@ -96,7 +97,7 @@ class CWnd {
   BOOL RedrawWindow(const RECT* rect, HRGN region, UINT flags);
   UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds);
   BOOL KillTimer(UINT_PTR id);
-  int GetScrollPos(int bar) const;  // SB_VERT 1, SB_HORZ 0; 0 for a window that does not scroll
+  int GetScrollPos(int bar) const;  // SB_HORZ or SB_VERT
   void SetScrollPos(int bar, int position);
   void CenterWindow();
 
@@ -117,11 +118,12 @@ class CWnd {
   virtual void PostNcDestroy() {}
   // The processing that the window's class gives the current message.
   LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
+  // What WindowProc hears of the window's moves; asked for once, when the window is attached.
+  virtual MoveInterest Moves() const { return MoveInterest::Steps; }
 
  private:
   friend struct ClassLayer;
   bool owned_ = false;
-  int scrollPositions_[2] = {};  // SB_HORZ, SB_VERT
 };
 
 class CStatic : public CWnd {
@@ -129,11 +131,15 @@ class CStatic : public CWnd {
   BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
   // In which the text fits; wrapped to `width` when that is not negative.
   SIZE GetIdealSize(int width = -1) const;
+
+ protected:
+  MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
 class CButton : public CWnd {
  public:
-  virtual BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+  virtual BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent,
+                      UINT id);
   int GetCheck() const;
   void SetCheck(int check);
   UINT GetState() const;
@@ -141,6 +147,9 @@ class CButton : public CWnd {
   void SetButtonStyle(DWORD style, bool redraw = true);
   // In which the text fits, with the button's frame or its check mark.
   SIZE GetIdealSize() const;
+
+ protected:
+  MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
 class CEdit : public CWnd {
@@ -154,6 +163,9 @@ class CEdit : public CWnd {
   void SetPasswordChar(wchar_t c);
   void SetCueBanner(const std::wstring& text);  // shown while the edit is empty
   int GetIdealHeight() const;                   // of a line of its font with the frame
+
+ protected:
+  MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
 class CDialogEx : public CWnd {
@@ -193,8 +205,8 @@ class CDialogEx : public CWnd {
   struct ModalRun* run_ = nullptr;  // while DoModal runs
 };
 
-// Takes one message from the queue, lets the windows pre-translate it, and dispatches it. FALSE when
-// WM_QUIT came or nothing can happen any more. Modeless dialogs need their host to call this.
+// Takes one message from the queue, lets the windows pre-translate it, and dispatches it. FALSE
+// when WM_QUIT came or nothing can happen any more. Modeless dialogs need their host to call this.
 BOOL AfxPumpMessage();
 // Pumps while there is something to do at once.
 void AfxPumpPending();

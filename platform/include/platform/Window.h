@@ -16,11 +16,19 @@
 using WNDPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM);
 using SUBCLASSPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM, UINT_PTR id, DWORD_PTR data);
 
+// What a window's procedure hears of a move. The steps are WM_WINDOWPOSCHANGING, WM_NCCALCSIZE,
+// WM_WINDOWPOSCHANGED and WM_MOVE. Most children of a dialog need none of them, and a dialog moves
+// hundreds at once: a child none of whose procedures asks for the steps gets WM_SIZE alone, when
+// its size changes. Showing and hiding is always told in full.
+enum class MoveInterest { Steps, SizeOnly };
+
 struct WNDCLASSW {
   const wchar_t* lpszClassName;
   WNDPROC lpfnWndProc;
-  int cbWndExtra;        // bytes for GetWindowExtra
+  int cbWndExtra;         // bytes for GetWindowExtra
   const wchar_t* cursor;  // an IDC_ identifier, null for the arrow
+  MoveInterest moves = MoveInterest::Steps;
+  bool paintsFrame = false;  // the client area is all of the window, whatever its border
 };
 
 struct MSG {
@@ -121,6 +129,11 @@ BOOL IsWindow(HWND window);
 // Memory of cbWndExtra bytes, zeroed at creation; null for a stale handle.
 void* GetWindowExtra(HWND window);
 LONG_PTR GetWindowLongPtrW(HWND window, int index);
+inline constexpr int SB_HORZ = 0;
+inline constexpr int SB_VERT = 1;
+// How far the content is scrolled; 0 for a window that does not scroll. Nothing is moved by it.
+int GetScrollPos(HWND window, int bar);
+void SetScrollPos(HWND window, int bar, int position);
 // Changing styles sends WM_STYLECHANGED; a changed frame needs SetWindowPos with SWP_FRAMECHANGED.
 LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value);
 
@@ -139,7 +152,8 @@ BOOL TranslateMessage(const MSG* message);
 LRESULT DispatchMessageW(const MSG* message);
 LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-BOOL SetWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id, DWORD_PTR data);
+BOOL SetWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id, DWORD_PTR data,
+                       MoveInterest moves = MoveInterest::Steps);
 BOOL RemoveWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id);
 LRESULT DefSubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -203,7 +217,9 @@ HWND SetCapture(HWND window);
 BOOL ReleaseCapture();
 HWND GetCapture();
 std::int16_t GetKeyState(int virtualKey);  // negative: down; bit 0: toggled
-UINT MapVirtualKeyW(UINT code, UINT mapType);  // 0: key to scan code, 1: scan code to key, 3: likewise with left and right
+UINT MapVirtualKeyW(
+    UINT code,
+    UINT mapType);  // 0: key to scan code, 1: scan code to key, 3: likewise with left and right
 BOOL GetCursorPos(POINT* point);
 const wchar_t* SetCursor(const wchar_t* cursor);
 BOOL TrackMouseEvent(TRACKMOUSEEVENT* request);

@@ -157,9 +157,9 @@ BOOL CWnd::KillTimer(UINT_PTR id) {
 }
 
 int CWnd::GetScrollPos(int bar) const {
-  return scrollPositions_[bar != 0];
+  return ::GetScrollPos(m_hWnd, bar);
 }
 
 void CWnd::SetScrollPos(int bar, int position) {
-  scrollPositions_[bar != 0] = position;
+  ::SetScrollPos(m_hWnd, bar, position);
 }

@@ -18,6 +18,12 @@ std::unordered_map<HWND, Entry>& Entries() {
   return *entries;
 }
 
+// Handles no message, so the window moves as it did without an object.
+class TemporaryWnd : public CWnd {
+ protected:
+  MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
+};
+
 CWnd* objectInCreation = nullptr;
 
 }  // namespace
@@ -35,7 +41,7 @@ CWnd* ClassLayer::FindPermanent(HWND window) {
 CWnd* ClassLayer::FindOrMake(HWND window) {
   if (!IsWindow(window)) return nullptr;
   if (CWnd* known = Find(window)) return known;
-  auto object = std::make_unique<CWnd>();
+  auto object = std::make_unique<TemporaryWnd>();
   Attach(*object, window);
   CWnd* made = object.get();
   Entries()[window].temporary = std::move(object);
@@ -48,7 +54,8 @@ BOOL ClassLayer::Attach(CWnd& object, HWND window) {
   if (CWnd* temporary = Find(window)) Detach(*temporary);
   Entries()[window].object = &object;
   object.m_hWnd = window;
-  return SetWindowSubclass(window, Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(&object));
+  return SetWindowSubclass(window, Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(&object),
+                           object.Moves());
 }
 
 void ClassLayer::Detach(CWnd& object) {

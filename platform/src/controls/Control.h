@@ -74,8 +74,9 @@ LRESULT ControlProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam
 
 // Registers a class of such windows.
 template <class ControlType>
-void RegisterControl(const wchar_t* className, const wchar_t* cursor) {
-  const WNDCLASSW description{className, ControlProcedure<ControlType>,
-                              sizeof(std::shared_ptr<Control>*), cursor};
+void RegisterControl(const wchar_t* className, const wchar_t* cursor, bool paintsFrame = false) {
+  const WNDCLASSW description{
+      className, ControlProcedure<ControlType>, sizeof(std::shared_ptr<Control>*),
+      cursor,    MoveInterest::SizeOnly,        paintsFrame};
   RegisterClassW(&description);
 }

@@ -161,13 +161,11 @@ bool EditControl::HandleInput(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 bool EditControl::HandleWindow(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
   switch (message) {
     case WM_CREATE: TakeFirstText(*reinterpret_cast<const CREATESTRUCTW*>(lParam)); return true;
-    case WM_SIZE:
+    case WM_SIZE: FitView(Scroll::ToCaret); return true;
     case WM_STYLECHANGED:
       result = Default(message, wParam, lParam);
       UpdateView(Scroll::ToCaret);
       return true;
-    case WM_NCCALCSIZE:
-    case WM_NCPAINT: return true;  // the frame is painted as a part of the client area
     default: return false;
   }
 }
@@ -300,14 +298,18 @@ void EditControl::OnFontChanged() {
 }
 
 void EditControl::UpdateView(Scroll scroll) {
-  const DWORD style = Style();
-  CRect area = Client().Shrunk(Inset(style).cx, Inset(style).cy);
+  view_.SetAlignment(AlignmentOf(Style()));
+  view_.SetMirrored((GetWindowLongPtrW(Window(), GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0);
+  view_.SetText(DisplayText());
+  FitView(scroll);
+}
+
+void EditControl::FitView(Scroll scroll) {
+  const SIZE inset = Inset(Style());
+  CRect area = Client().Shrunk(inset.cx, inset.cy);
   area.left += leftMargin_;
   area.right = std::max<LONG>(area.left, area.right - rightMargin_);
   view_.SetArea(area);
-  view_.SetAlignment(AlignmentOf(style));
-  view_.SetMirrored((GetWindowLongPtrW(Window(), GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0);
-  view_.SetText(DisplayText());
   if (scroll == Scroll::ToCaret) view_.ScrollTo(buffer_.Caret());
   Repaint();
 }

@@ -77,8 +77,9 @@ class EditControl : public Control {
   void OnFocus(bool gained);
 
   // Look.
-  // Brings the view up to date with text, style and size.
+  // Brings the view up to date with text, style and size, or with the size alone.
   void UpdateView(Scroll scroll);
+  void FitView(Scroll scroll);
   void RestartBlinking();
   void Blink();
   EditView::Marks Marks() const;

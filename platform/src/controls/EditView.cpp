@@ -14,11 +14,13 @@ int CaretWidth() {
 void EditView::SetText(std::wstring text) {
   if (text == text_) return;
   text_ = std::move(text);
+  textWidth_.reset();
   line_.reset();
 }
 
 void EditView::SetFont(HFONT font) {
   font_ = font;
+  textWidth_.reset();
   line_.reset();
 }
 
@@ -77,9 +79,10 @@ CRect EditView::CaretRect(std::size_t index) const {
 }
 
 // Texts that surely fit need no shaping, which costs more than the rest of a resize.
-bool EditView::FitsSurely() const {
+bool EditView::FitsSurely() {
   constexpr int kRounding = 2;
-  return GetTextExtent(font_, text_).cx + CaretWidth() + kRounding <= area_.Width();
+  if (!textWidth_) textWidth_ = GetTextExtent(font_, text_).cx;
+  return *textWidth_ + CaretWidth() + kRounding <= area_.Width();
 }
 
 void EditView::ScrollTo(std::size_t index) {

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/Font.h"
@@ -58,12 +59,13 @@ class EditView {
 
  private:
   int ContentWidth() const;
-  bool FitsSurely() const;
+  bool FitsSurely();
   int Origin() const;  // left edge of the line
   int MirrorInLine(int x) const;
   void PaintSelection(Painter& painter, const Colors& colors, const Marks& marks) const;
 
   std::wstring text_;
+  std::optional<int> textWidth_;  // measured when first asked for
   HFONT font_ = nullptr;
   CRect area_;
   Alignment alignment_ = Alignment::Left;

@@ -12,7 +12,7 @@ namespace {
 bool RegisterAll() {
   RegisterControl<ButtonControl>(WC_BUTTON, nullptr);
   RegisterControl<StaticControl>(WC_STATIC, nullptr);
-  RegisterControl<EditControl>(WC_EDIT, IDC_IBEAM);
+  RegisterControl<EditControl>(WC_EDIT, IDC_IBEAM, true);
   const WNDCLASSW dialog{WC_DIALOG, DefDlgProcW, sizeof(DialogState*), nullptr};
   return RegisterClassW(&dialog) != 0;
 }

@@ -33,15 +33,15 @@ UINT TextFormat(DWORD style) {
 }  // namespace
 
 LRESULT StaticControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
-  const bool notifies = (Style() & SS_NOTIFY) != 0;
+  const auto notifies = [this] { return (Style() & SS_NOTIFY) != 0; };
   switch (message) {
     case WM_GETDLGCODE: return DLGC_STATIC;
-    case WM_NCHITTEST: return notifies ? Default(message, wParam, lParam) : HTTRANSPARENT;
+    case WM_NCHITTEST: return notifies() ? Default(message, wParam, lParam) : HTTRANSPARENT;
     case WM_LBUTTONDOWN:
-      if (notifies) Notify(STN_CLICKED);
+      if (notifies()) Notify(STN_CLICKED);
       return 0;
     case WM_LBUTTONDBLCLK:
-      if (notifies) Notify(STN_DBLCLK);
+      if (notifies()) Notify(STN_DBLCLK);
       return 0;
     default: return Control::Handle(message, wParam, lParam);
   }

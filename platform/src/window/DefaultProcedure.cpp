@@ -10,23 +10,19 @@
 #include "window/SizeLimits.h"
 #include "window/UiState.h"
 #include "window/Updates.h"
+#include "window/WindowClass.h"
 #include "window/WindowText.h"
 
 namespace core {
 namespace {
 
 LRESULT OnNcCalcSize(const Window& window, LPARAM lParam) {
-  auto* rect = reinterpret_cast<RECT*>(lParam);
-  const RECT frame = FrameInsets(window.style, window.exStyle);
-  rect->left += frame.left;
-  rect->top += frame.top;
-  rect->right -= frame.right;
-  rect->bottom -= frame.bottom;
+  TakeFrameOff(window, *reinterpret_cast<RECT*>(lParam));
   return 0;
 }
 
 LRESULT OnNcPaint(Window& window) {
-  if (!window.painting.IsEmpty()) PaintFrame(window);
+  if (!window.painting.IsEmpty() && !window.windowClass->paintsFrame) PaintFrame(window);
   return 0;
 }
 

@@ -28,6 +28,7 @@ class Passage {
 
   // The next procedure of the chain; its own calls of Next go further down.
   LRESULT Next(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!window_.alive) return 0;
     struct Restore {
       std::size_t& position;
       std::size_t value;
@@ -64,7 +65,6 @@ Subclass* FindSubclass(Window& window, SUBCLASSPROC procedure, UINT_PTR id) {
 }  // namespace
 
 LRESULT Send(Window& window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (!window.alive) return 0;
   return Passage(window).Next(message, wParam, lParam);
 }
 
@@ -80,13 +80,15 @@ LRESULT DispatchMessageW(const MSG* message) {
   return SendMessageW(message->hwnd, message->message, message->wParam, message->lParam);
 }
 
-BOOL SetWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id, DWORD_PTR data) {
+BOOL SetWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id, DWORD_PTR data,
+                       MoveInterest moves) {
   core::Window* w = core::Find(window);
   if (!w || !procedure) return FALSE;
+  const core::Subclass link{procedure, id, data, moves};
   if (core::Subclass* known = core::FindSubclass(*w, procedure, id))
-    known->data = data;
+    *known = link;
   else
-    w->subclasses.push_back({procedure, id, data});
+    w->subclasses.push_back(link);
   return TRUE;
 }
 
@@ -104,9 +106,8 @@ BOOL RemoveWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id) {
 }
 
 LRESULT DefSubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  core::Window* w = core::Find(window);
-  if (!w) return 0;
   if (core::Passage* passage = core::Passage::Of(window))
     return passage->Next(message, wParam, lParam);
-  return w->windowClass->procedure(window, message, wParam, lParam);
+  const core::Window* w = core::Find(window);
+  return w ? w->windowClass->procedure(window, message, wParam, lParam) : 0;
 }

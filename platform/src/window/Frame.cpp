@@ -4,6 +4,7 @@
 #include "window/Coordinates.h"
 #include "window/PaintContext.h"
 #include "window/Updates.h"
+#include "window/WindowClass.h"
 
 namespace core {
 namespace {
@@ -85,6 +86,15 @@ RECT FrameInsets(DWORD style, DWORD exStyle) {
   const int border = BorderWidth(style, exStyle);
   const int caption = HasCaption(style) ? Theme::CaptionHeight() : 0;
   return {border, border + caption, border, border};
+}
+
+void TakeFrameOff(const Window& window, RECT& rect) {
+  if (window.windowClass->paintsFrame) return;
+  const RECT frame = FrameInsets(window.style, window.exStyle);
+  rect.left += frame.left;
+  rect.top += frame.top;
+  rect.right -= frame.right;
+  rect.bottom -= frame.bottom;
 }
 
 int FramePartAt(const Window& window, POINT screen) {

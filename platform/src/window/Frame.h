@@ -8,6 +8,8 @@ namespace core {
 
 // The frame's width on each side.
 RECT FrameInsets(DWORD style, DWORD exStyle);
+// Leaves of a window's rectangle that of its client area.
+void TakeFrameOff(const Window& window, RECT& rect);
 // The part of the window under a screen point, as WM_NCHITTEST answers.
 int FramePartAt(const Window& window, POINT screen);
 // Draws what is due of the frame.

@@ -3,8 +3,10 @@
 #include "window/Activation.h"
 #include "window/Coordinates.h"
 #include "window/Dispatch.h"
+#include "window/Frame.h"
 #include "window/TopLevelSurface.h"
 #include "window/Updates.h"
+#include "window/WindowClass.h"
 #include "window/ZOrder.h"
 
 namespace core {
@@ -25,6 +27,13 @@ void FillKept(const Window& window, WINDOWPOS& request) {
   }
   request.cx = std::max(request.cx, 0);
   request.cy = std::max(request.cy, 0);
+}
+
+// Whether nobody asks for the steps of the window's moves.
+bool MovesQuietly(const Window& window) {
+  const auto isQuiet = [](const auto& heard) { return heard.moves == MoveInterest::SizeOnly; };
+  return window.parent && isQuiet(*window.windowClass) &&
+         std::ranges::all_of(window.subclasses, isQuiet);
 }
 
 // Marks what is asked for and already so.
@@ -86,7 +95,11 @@ void Apply(Window& window, WINDOWPOS& request) {
 
 void UpdateClientArea(Window& window) {
   RECT rect = window.rect;
-  Send(window, WM_NCCALCSIZE, FALSE, AsParam(&rect));
+  if (MovesQuietly(window)) {
+    TakeFrameOff(window, rect);
+  } else {
+    Send(window, WM_NCCALCSIZE, FALSE, AsParam(&rect));
+  }
   const CRect client = CRect(rect).Moved(-window.rect.left, -window.rect.top);
   window.client = {client.left, client.top, std::max(client.left, client.right),
                    std::max(client.top, client.bottom)};
@@ -94,14 +107,21 @@ void UpdateClientArea(Window& window) {
 
 bool Reposition(Window& window, WINDOWPOS request) {
   Hold hold(&window);
+  const bool quiet = MovesQuietly(window);
   FillKept(window, request);
-  Send(window, WM_WINDOWPOSCHANGING, 0, AsParam(&request));
-  if (!hold.Alive()) return false;
-  FillKept(window, request);
+  if (!quiet) {
+    Send(window, WM_WINDOWPOSCHANGING, 0, AsParam(&request));
+    if (!hold.Alive()) return false;
+    FillKept(window, request);
+  }
   MarkUnchanged(window, request);
   if (ChangesNothing(request.flags)) return false;
   Apply(window, request);
   if (!hold.Alive()) return true;
+  if (quiet && !(request.flags & kChanges)) {
+    if (!(request.flags & kNoClientSize)) SendSize(window);
+    return true;
+  }
   Send(window, WM_WINDOWPOSCHANGED, 0, AsParam(&request));
   if (!hold.Alive() || !window.top) return true;
   if (request.flags & SWP_HIDEWINDOW) LeaveHidden(window);

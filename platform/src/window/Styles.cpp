@@ -49,6 +49,15 @@ LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value) {
   }
 }
 
+int GetScrollPos(HWND window, int bar) {
+  const Window* w = Find(window);
+  return w ? w->scrollPositions[bar != SB_HORZ] : 0;
+}
+
+void SetScrollPos(HWND window, int bar, int position) {
+  if (Window* w = Find(window)) w->scrollPositions[bar != SB_HORZ] = position;
+}
+
 void* GetWindowExtra(HWND window) {
   const Window* w = Find(window);
   return w ? w->extra.get() : nullptr;

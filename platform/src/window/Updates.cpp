@@ -31,9 +31,12 @@ PixelRegion ClientArea(const Window& window, HRGN region) {
   return area.Intersect(window.client);
 }
 
-// Whether the pass will paint all of the window anyway, because all of an ancestor that paints over
-// its children is due.
-bool IsDueWithAncestor(const Window& window) {
+// Whether the pass will paint all of the window anyway, because all of it is due, or all of an
+// ancestor that paints over its children.
+bool IsDue(const Window& window, UpdateOptions options) {
+  if (window.allDue && (!options.deep || !window.ClipsChildren())) {
+    return !options.erase || window.eraseDue;
+  }
   for (const Window* w = window.parent; w && !w->ClipsChildren(); w = w->parent)
     if (w->allDue) return true;
   return false;
@@ -46,7 +49,7 @@ void MarkDirty(Window& window) {
 }
 
 void Invalidate(Window& window, const PixelRegion& area, UpdateOptions options) {
-  if (IsDueWithAncestor(window) || !IsPaintable(window)) return;
+  if (IsDue(window, options) || !IsPaintable(window)) return;
   PixelRegion inside = area;
   inside.Intersect(window.Bounds());
   if (inside.IsEmpty()) return;
@@ -58,19 +61,22 @@ void Invalidate(Window& window, const PixelRegion& area, UpdateOptions options) 
 }
 
 void InvalidateAll(Window& window) {
-  Invalidate(window, PixelRegion(window.Bounds()), {.deep = true});
+  constexpr UpdateOptions kAll{.deep = true};
+  if (!IsDue(window, kAll)) Invalidate(window, PixelRegion(window.Bounds()), kAll);
 }
 
 void InvalidateFrame(Window& window) {
+  if (window.client == window.Bounds()) return;
   PixelRegion frame(window.Bounds());
   Invalidate(window, frame.Subtract(window.client), {});
 }
 
 void InvalidateBehind(Window& child) {
   Window* parent = child.parent;
-  if (!parent) return;
+  constexpr UpdateOptions kBehind{.deep = true};
+  if (!parent || IsDue(*parent, kBehind)) return;
   const CRect place = InWindow(*parent, child.rect).Intersected(parent->client);
-  Invalidate(*parent, PixelRegion(place), {.deep = true});
+  Invalidate(*parent, PixelRegion(place), kBehind);
 }
 
 }  // namespace core
@@ -96,9 +102,9 @@ BOOL InvalidateRgn(HWND window, HRGN region, BOOL erase) {
 BOOL RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags) {
   Window* w = Find(window);
   if (!w) return FALSE;
-  if (flags & RDW_INVALIDATE) {
-    const core::UpdateOptions options{.erase = (flags & RDW_ERASE) != 0,
-                                      .deep = (flags & RDW_ALLCHILDREN) != 0};
+  const core::UpdateOptions options{.erase = (flags & RDW_ERASE) != 0,
+                                    .deep = (flags & RDW_ALLCHILDREN) != 0};
+  if ((flags & RDW_INVALIDATE) && !core::IsDue(*w, options)) {
     core::Invalidate(*w, region ? core::ClientArea(*w, region) : core::ClientArea(*w, rect),
                      options);
     if (flags & RDW_FRAME) core::InvalidateFrame(*w);

@@ -36,7 +36,8 @@ ATOM RegisterClassW(const WNDCLASSW* description) {
   const int extra = std::max(description->cbWndExtra, 0);
   core::Classes()[core::Folded(name)] = std::make_unique<core::WindowClass>(
       core::WindowClass{name, description->lpfnWndProc, static_cast<std::size_t>(extra),
-                        description->cursor ? description->cursor : IDC_ARROW});
+                        description->cursor ? description->cursor : IDC_ARROW, description->moves,
+                        description->paintsFrame});
   return static_cast<ATOM>(0xC000 + core::Classes().size());
 }
 

@@ -11,6 +11,8 @@ struct WindowClass {
   WNDPROC procedure;
   std::size_t extraBytes;
   const wchar_t* cursor;
+  MoveInterest moves = MoveInterest::Steps;
+  bool paintsFrame = false;
 };
 
 // Names are compared without regard to case. Null for an unknown one. Classes are never removed.

@@ -21,6 +21,7 @@ struct Subclass {
   SUBCLASSPROC procedure;  // null: removed while a message was on its way
   UINT_PTR id;
   DWORD_PTR data;
+  MoveInterest moves;
 };
 
 // What only a top-level window has.
@@ -74,7 +75,8 @@ struct Window {
   bool redraw = true;         // off between WM_SETREDRAW messages
   bool destroying = false;
 
-  bool allDue = false;  // the update region covers the whole window
+  int scrollPositions[2] = {};  // SB_HORZ, SB_VERT
+  bool allDue = false;          // the update region covers the whole window
 
   std::vector<Overlap> overlaps;  // of the children
   bool overlapsKnown = false;
