@@ -6,7 +6,7 @@ packages=(
   # tools
   g++ cmake ninja-build pkg-config ccache mold
   # drawing, text, regions
-  libcairo2-dev libpango1.0-dev libfontconfig-dev libpixman-1-dev fonts-dejavu-core
+  libglib2.0-dev libcairo2-dev libpango1.0-dev libfontconfig-dev libpixman-1-dev fonts-dejavu-core
   # scripts that DejaVu lacks: Devanagari, Chinese, Japanese and Korean, emoji
   fonts-lohit-deva fonts-wqy-microhei fonts-noto-color-emoji
   # pictures

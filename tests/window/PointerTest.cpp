@@ -187,7 +187,11 @@ TEST_F(PointerTest, DroppedFilesReachTheAcceptingParent) {
   robot_.Screen().DropFiles({130, 140}, {L"/a"});
   robot_.PumpAll();
   EXPECT_THAT(files, IsEmpty());
+  EXPECT_FALSE(Robot::Screen().TakesFiles());
   DragAcceptFiles(child, TRUE);
+  robot_.Screen().DragFiles({130, 140});
+  robot_.PumpAll();
+  EXPECT_TRUE(Robot::Screen().TakesFiles());
   robot_.Screen().DropFiles({130, 140}, {L"/a", L"/b c"});
   robot_.PumpAll();
   EXPECT_THAT(files, ElementsAre(L"/a", L"/b c"));

@@ -254,6 +254,23 @@ TEST_F(SettingsTest, NewColoursAreToldAndPainted) {
   EXPECT_EQ(contrast.dwFlags, HCF_HIGHCONTRASTON);
 }
 
+TEST_F(SettingsTest, DesktopsColoursCountUntilTheProgramChooses) {
+  SetSystemScheme(std::nullopt);
+  ShowWindowAt({0, 0, 100, 100});
+  Watch({WM_SYSCOLORCHANGE, WM_PAINT});
+  robot_.Screen().ChangeScheme(SystemScheme::HighContrast);
+  robot_.PumpAll();
+  EXPECT_THAT(TakeNotes(), ElementsAre("SYSCOLORCHANGE", "PAINT"));
+  EXPECT_EQ(GetSystemScheme(), SystemScheme::HighContrast);
+  SetSystemScheme(SystemScheme::Dark);
+  robot_.PumpAll();
+  TakeNotes();
+  robot_.Screen().ChangeScheme(SystemScheme::Light);
+  robot_.PumpAll();
+  EXPECT_THAT(TakeNotes(), IsEmpty());
+  EXPECT_EQ(GetSystemScheme(), SystemScheme::Dark);
+}
+
 TEST_F(SettingsTest, NewResolutionIsToldWithASuggestion) {
   const HWND window = ShowWindowAt({10, 20, 110, 120}, kDialog);
   CRect suggested;

@@ -44,9 +44,7 @@ class SlowProgram {
  public:
   explicit SlowProgram(std::vector<std::string> pieces) : pieces_(std::move(pieces)) {
     pieces_.emplace_back();
-    window_ = xcb_generate_id(c_);
-    xcb_create_window(c_, XCB_COPY_FROM_PARENT, window_, person_.Root(), 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    window_ = person_.CreateWindow();
     xcb_set_selection_owner(c_, window_, person_.Atom("CLIPBOARD"), XCB_CURRENT_TIME);
     incr_ = person_.Atom("INCR");
     person_.Sync();

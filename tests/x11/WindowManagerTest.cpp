@@ -1,8 +1,3 @@
-#include <poll.h>
-
-#include <array>
-#include <cstdlib>
-
 #include "platform/WindowStyles.h"
 #include "x11/X11Test.h"
 
@@ -15,12 +10,12 @@ using Kind = Input::Kind;
 class X11WindowManagerTest : public X11Test {
  protected:
   X11WindowManagerTest() {
-    SetWords(person_.Root(), "_NET_WORKAREA", XCB_ATOM_CARDINAL, {0, 30, 1280, 900});
-    SetWords(person_.Root(), "_NET_SUPPORTED", XCB_ATOM_ATOM,
-             {person_.Atom("_NET_WM_NAME"), person_.Atom("_NET_WM_MOVERESIZE")});
-    const xcb_window_t check = CreateWindow({-10, -10, -5, -5});
+    person_.SetWords(person_.Root(), "_NET_WORKAREA", XCB_ATOM_CARDINAL, {0, 30, 1280, 900});
+    person_.SetWords(person_.Root(), "_NET_SUPPORTED", XCB_ATOM_ATOM,
+                     {person_.Atom("_NET_WM_NAME"), person_.Atom("_NET_WM_MOVERESIZE")});
+    const xcb_window_t check = ShowWindow({-10, -10, -5, -5});
     for (const xcb_window_t window : {check, person_.Root()}) {
-      SetWords(window, "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW, {check});
+      person_.SetWords(window, "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW, {check});
     }
     display_->CreateSurface(kDialog, SurfaceKind::Dialog, 0, kPlace);
     display_->SetTitle(kDialog, L"managed");
@@ -37,40 +32,17 @@ class X11WindowManagerTest : public X11Test {
     person_.Sync();
   }
 
-  void SetWords(xcb_window_t window, const char* name, xcb_atom_t type,
-                const std::vector<std::uint32_t>& words) {
-    xcb_change_property(person_.Connection(), XCB_PROP_MODE_REPLACE, window, person_.Atom(name),
-                        type, 32, static_cast<std::uint32_t>(words.size()), words.data());
-    person_.Sync();
-  }
-
-  xcb_window_t CreateWindow(const RECT& place) {
-    const xcb_window_t window = xcb_generate_id(person_.Connection());
-    xcb_create_window(person_.Connection(), XCB_COPY_FROM_PARENT, window, person_.Root(),
-                      static_cast<std::int16_t>(place.left), static_cast<std::int16_t>(place.top),
-                      static_cast<std::uint16_t>(place.right - place.left),
-                      static_cast<std::uint16_t>(place.bottom - place.top), 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+  xcb_window_t ShowWindow(const RECT& place) {
+    const xcb_window_t window = person_.CreateWindow(place);
     xcb_map_window(person_.Connection(), window);
     person_.Sync();
     return window;
   }
 
   // The message that the display has sent to the window manager; zeros if none.
-  std::array<std::uint32_t, 6> Message(const char* name) {
+  support::XTestDriver::Message Message(const char* name) {
     All();
-    person_.Sync();
-    std::array<std::uint32_t, 6> words{};
-    const xcb_atom_t type = person_.Atom(name);
-    while (xcb_generic_event_t* event = xcb_poll_for_event(person_.Connection())) {
-      const auto* message = reinterpret_cast<const xcb_client_message_event_t*>(event);
-      if ((event->response_type & 0x7F) == XCB_CLIENT_MESSAGE && message->type == type) {
-        words[0] = message->window;
-        std::copy_n(message->data.data32, 5, words.begin() + 1);
-      }
-      std::free(event);
-    }
-    return words;
+    return person_.TakeMessage(name).value_or(support::XTestDriver::Message{});
   }
 
   xcb_window_t window_ = 0;
@@ -81,17 +53,17 @@ TEST_F(X11WindowManagerTest, TakesMovesAndSizesOver) {
   All();
   EXPECT_TRUE(display_->BeginMoveSize(kDialog, HTBOTTOMRIGHT));
   const auto message = Message("_NET_WM_MOVERESIZE");
-  EXPECT_EQ(message[0], window_);
-  EXPECT_EQ(message[1], 150u);
-  EXPECT_EQ(message[2], 120u);
-  EXPECT_EQ(message[3], 4u);
+  EXPECT_EQ(message.window, window_);
+  EXPECT_EQ(message.data[0], 150u);
+  EXPECT_EQ(message.data[1], 120u);
+  EXPECT_EQ(message.data[2], 4u);
   EXPECT_FALSE(display_->BeginMoveSize(kDialog, HTCLIENT));
 }
 
 TEST_F(X11WindowManagerTest, GivesTheFocus) {
   EXPECT_NE(person_.FocusedWindow(), window_);
   display_->FocusSurface(kDialog);
-  EXPECT_EQ(Message("_NET_ACTIVE_WINDOW")[0], window_);
+  EXPECT_EQ(Message("_NET_ACTIVE_WINDOW").window, window_);
   EXPECT_NE(person_.FocusedWindow(), window_);
 }
 
@@ -99,32 +71,22 @@ TEST_F(X11WindowManagerTest, KeepsPanelsOutOfTheWorkArea) {
   const RECT area = display_->WorkArea();
   EXPECT_EQ(area.top, 30);
   EXPECT_EQ(area.bottom, 930);
-  SetWords(person_.Root(), "_NET_WORKAREA", XCB_ATOM_CARDINAL, {0, 50, 1280, 900});
+  person_.SetWords(person_.Root(), "_NET_WORKAREA", XCB_ATOM_CARDINAL, {0, 50, 1280, 900});
   All();
   EXPECT_EQ(display_->WorkArea().top, 50);
 }
 
 TEST_F(X11WindowManagerTest, LearnsThatTheProgramListens) {
-  xcb_client_message_event_t ping{};
-  ping.response_type = XCB_CLIENT_MESSAGE;
-  ping.format = 32;
-  ping.window = window_;
-  ping.type = person_.Atom("WM_PROTOCOLS");
-  ping.data.data32[0] = person_.Atom("_NET_WM_PING");
-  ping.data.data32[1] = 4711;
-  ping.data.data32[2] = window_;
-  xcb_send_event(person_.Connection(), 0, window_, XCB_EVENT_MASK_NO_EVENT,
-                 reinterpret_cast<const char*>(&ping));
-  person_.Sync();
+  person_.Send(window_, "WM_PROTOCOLS", {person_.Atom("_NET_WM_PING"), 4711, window_});
   EXPECT_TRUE(All(Kind::CloseRequested).empty());
   const auto answer = Message("WM_PROTOCOLS");
-  EXPECT_EQ(answer[0], person_.Root());
-  EXPECT_EQ(answer[2], 4711u);
-  EXPECT_EQ(answer[3], window_);
+  EXPECT_EQ(answer.window, person_.Root());
+  EXPECT_EQ(answer.data[1], 4711u);
+  EXPECT_EQ(answer.data[2], window_);
 }
 
 TEST_F(X11WindowManagerTest, FrameAroundTheWindowDoesNotHideWhereItIs) {
-  const xcb_window_t frame = CreateWindow({300, 300, 800, 700});
+  const xcb_window_t frame = ShowWindow({300, 300, 800, 700});
   xcb_reparent_window(person_.Connection(), window_, frame, 5, 25);
   person_.Sync();
   All();
@@ -138,9 +100,9 @@ TEST_F(X11WindowManagerTest, FrameAroundTheWindowDoesNotHideWhereItIs) {
 TEST_F(X11WindowManagerTest, IsAskedToMakeAShownDialogModal) {
   display_->SetModal(kDialog, true);
   const auto message = Message("_NET_WM_STATE");
-  EXPECT_EQ(message[0], window_);
-  EXPECT_EQ(message[1], 1u);
-  EXPECT_EQ(message[2], person_.Atom("_NET_WM_STATE_MODAL"));
+  EXPECT_EQ(message.window, window_);
+  EXPECT_EQ(message.data[0], 1u);
+  EXPECT_EQ(message.data[1], person_.Atom("_NET_WM_STATE_MODAL"));
 }
 
 TEST_F(X11WindowManagerTest, ReadsTheLimitsOfTheSize) {

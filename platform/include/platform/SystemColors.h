@@ -2,6 +2,8 @@
 
 // The desktop's colours and its high-contrast state, from one provider that can change at run time.
 
+#include <optional>
+
 #include "Types.h"
 
 inline constexpr int COLOR_SCROLLBAR = 0;
@@ -27,7 +29,11 @@ enum class SystemScheme { Light, Dark, HighContrast };
 
 // 0 (black) for an unknown index.
 DWORD GetSysColor(int index);
-// The scheme in force; at start-up high contrast when WEXA_HIGH_CONTRAST=1, else light.
+// The scheme in force: what was chosen with SetSystemScheme, or at start by the environment's
+// WEXA_HIGH_CONTRAST (1: high contrast, 0: light); else what the desktop asks for.
 SystemScheme GetSystemScheme();
-// Replaces the scheme; the display tells open windows with WM_SYSCOLORCHANGE.
-void SetSystemScheme(SystemScheme scheme);
+// Chooses the scheme whatever the desktop asks for; none leaves it to the desktop. Open windows
+// learn of a change by WM_SYSCOLORCHANGE.
+void SetSystemScheme(std::optional<SystemScheme> scheme);
+// What the desktop asks for from now on.
+void SetDesktopScheme(SystemScheme scheme);

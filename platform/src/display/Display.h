@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/SystemColors.h"
 #include "platform/Types.h"
 
 namespace display {
@@ -19,7 +20,18 @@ using SurfaceId = std::uint32_t;  // chosen by the window core, never 0, never r
 enum class SurfaceKind { Dialog, PopUp, ToolTip };
 
 enum class CursorShape {
-  Arrow, Wait, IBeam, Cross, UpArrow, SizeAll, SizeNwse, SizeNesw, SizeWe, SizeNs, No, Hand
+  Arrow,
+  Wait,
+  IBeam,
+  Cross,
+  UpArrow,
+  SizeAll,
+  SizeNwse,
+  SizeNesw,
+  SizeWe,
+  SizeNs,
+  No,
+  Hand
 };
 
 // The pixels of a surface: 32 bits each, 0xAARRGGBB, rows of `stride` bytes. Valid until the
@@ -36,26 +48,40 @@ enum class MouseButton { Left, Right, Middle, Extra1, Extra2 };
 // One thing the user or the desktop did. Positions are screen pixels.
 struct Input {
   enum class Kind {
-    PointerMoved, PointerLeft, ButtonDown, ButtonUp, Wheel, KeyDown, KeyUp,
-    FocusIn, FocusOut, CloseRequested, Exposed, Moved, Resized, ResolutionChanged, FilesDropped,
+    PointerMoved,
+    PointerLeft,
+    ButtonDown,
+    ButtonUp,
+    Wheel,
+    KeyDown,
+    KeyUp,
+    FocusIn,
+    FocusOut,
+    CloseRequested,
+    Exposed,
+    Moved,
+    Resized,
+    ResolutionChanged,
+    FilesDragged,
+    FilesDropped,
     ColorsChanged
   };
   Kind kind;
   SurfaceId surface = 0;
-  POINT position{};              // pointer events; Moved: the new corner
-  SIZE size{};                   // Resized
-  RECT area{};                   // Exposed, in the surface
-  MouseButton button{};          // ButtonDown, ButtonUp
-  int wheelDelta = 0;            // 120 a notch, positive away from the user
+  POINT position{};      // pointer events, files; Moved: the new corner
+  SIZE size{};           // Resized
+  RECT area{};           // Exposed, in the surface
+  MouseButton button{};  // ButtonDown, ButtonUp
+  int wheelDelta = 0;    // 120 a notch, positive away from the user
   bool horizontalWheel = false;
-  int virtualKey = 0;            // KeyDown, KeyUp: native virtual-key code
-  int scanCode = 0;              // set-1 scan code of the key's place
-  bool extendedKey = false;      // arrows, right Control and their like
-  bool repeated = false;         // KeyDown by auto-repeat
-  std::u32string text{};         // KeyDown: the characters the layout gives, composed; may be empty
-  int dpi = 0;                   // ResolutionChanged
+  int virtualKey = 0;        // KeyDown, KeyUp: native virtual-key code
+  int scanCode = 0;          // set-1 scan code of the key's place
+  bool extendedKey = false;  // arrows, right Control and their like
+  bool repeated = false;     // KeyDown by auto-repeat
+  std::u32string text{};     // KeyDown: the characters the layout gives, composed; may be empty
+  int dpi = 0;               // ResolutionChanged
   std::vector<std::wstring> files{};  // FilesDropped
-  std::uint32_t time = 0;        // milliseconds of the display's clock
+  std::uint32_t time = 0;             // milliseconds of the display's clock
 };
 
 class Display {
@@ -66,7 +92,8 @@ class Display {
   virtual RECT WorkArea() const = 0;
 
   // The rectangle is the whole window in screen pixels: windows draw their own frame.
-  virtual void CreateSurface(SurfaceId id, SurfaceKind kind, SurfaceId owner, const RECT& place) = 0;
+  virtual void CreateSurface(SurfaceId id, SurfaceKind kind, SurfaceId owner,
+                             const RECT& place) = 0;
   virtual void DestroySurface(SurfaceId id) = 0;
   virtual void MoveSurface(SurfaceId id, const RECT& place) = 0;
   virtual void ShowSurface(SurfaceId id, bool show) = 0;
@@ -89,8 +116,8 @@ class Display {
   // The next record, or none at once. Throws std::runtime_error when the server is lost.
   virtual std::optional<Input> Poll() = 0;
   // Returns when there may be input, when Wake was called, or at `deadline` (clock milliseconds).
-  // Offscreen there is no one to wait for: time jumps to the deadline; without one it returns false,
-  // for nothing could ever happen.
+  // Offscreen there is no one to wait for: time jumps to the deadline; without one it returns
+  // false, for nothing could ever happen.
   virtual bool Wait(std::optional<std::uint64_t> deadline) = 0;
   // Ends a Wait; may be called from any thread.
   virtual void Wake() = 0;
@@ -100,6 +127,12 @@ class Display {
   virtual bool IsKeyDown(int virtualKey) const = 0;  // mouse buttons included (VK_LBUTTON ...)
   virtual bool IsKeyToggled(int virtualKey) const = 0;
   virtual std::uint32_t DoubleClickTime() const { return 500; }
+  // The colours that the desktop asks for; ColorsChanged tells of a change.
+  virtual SystemScheme Scheme() const = 0;
+
+  // Says whether the place takes files that the last record FilesDragged of the surface asked
+  // about. Files are dropped only where it does.
+  virtual void AnswerDrag(SurfaceId id, bool takesFiles) = 0;
 
   virtual void SetClipboardText(const std::wstring& text) = 0;
   virtual std::wstring ClipboardText() = 0;

@@ -6,8 +6,9 @@
 #include "display/Display.h"
 #include "display/offscreen/OffscreenDisplay.h"
 #include "display/x11/X11Display.h"
-#include "graphics/ScreenDpi.h"
+#include "graphics/ScreenProbe.h"
 #include "platform/Font.h"
+#include "platform/SystemColors.h"
 
 namespace display {
 namespace {
@@ -52,7 +53,7 @@ std::unique_ptr<Display>& Instance() {
   return instance;
 }
 
-// Whoever asks for the resolution first opens the display.
+// Whoever asks for the resolution or the colours first opens the display.
 [[maybe_unused]] const bool probes = [] {
   SetScreenProbe([] { Current(); });
   return true;
@@ -67,7 +68,9 @@ Display& Current() {
 
 void SetCurrent(std::unique_ptr<Display> display) {
   Instance() = std::move(display);
-  if (Instance()) SetScreenDpi(Instance()->Dpi());
+  if (!Instance()) return;
+  SetScreenDpi(Instance()->Dpi());
+  SetDesktopScheme(Instance()->Scheme());
 }
 
 }  // namespace display

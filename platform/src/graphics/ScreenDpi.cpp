@@ -1,8 +1,6 @@
-#include "graphics/ScreenDpi.h"
-
 #include <algorithm>
-#include <utility>
 
+#include "graphics/ScreenProbe.h"
 #include "platform/Font.h"
 
 namespace {
@@ -10,16 +8,11 @@ namespace {
 constexpr int kUnitsPerInch = 96;
 
 constinit int screenDpi = 0;  // not known yet
-constinit ScreenProbe screenProbe = nullptr;
 
 }  // namespace
 
-void SetScreenProbe(ScreenProbe probe) {
-  screenProbe = probe;
-}
-
 int GetScreenDpi() {
-  if (screenDpi == 0 && screenProbe) std::exchange(screenProbe, nullptr)();
+  if (screenDpi == 0) ProbeScreen();
   return screenDpi ? screenDpi : kUnitsPerInch;
 }
 

@@ -2,7 +2,10 @@
 
 #include <array>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
+
+#include "graphics/ScreenProbe.h"
 
 namespace {
 
@@ -107,29 +110,39 @@ constexpr Tones kHighContrast{.window = kBlack,
 
 constexpr std::array kSchemes{MakeColors(kLight), MakeColors(kDark), MakeColors(kHighContrast)};
 
-SystemScheme InitialScheme() {
-  const char* wish = std::getenv("WEXA_HIGH_CONTRAST");
-  bool contrast = wish && std::string_view(wish) == "1";
-  return contrast ? SystemScheme::HighContrast : SystemScheme::Light;
+// What the environment chooses.
+std::optional<SystemScheme> InitialChoice() {
+  const char* variable = std::getenv("WEXA_HIGH_CONTRAST");
+  const std::string_view wish = variable ? variable : "";
+  if (wish == "1") return SystemScheme::HighContrast;
+  return wish == "0" ? std::optional(SystemScheme::Light) : std::nullopt;
 }
 
-SystemScheme& Scheme() {
-  static SystemScheme scheme = InitialScheme();
-  return scheme;
+std::optional<SystemScheme>& Chosen() {
+  static std::optional<SystemScheme> chosen = InitialChoice();
+  return chosen;
 }
+
+constinit SystemScheme desktopScheme = SystemScheme::Light;
 
 }  // namespace
 
 DWORD GetSysColor(int index) {
   if (index < 0 || index >= kColorCount) return 0;
-  const Colors& colors = kSchemes[static_cast<std::size_t>(Scheme())];
+  const Colors& colors = kSchemes[static_cast<std::size_t>(GetSystemScheme())];
   return colors[static_cast<std::size_t>(index)];
 }
 
 SystemScheme GetSystemScheme() {
-  return Scheme();
+  if (Chosen()) return *Chosen();
+  ProbeScreen();
+  return desktopScheme;
 }
 
-void SetSystemScheme(SystemScheme scheme) {
-  Scheme() = scheme;
+void SetSystemScheme(std::optional<SystemScheme> scheme) {
+  Chosen() = scheme;
+}
+
+void SetDesktopScheme(SystemScheme scheme) {
+  desktopScheme = scheme;
 }

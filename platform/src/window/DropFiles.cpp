@@ -23,16 +23,23 @@ std::vector<HDROP>& Untaken() {
   return drops;
 }
 
-Window* Accepting(Window* window) {
+// The window at the place that accepts files; null where none does.
+Window* AcceptingAt(const display::Input& input) {
+  Window* root = FindBySurface(input.surface);
+  Window* window = root ? HitTest(*root, input.position).window : nullptr;
   while (window && !(window->exStyle & WS_EX_ACCEPTFILES)) window = window->parent;
   return window;
 }
 
 }  // namespace
 
+void AnswerDrag(const display::Input& input) {
+  const bool takesFiles = AcceptingAt(input) != nullptr;
+  display::Current().AnswerDrag(input.surface, takesFiles);
+}
+
 std::optional<MSG> DropMessage(const display::Input& input) {
-  Window* root = FindBySurface(input.surface);
-  Window* window = root ? Accepting(HitTest(*root, input.position).window) : nullptr;
+  Window* window = AcceptingAt(input);
   if (!window) return std::nullopt;
   const POINT point = ToClient(*window, input.position);
   const HDROP drop = Drops().Add(std::make_unique<Drop>(Drop{window->handle, point, input.files}));

@@ -113,6 +113,11 @@ void LoseFocus(const Input& input) {
   SurfaceUnfocused(input.surface);
 }
 
+void FollowDesktop() {
+  SetDesktopScheme(display::Current().Scheme());
+  BroadcastSchemeChange();
+}
+
 std::optional<MSG> Route(const Input& input) {
   switch (input.kind) {
     case Kind::PointerMoved:
@@ -123,6 +128,7 @@ std::optional<MSG> Route(const Input& input) {
     case Kind::KeyUp: return KeyMessage(input);
     case Kind::CloseRequested: return CloseMessage(input);
     case Kind::FilesDropped: return DropMessage(input);
+    case Kind::FilesDragged: AnswerDrag(input); break;
     case Kind::PointerLeft: PointerLeft(input.surface); break;
     case Kind::FocusIn: GainFocus(input); break;
     case Kind::FocusOut: LoseFocus(input); break;
@@ -130,7 +136,7 @@ std::optional<MSG> Route(const Input& input) {
     case Kind::Moved:
     case Kind::Resized: Adopt(input); break;
     case Kind::ResolutionChanged: ChangeResolution(input.dpi); break;
-    case Kind::ColorsChanged: ChangeColors(); break;
+    case Kind::ColorsChanged: FollowDesktop(); break;
   }
   return std::nullopt;
 }

@@ -202,15 +202,7 @@ void XTestDriver::Move(xcb_window_t window, POINT corner) {
 }
 
 void XTestDriver::Close(xcb_window_t window) {
-  xcb_client_message_event_t event{};
-  event.response_type = XCB_CLIENT_MESSAGE;
-  event.format = 32;
-  event.window = window;
-  event.type = Atom("WM_PROTOCOLS");
-  event.data.data32[0] = Atom("WM_DELETE_WINDOW");
-  xcb_send_event(connection_, 0, window, XCB_EVENT_MASK_NO_EVENT,
-                 reinterpret_cast<const char*>(&event));
-  Sync();
+  Send(window, "WM_PROTOCOLS", {Atom("WM_DELETE_WINDOW")});
 }
 
 void XTestDriver::Disconnect(xcb_window_t window) {
@@ -235,6 +227,53 @@ std::vector<std::uint32_t> XTestDriver::Screenshot(xcb_window_t window, const RE
 std::uint32_t XTestDriver::PixelAt(POINT position) {
   const auto pixels = Screenshot(Root(), {position.x, position.y, position.x + 1, position.y + 1});
   return pixels.empty() ? 0 : pixels.front();
+}
+
+xcb_window_t XTestDriver::CreateWindow(const RECT& place) {
+  const xcb_window_t window = xcb_generate_id(connection_);
+  xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window, Root(),
+                    static_cast<std::int16_t>(place.left), static_cast<std::int16_t>(place.top),
+                    static_cast<std::uint16_t>(place.right - place.left),
+                    static_cast<std::uint16_t>(place.bottom - place.top), 0,
+                    XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+  Sync();
+  return window;
+}
+
+void XTestDriver::Send(xcb_window_t window, const std::string& message, const Words& data,
+                       std::uint32_t mask, std::uint8_t format) {
+  xcb_client_message_event_t event{};
+  event.response_type = XCB_CLIENT_MESSAGE;
+  event.format = format;
+  event.window = window;
+  event.type = Atom(message);
+  std::memcpy(event.data.data32, data.data(), sizeof event.data.data32);
+  xcb_send_event(connection_, 0, window, mask, reinterpret_cast<const char*>(&event));
+  Sync();
+}
+
+std::optional<XTestDriver::Message> XTestDriver::TakeMessage(const std::string& message) {
+  const xcb_atom_t type = Atom(message);
+  std::optional<Message> taken;
+  ForEachEvent([&](const xcb_generic_event_t& event) {
+    const auto& sent = reinterpret_cast<const xcb_client_message_event_t&>(event);
+    if ((event.response_type & 0x7F) != XCB_CLIENT_MESSAGE || sent.type != type) return;
+    taken = {sent.window, {}};
+    std::memcpy(taken->data.data(), sent.data.data32, sizeof sent.data.data32);
+  });
+  return taken;
+}
+
+void XTestDriver::ForEachEvent(const std::function<void(const xcb_generic_event_t&)>& action) {
+  Sync();
+  while (const auto event = Own(xcb_poll_for_event(connection_))) action(*event);
+}
+
+void XTestDriver::SetWords(xcb_window_t window, const std::string& property, xcb_atom_t type,
+                           const std::vector<std::uint32_t>& words) {
+  xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window, Atom(property), type, 32,
+                      static_cast<std::uint32_t>(words.size()), words.data());
+  Sync();
 }
 
 void XTestDriver::SetRootProperty(const std::string& name, const std::string& text) {

@@ -6,6 +6,7 @@
 #include <xcb/xcb.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -63,6 +64,24 @@ class XTestDriver {
   // The pixels of a rectangle of the window, 0x00RRGGBB, row by row; empty when it is not shown.
   std::vector<std::uint32_t> Screenshot(xcb_window_t window, const RECT& area);
   std::uint32_t PixelAt(POINT position);
+
+  // A window of this program, not shown.
+  xcb_window_t CreateWindow(const RECT& place = {0, 0, 1, 1});
+  // A message from program to program.
+  using Words = std::array<std::uint32_t, 5>;
+  void Send(xcb_window_t window, const std::string& message, const Words& data,
+            std::uint32_t mask = XCB_EVENT_MASK_NO_EVENT, std::uint8_t format = 32);
+  // The last message of this kind that has come to this program, all events before it being
+  // dropped; none if none.
+  struct Message {
+    xcb_window_t window;
+    Words data;
+  };
+  std::optional<Message> TakeMessage(const std::string& message);
+  // Hands out all events that have come.
+  void ForEachEvent(const std::function<void(const xcb_generic_event_t&)>& action);
+  void SetWords(xcb_window_t window, const std::string& property, xcb_atom_t type,
+                const std::vector<std::uint32_t>& words);
 
   void SetRootProperty(const std::string& name, const std::string& text);
   std::string Property(xcb_window_t window, const std::string& name);

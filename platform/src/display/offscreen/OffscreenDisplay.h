@@ -27,10 +27,12 @@ class OffscreenDisplay : public Display {
   void PressKey(int virtualKey, const std::u32string& text = {}, bool repeated = false);
   void ReleaseKey(int virtualKey);
   void SetToggled(int virtualKey, bool toggled);
+  // Holds files over a place; TakesFiles tells what came back.
+  void DragFiles(POINT screen);
   void DropFiles(POINT screen, const std::vector<std::wstring>& files);
   void RequestClose(SurfaceId id);
   void ChangeResolution(int dpi);
-  void ChangeColors();
+  void ChangeScheme(SystemScheme scheme);
   // The desktop moves or sizes a window.
   void PlaceByDesktop(SurfaceId id, const RECT& place);
   // The desktop takes the focus away from all windows.
@@ -48,6 +50,7 @@ class OffscreenDisplay : public Display {
   bool IsResizable(SurfaceId id) const;
   SurfaceKind KindOf(SurfaceId id) const;
   SurfaceId Focused() const { return focused_; }
+  bool TakesFiles() const { return takesFiles_; }
   SurfaceId SurfaceAt(POINT screen) const;                  // 0: none
   std::uint32_t PixelAt(SurfaceId id, int x, int y) const;  // 0xAARRGGBB
   // The areas presented since they were last forgotten.
@@ -80,6 +83,8 @@ class OffscreenDisplay : public Display {
   POINT PointerPosition() const override { return pointer_; }
   bool IsKeyDown(int virtualKey) const override;
   bool IsKeyToggled(int virtualKey) const override;
+  SystemScheme Scheme() const override { return scheme_; }
+  void AnswerDrag(SurfaceId, bool takesFiles) override { takesFiles_ = takesFiles; }
   void SetClipboardText(const std::wstring& text) override { clipboard_ = text; }
   std::wstring ClipboardText() override { return clipboard_; }
 
@@ -111,6 +116,8 @@ class OffscreenDisplay : public Display {
   int buttonsDown_ = 0;
   SurfaceId grabbing_ = 0;
   SurfaceId focused_ = 0;
+  bool takesFiles_ = false;
+  SystemScheme scheme_ = SystemScheme::Light;
   std::uint64_t now_ = 1000;
   std::atomic<bool> woken_ = false;
   std::wstring clipboard_;

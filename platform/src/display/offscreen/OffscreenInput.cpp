@@ -119,7 +119,13 @@ bool OffscreenDisplay::IsKeyToggled(int virtualKey) const {
   return keys_.at(static_cast<std::size_t>(virtualKey)).toggled;
 }
 
+void OffscreenDisplay::DragFiles(POINT screen) {
+  const SurfaceId target = SurfaceAt(screen);
+  if (target != 0) Report({.kind = Kind::FilesDragged, .surface = target, .position = screen});
+}
+
 void OffscreenDisplay::DropFiles(POINT screen, const std::vector<std::wstring>& files) {
+  DragFiles(screen);
   const SurfaceId target = SurfaceAt(screen);
   if (target != 0)
     Report({.kind = Kind::FilesDropped, .surface = target, .position = screen, .files = files});
@@ -134,7 +140,8 @@ void OffscreenDisplay::ChangeResolution(int dpi) {
   Report({.kind = Kind::ResolutionChanged, .dpi = dpi});
 }
 
-void OffscreenDisplay::ChangeColors() {
+void OffscreenDisplay::ChangeScheme(SystemScheme scheme) {
+  scheme_ = scheme;
   Report({.kind = Kind::ColorsChanged});
 }
 

@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::string_view kNames[] = {"CLIPBOARD",
                                        "INCR",
+                                       "MANAGER",
                                        "_MOTIF_WM_HINTS",
                                        "_NET_ACTIVE_WINDOW",
                                        "_NET_CURRENT_DESKTOP",
@@ -27,11 +28,26 @@ constexpr std::string_view kNames[] = {"CLIPBOARD",
                                        "_NET_WM_WINDOW_TYPE_TOOLTIP",
                                        "_NET_WORKAREA",
                                        "TARGETS",
+                                       "text/uri-list",
                                        "TIMESTAMP",
                                        "UTF8_STRING",
+                                       "WEXA_DROP",
                                        "WEXA_SELECTION",
+                                       "WM_CLIENT_LEADER",
                                        "WM_DELETE_WINDOW",
-                                       "WM_PROTOCOLS"};
+                                       "WM_PROTOCOLS",
+                                       "XdndActionCopy",
+                                       "XdndAware",
+                                       "XdndDrop",
+                                       "XdndEnter",
+                                       "XdndFinished",
+                                       "XdndLeave",
+                                       "XdndPosition",
+                                       "XdndSelection",
+                                       "XdndStatus",
+                                       "XdndTypeList",
+                                       "_XSETTINGS_S0",
+                                       "_XSETTINGS_SETTINGS"};
 static_assert(std::size(kNames) == static_cast<std::size_t>(Atom::Count));
 
 }  // namespace

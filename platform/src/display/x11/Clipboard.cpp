@@ -21,51 +21,25 @@ void Clipboard::Own(const std::wstring& text, xcb_timestamp_t time) {
 
 std::wstring Clipboard::Ask(xcb_timestamp_t time, const std::function<void(std::uint64_t)>& pump) {
   if (owned_) return text_;
-  if (AskAs(connection_[Atom::Utf8String], time, pump)) return Widen(FromUtf8(received_));
-  if (AskAs(XCB_ATOM_STRING, time, pump)) return FromLatin1(received_);
+  if (AskAs(connection_[Atom::Utf8String], time, pump)) return Widen(FromUtf8(reader_.Bytes()));
+  if (AskAs(XCB_ATOM_STRING, time, pump)) return FromLatin1(reader_.Bytes());
   return {};
 }
 
 bool Clipboard::AskAs(xcb_atom_t type, xcb_timestamp_t time,
                       const std::function<void(std::uint64_t)>& pump) {
-  if (IsOpen()) return false;
-  transfer_ = Transfer::Waiting;
-  received_.clear();
-  xcb_convert_selection(connection_.Get(), connection_.Helper(), connection_[Atom::Clipboard], type,
-                        connection_[Atom::WexaSelection], time);
+  if (reader_.IsOpen()) return false;
+  reader_.Begin(connection_.Helper(), connection_[Atom::Clipboard], type, time);
   pump(0);
   std::size_t length = 0;
-  for (auto deadline = Waker::Now() + kPatience; IsOpen() && Waker::Now() < deadline;) {
+  for (auto deadline = Waker::Now() + kPatience; reader_.IsOpen() && Waker::Now() < deadline;) {
     pump(deadline);
-    if (received_.size() != length) deadline = Waker::Now() + kPatience;
-    length = received_.size();
+    if (reader_.Bytes().size() != length) deadline = Waker::Now() + kPatience;
+    length = reader_.Bytes().size();
   }
-  const bool done = transfer_ == Transfer::Done;
-  transfer_ = Transfer::None;
+  const bool done = reader_.IsDone();
+  reader_.Abandon();
   return done;
-}
-
-void Clipboard::Answered(const xcb_selection_notify_event_t& answer) {
-  if (transfer_ != Transfer::Waiting) return;
-  transfer_ = Transfer::Refused;
-  if (answer.property == XCB_ATOM_NONE) return;
-  xcb_atom_t type = XCB_ATOM_NONE;
-  received_ = connection_.ReadProperty(connection_.Helper(), answer.property, true, &type);
-  transfer_ = Transfer::Done;
-  if (type != connection_[Atom::Incr]) return;
-  transfer_ = Transfer::InPieces;
-  received_.clear();
-}
-
-// A long text comes in pieces, each after the one before was taken; an empty one is the end.
-void Clipboard::PropertyChanged(const xcb_property_notify_event_t& event) {
-  if (transfer_ != Transfer::InPieces || event.state != XCB_PROPERTY_NEW_VALUE ||
-      event.atom != connection_[Atom::WexaSelection]) {
-    return;
-  }
-  const std::string piece = connection_.ReadProperty(connection_.Helper(), event.atom, true);
-  if (piece.empty()) transfer_ = Transfer::Done;
-  received_ += piece;
 }
 
 void Clipboard::Lost(const xcb_selection_clear_event_t& event) {

@@ -8,9 +8,9 @@
 #include <functional>
 #include <string>
 
-namespace display::x11 {
+#include "Selection.h"
 
-class Connection;
+namespace display::x11 {
 
 class Clipboard {
  public:
@@ -23,13 +23,10 @@ class Clipboard {
 
   void Requested(const xcb_selection_request_event_t& request);
   void Lost(const xcb_selection_clear_event_t& event);
-  void Answered(const xcb_selection_notify_event_t& answer);
-  void PropertyChanged(const xcb_property_notify_event_t& event);
+  void Answered(const xcb_selection_notify_event_t& answer) { reader_.Answered(answer); }
+  void PropertyChanged(const xcb_property_notify_event_t& event) { reader_.PropertyChanged(event); }
 
  private:
-  enum class Transfer { None, Waiting, InPieces, Done, Refused };
-
-  bool IsOpen() const { return transfer_ == Transfer::Waiting || transfer_ == Transfer::InPieces; }
   bool AskAs(xcb_atom_t type, xcb_timestamp_t time, const std::function<void(std::uint64_t)>& pump);
   bool Write(const xcb_selection_request_event_t& request, xcb_atom_t property);
   void WriteText(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
@@ -40,8 +37,7 @@ class Clipboard {
   bool owned_ = false;
   xcb_timestamp_t since_ = XCB_CURRENT_TIME;
   std::wstring text_;
-  Transfer transfer_ = Transfer::None;
-  std::string received_;
+  SelectionReader reader_{connection_, Atom::WexaSelection};
 };
 
 }  // namespace display::x11

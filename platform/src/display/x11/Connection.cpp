@@ -144,24 +144,39 @@ std::string Connection::ReadProperty(xcb_window_t window, xcb_atom_t property, b
           static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
 }
 
-std::uint32_t Connection::ReadNumber(xcb_window_t window, xcb_atom_t property) {
+std::vector<std::uint32_t> Connection::ReadNumbers(xcb_window_t window, xcb_atom_t property) {
   const std::string bytes = ReadProperty(window, property);
-  std::uint32_t number = 0;
-  if (bytes.size() >= sizeof number) std::memcpy(&number, bytes.data(), sizeof number);
-  return number;
+  std::vector<std::uint32_t> numbers(bytes.size() / sizeof(std::uint32_t));
+  if (!numbers.empty()) {
+    std::memcpy(numbers.data(), bytes.data(), numbers.size() * sizeof numbers[0]);
+  }
+  return numbers;
+}
+
+std::uint32_t Connection::ReadNumber(xcb_window_t window, xcb_atom_t property) {
+  const auto numbers = ReadNumbers(window, property);
+  return numbers.empty() ? 0 : numbers.front();
+}
+
+void Connection::Tell(xcb_window_t window, Atom message, const std::uint32_t (&data)[5]) {
+  Send(window, XCB_EVENT_MASK_NO_EVENT, window, message, data);
 }
 
 void Connection::AskWindowManager(xcb_window_t window, Atom message,
                                   const std::uint32_t (&data)[5]) {
+  Send(Root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT, window,
+       message, data);
+}
+
+void Connection::Send(xcb_window_t receiver, std::uint32_t mask, xcb_window_t window, Atom message,
+                      const std::uint32_t (&data)[5]) {
   xcb_client_message_event_t event{};
   event.response_type = XCB_CLIENT_MESSAGE;
   event.format = 32;
   event.window = window;
   event.type = atoms_[message];
   std::memcpy(event.data.data32, data, sizeof data);
-  xcb_send_event(connection_, 0, Root(),
-                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                 reinterpret_cast<const char*>(&event));
+  xcb_send_event(connection_, 0, receiver, mask, reinterpret_cast<const char*>(&event));
 }
 
 }  // namespace display::x11

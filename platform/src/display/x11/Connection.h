@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "Atoms.h"
 #include "Owned.h"
@@ -45,6 +46,10 @@ class Connection {
                            xcb_atom_t* type = nullptr);
   // The first number of a property of numbers; 0 when there is none.
   std::uint32_t ReadNumber(xcb_window_t window, xcb_atom_t property);
+  // The numbers of such a property.
+  std::vector<std::uint32_t> ReadNumbers(xcb_window_t window, xcb_atom_t property);
+  // A message to the program that made the window.
+  void Tell(xcb_window_t window, Atom message, const std::uint32_t (&data)[5]);
   // A message to the window manager about one of our windows.
   void AskWindowManager(xcb_window_t window, Atom message, const std::uint32_t (&data)[5]);
 
@@ -52,6 +57,8 @@ class Connection {
   void Open();
   void ChooseVisual();
   void CreateHelper();
+  void Send(xcb_window_t receiver, std::uint32_t mask, xcb_window_t window, Atom message,
+            const std::uint32_t (&data)[5]);
 
   std::string name_;
   xcb_connection_t* connection_ = nullptr;

@@ -9,7 +9,8 @@ bool IsPlace(const Input& input) {
 
 bool Replaces(const Input& later, const Input& earlier) {
   return later.kind == earlier.kind && later.surface == earlier.surface &&
-         (IsPlace(later) || later.kind == Input::Kind::PointerMoved);
+         (IsPlace(later) || later.kind == Input::Kind::PointerMoved ||
+          later.kind == Input::Kind::FilesDragged);
 }
 
 }  // namespace

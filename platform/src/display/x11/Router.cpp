@@ -8,6 +8,8 @@
 #include "Surfaces.h"
 #include "Waker.h"
 #include "WindowManager.h"
+#include "XSettings.h"
+#include "Xdnd.h"
 
 namespace display::x11 {
 namespace {
@@ -46,8 +48,7 @@ void Router::Route(const xcb_generic_event_t& event) {
     case XCB_SELECTION_REQUEST:
       return parts_.clipboard.Requested(As<xcb_selection_request_event_t>(event));
     case XCB_SELECTION_CLEAR: return parts_.clipboard.Lost(As<xcb_selection_clear_event_t>(event));
-    case XCB_SELECTION_NOTIFY:
-      return parts_.clipboard.Answered(As<xcb_selection_notify_event_t>(event));
+    case XCB_SELECTION_NOTIFY: return OnSelection(As<xcb_selection_notify_event_t>(event));
     default: parts_.keyboard.Handle(event);
   }
 }
@@ -125,7 +126,10 @@ void Router::OnReparent(const xcb_reparent_notify_event_t& event) {
 
 void Router::OnClientMessage(const xcb_client_message_event_t& event) {
   const Connection& atoms = parts_.connection;
-  if (event.type != atoms[Atom::WmProtocols] || event.format != 32) return;
+  if (event.format != 32) return;
+  parts_.xdnd.Received(event);
+  if (parts_.settings.ManagerCame(event)) Report(Input::Kind::ColorsChanged);
+  if (event.type != atoms[Atom::WmProtocols]) return;
   const xcb_atom_t protocol = event.data.data32[0];
   if (protocol == atoms[Atom::NetWmPing]) parts_.windowManager.AnswerPing(event);
   const Surface* surface = parts_.surfaces.FindWindow(event.window);
@@ -134,13 +138,21 @@ void Router::OnClientMessage(const xcb_client_message_event_t& event) {
   }
 }
 
+void Router::OnSelection(const xcb_selection_notify_event_t& event) {
+  parts_.clipboard.Answered(event);
+  parts_.xdnd.Answered(event);
+}
+
 void Router::OnProperty(const xcb_property_notify_event_t& event) {
-  if (event.window == parts_.connection.Helper()) {
-    return parts_.clipboard.PropertyChanged(event);
-  }
-  if (event.window != parts_.connection.Root()) return;
-  parts_.windowManager.RootPropertyChanged(event.atom);
-  if (event.atom != XCB_ATOM_RESOURCE_MANAGER || !parts_.resolution.Refresh()) return;
+  if (event.window == parts_.connection.Root()) return OnRootProperty(event.atom);
+  parts_.clipboard.PropertyChanged(event);
+  parts_.xdnd.PropertyChanged(event);
+  if (parts_.settings.PropertyChanged(event)) Report(Input::Kind::ColorsChanged);
+}
+
+void Router::OnRootProperty(xcb_atom_t property) {
+  parts_.windowManager.RootPropertyChanged(property);
+  if (property != XCB_ATOM_RESOURCE_MANAGER || !parts_.resolution.Refresh()) return;
   Input input{};
   input.kind = Input::Kind::ResolutionChanged;
   input.dpi = parts_.resolution.Dpi();

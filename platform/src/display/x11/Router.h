@@ -19,6 +19,8 @@ class Resolution;
 class Surface;
 class Surfaces;
 class WindowManager;
+class XSettings;
+class Xdnd;
 
 struct Parts {
   Connection& connection;
@@ -28,6 +30,8 @@ struct Parts {
   Clipboard& clipboard;
   Resolution& resolution;
   WindowManager& windowManager;
+  Xdnd& xdnd;
+  XSettings& settings;
   Records& records;
 };
 
@@ -50,9 +54,11 @@ class Router {
   void OnConfigure(const xcb_configure_notify_event_t& event, unsigned sequence);
   void OnReparent(const xcb_reparent_notify_event_t& event);
   void OnClientMessage(const xcb_client_message_event_t& event);
+  void OnSelection(const xcb_selection_notify_event_t& event);
   void OnProperty(const xcb_property_notify_event_t& event);
+  void OnRootProperty(xcb_atom_t property);
 
-  void Report(Input::Kind kind, SurfaceId surface);
+  void Report(Input::Kind kind, SurfaceId surface = 0);
   void Report(Record record, xcb_window_t window, xcb_timestamp_t time);
   std::uint32_t ClockTime(xcb_timestamp_t time);
 

@@ -1,7 +1,6 @@
 #include "WindowManager.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "Connection.h"
 #include "Monitors.h"
@@ -11,12 +10,6 @@ namespace display::x11 {
 namespace {
 
 constexpr std::uint32_t kApplication = 1;  // who asks, among the kinds a window manager knows
-
-std::vector<std::uint32_t> Words(const std::string& bytes) {
-  std::vector<std::uint32_t> words(bytes.size() / 4);
-  if (!words.empty()) std::memcpy(words.data(), bytes.data(), words.size() * 4);
-  return words;
-}
 
 // The window manager's number for an edge or the caption; -1 for anything else.
 int DirectionOf(int edge) {
@@ -51,8 +44,7 @@ bool WindowManager::AskRunning() {
 bool WindowManager::Supports(xcb_atom_t feature) {
   if (!IsRunning()) return false;
   if (!supported_) {
-    supported_ =
-        Words(connection_.ReadProperty(connection_.Root(), connection_[Atom::NetSupported]));
+    supported_ = connection_.ReadNumbers(connection_.Root(), connection_[Atom::NetSupported]);
   }
   return std::find(supported_->begin(), supported_->end(), feature) != supported_->end();
 }
@@ -61,7 +53,7 @@ RECT WindowManager::WorkArea() {
   if (workArea_) return *workArea_;
   workArea_ = PrimaryMonitor(connection_);
   const xcb_window_t root = connection_.Root();
-  const auto areas = Words(connection_.ReadProperty(root, connection_[Atom::NetWorkArea]));
+  const auto areas = connection_.ReadNumbers(root, connection_[Atom::NetWorkArea]);
   if (areas.size() < 4) return *workArea_;
   const std::size_t desktop = connection_.ReadNumber(root, connection_[Atom::NetCurrentDesktop]);
   const auto* area = areas.data() + (desktop < areas.size() / 4 ? desktop * 4 : 0);

@@ -36,6 +36,12 @@ void WriteNoDecorations(Connection& connection, xcb_window_t window) {
   WriteWords(connection, window, hints, hints, {kDecorationsGiven, 0, 0, 0, 0});
 }
 
+// Whether a place takes files is answered when they are held over it.
+void WriteDropTarget(Connection& connection, xcb_window_t window) {
+  constexpr std::uint32_t kVersion = 5;
+  WriteWords(connection, window, connection[Atom::XdndAware], XCB_ATOM_ATOM, {kVersion});
+}
+
 void WriteInputHint(Connection& connection, xcb_window_t window) {
   xcb_icccm_wm_hints_t hints{};
   xcb_icccm_wm_hints_set_input(&hints, 1);
@@ -59,6 +65,7 @@ void WriteIdentity(Connection& connection, xcb_window_t window, SurfaceKind kind
                              protocols);
   WriteNoDecorations(connection, window);
   WriteInputHint(connection, window);
+  WriteDropTarget(connection, window);
 }
 
 void WriteTitle(Connection& connection, xcb_window_t window, const std::wstring& title) {

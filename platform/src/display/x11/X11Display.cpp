@@ -13,6 +13,8 @@
 #include "Waker.h"
 #include "WindowManager.h"
 #include "WindowProperties.h"
+#include "XSettings.h"
+#include "Xdnd.h"
 
 namespace display {
 namespace x11 {
@@ -49,6 +51,10 @@ class X11Display : public Display {
   bool IsKeyDown(int virtualKey) const override { return Keys().IsDown(virtualKey); }
   bool IsKeyToggled(int virtualKey) const override { return Keys().IsToggled(virtualKey); }
 
+  SystemScheme Scheme() const override { return settings_.Scheme(); }
+  std::uint32_t DoubleClickTime() const override;
+  void AnswerDrag(SurfaceId id, bool takesFiles) override;
+
   void SetClipboardText(const std::wstring& text) override;
   std::wstring ClipboardText() override;
 
@@ -67,11 +73,13 @@ class X11Display : public Display {
   Clipboard clipboard_{connection_};
   Resolution resolution_{connection_};
   mutable WindowManager windowManager_{connection_};
+  mutable XSettings settings_{connection_};
   Records records_;
+  Xdnd xdnd_{connection_, surfaces_, records_};
   mutable KeyState keys_;
   std::optional<POINT> position_;  // none while the pointer is elsewhere
   Router router_{{connection_, surfaces_, keyboard_, pointer_, clipboard_, resolution_,
-                  windowManager_, records_}};
+                  windowManager_, xdnd_, settings_, records_}};
 };
 
 void X11Display::CreateSurface(SurfaceId id, SurfaceKind kind, SurfaceId owner, const RECT& place) {
@@ -204,6 +212,17 @@ POINT X11Display::PointerPosition() const {
 KeyState& X11Display::Keys() const {
   if (!keys_.IsKnown()) keys_.Synchronize(pointer_.Ask().held);
   return keys_;
+}
+
+std::uint32_t X11Display::DoubleClickTime() const {
+  return settings_.DoubleClickTime().value_or(Display::DoubleClickTime());
+}
+
+void X11Display::AnswerDrag(SurfaceId id, bool takesFiles) {
+  const Surface* surface = surfaces_.Find(id);
+  if (!surface) return;
+  xdnd_.Answer(surface->Window(), takesFiles);
+  xcb_flush(connection_.Get());
 }
 
 void X11Display::SetClipboardText(const std::wstring& text) {
