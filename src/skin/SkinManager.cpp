@@ -11,11 +11,11 @@ namespace {
 
 constexpr std::uint32_t kNoColor = 0xFFFFFFFF;
 
-const PaletteEntry& EntryOf(const SlotRow& row, SkinMode palette) {
-  switch (palette) {
-    case SkinMode::Dark: return row.dark;
-    case SkinMode::HCMDark: return row.highContrast;
-    default: return row.light;
+PaletteEntry SlotRow::*PaletteOf(SkinMode mode) {
+  switch (mode) {
+    case SkinMode::Dark: return &SlotRow::dark;
+    case SkinMode::HCMDark: return &SlotRow::highContrast;
+    default: return &SlotRow::light;
   }
 }
 
@@ -148,16 +148,20 @@ void SkinManager::BeginLoad(SkinMode mode, bool detach) {
 
 void SkinManager::LoadPalette(SkinMode mode, bool detach) {
   BeginLoad(mode, detach);
+  const auto palette = PaletteOf(mode);
+  const auto systemColors = GetSysColors();
+  const SkinManagerColor* fallbacks = FallbackOf(0);
+  const bool locked = lockColors_;
   for (std::size_t n = 0; n < slots_.size(); ++n) {
-    const PaletteEntry& entry = EntryOf(kSlotTable[n], mode);
+    const PaletteEntry& entry = kSlotTable[n].*palette;
     unsigned long color = entry.value;
     switch (entry.kind) {
       case PaletteEntry::Kind::Unchanged: continue;
       case PaletteEntry::Kind::Color: break;
-      case PaletteEntry::Kind::System: color = GetSysColor(static_cast<int>(entry.value)); break;
+      case PaletteEntry::Kind::System: color = systemColors[entry.value]; break;
       case PaletteEntry::Kind::SameAs: color = slots_[entry.value]; break;
     }
-    slots_[n].SetDefaultColor(color, FallbackOf(n), lockColors_, this);
+    slots_[n].SetDefaultColor(color, fallbacks ? fallbacks + n : nullptr, locked, this);
   }
 }
 

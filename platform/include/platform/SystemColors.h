@@ -3,6 +3,7 @@
 // The desktop's colours and its high-contrast state, from one provider that can change at run time.
 
 #include <optional>
+#include <span>
 
 #include "Types.h"
 
@@ -29,6 +30,8 @@ enum class SystemScheme { Light, Dark, HighContrast };
 
 // 0 (black) for an unknown index.
 DWORD GetSysColor(int index);
+// All of them by index, valid for good: those of the scheme now in force.
+std::span<const COLORREF> GetSysColors();
 // The scheme in force: what was chosen with SetSystemScheme, or at start by the environment's
 // WEXA_HIGH_CONTRAST (1: high contrast, 0: light); else what the desktop asks for.
 SystemScheme GetSystemScheme();

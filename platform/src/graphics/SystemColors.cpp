@@ -128,9 +128,11 @@ constinit SystemScheme desktopScheme = SystemScheme::Light;
 }  // namespace
 
 DWORD GetSysColor(int index) {
-  if (index < 0 || index >= kColorCount) return 0;
-  const Colors& colors = kSchemes[static_cast<std::size_t>(GetSystemScheme())];
-  return colors[static_cast<std::size_t>(index)];
+  return index < 0 || index >= kColorCount ? 0 : GetSysColors()[static_cast<std::size_t>(index)];
+}
+
+std::span<const COLORREF> GetSysColors() {
+  return kSchemes[static_cast<std::size_t>(GetSystemScheme())];
 }
 
 SystemScheme GetSystemScheme() {
