@@ -11,8 +11,9 @@ namespace bench {
 // A generated form, open and painted on a fresh display.
 class ShownForm {
  public:
-  explicit ShownForm(int widgets, int scale = 1)
-      : dialog_((UseOffscreen(scale), Wide(GeneratedForm(widgets))), nullptr, 0, 1.0) {
+  explicit ShownForm(int widgets, int scale = 1) : ShownForm(GeneratedForm(widgets), scale) {}
+  explicit ShownForm(const std::string& file, int scale = 1)
+      : dialog_((UseOffscreen(scale), Wide(file)), nullptr, 0, 1.0) {
     dialog_.DoModeless(true);
     PaintNow();
   }
