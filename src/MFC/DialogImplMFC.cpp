@@ -44,6 +44,11 @@ void ReloadPalettesOf(const std::vector<BaseGUIObject*>& widgets) {
   }
 }
 
+void Reinitialise(BaseGUIObject& widget, const SkinManager& parent, SkinMode mode) {
+  widget.GetSkinManager().ResetInitilization();
+  widget.GetSkinManager().InitSkinManager(&parent, mode);
+}
+
 [[noreturn]] void ThrowNotCreated() {
   throw WexaException(kSource, __LINE__, "Cannot create dialog from dialog template data.");
 }
@@ -244,8 +249,10 @@ void Dialog::impl::RefreshSkinColors() {
 }
 
 bool Dialog::impl::SetSkinMode(SkinMode mode, bool repaint) {
-  if (mode != SkinMode::XML) return BaseImplMFC::SetSkinMode(mode, repaint);
-  if (!EnterKeyMapMode()) return false;
+  const bool entered =
+      mode == SkinMode::XML ? EnterKeyMapMode() : GetSkinManager().SetSkinMode(mode);
+  if (!entered) return false;
+  ReinitialiseChildSkins(mode);
   if (repaint && GetHandle()) static_cast<Dialog*>(Owner())->UpdateWindow();
   return true;
 }
@@ -254,19 +261,18 @@ bool Dialog::impl::EnterKeyMapMode() {
   if (!WexaConfig::Instance().keyMapSkin.IsKeyMapApplied()) return false;
   SkinManager& skin = GetSkinManager();
   skin.ResetInitilization();
-  if (!skin.InitSkinManager(KeyMapParent(), SkinMode::XML)) {
-    skin.ResetInitilization();
-    return false;
-  }
-  ReinitialiseChildSkins(SkinMode::XML);
-  return true;
+  const bool entered = skin.InitSkinManager(KeyMapParent(), SkinMode::XML);
+  if (!entered) skin.ResetInitilization();
+  return entered;
 }
 
+// The dialog's skin stays above those of its widgets, so that its colours go on reaching them.
 void Dialog::impl::ReinitialiseChildSkins(SkinMode mode) {
   for (Element& element : elements_) {
-    SkinManager& skin = element.widget->GetSkinManager();
-    skin.ResetInitilization();
-    skin.InitSkinManager(&GetSkinManager(), mode);
+    Reinitialise(*element.widget, GetSkinManager(), mode);
+    if (element.widget->Type() != GuiType::ButtonBox) continue;
+    for (BaseGUIObject* button : ImplOf(element.widget.get())->Children())
+      Reinitialise(*button, element.widget->GetSkinManager(), mode);
   }
 }
 

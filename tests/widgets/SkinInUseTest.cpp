@@ -1,4 +1,5 @@
 #include "Button.h"
+#include "ButtonBox.h"
 #include "Configuration.h"
 #include "Event.h"
 #include "Label.h"
@@ -82,6 +83,23 @@ TEST_F(SkinInUseTest, ASlotOfTheDialogReachesChildrenInContainers) {
   EXPECT_EQ(FaceOf(L"deep"), Pixel(0x102030));
   EXPECT_EQ(FaceOf(L"flat"), Pixel(0x102030));
   EXPECT_EQ(*paints, 1);
+}
+
+TEST_F(SkinInUseTest, ColorsOfTheDialogReachItsWidgetsInEveryMode) {
+  Open(ColumnForm(EditXml("a") + ItemXml(WidgetXml("QDialogButtonBox", "box",
+                                                   PropertyXml("standardButtons", "set",
+                                                               "QDialogButtonBox::Ok")))));
+  const HWND button = Find<ButtonBox>(L"box").GetButton(StandardButton::OK)->GetPlatformHandle();
+  unsigned long color = 0x102030;
+  for (const SkinMode mode : {SkinMode::Dark, SkinMode::HCMDark, SkinMode::Default}) {
+    ASSERT_TRUE(dialog_->SetSkinMode(mode, true));
+    color += 0x101010;
+    for (int slot : {Slot::kInputFace, Slot::kButtonFace})
+      dialog_->GetSkinManager().Slot(slot) = color;
+    Robot::PumpAll();
+    EXPECT_EQ(FaceOf(L"a"), Pixel(static_cast<COLORREF>(color)));
+    EXPECT_EQ(Robot::PixelAt(button, 10, 4), Pixel(static_cast<COLORREF>(color)));
+  }
 }
 
 TEST_F(SkinInUseTest, EveryChangeAfterAPaintIsSeen) {
