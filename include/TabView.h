@@ -9,6 +9,9 @@ namespace Wexa {
 
 class ChildDialog;
 
+// Where the tabs stand, beside their pages. In a right-to-left dialog west is at the right.
+enum class TabPosition { North, South, West, East };
+
 // Pages of which one is shown, chosen by tabs. The pages belong to the dialog that built them.
 class WEXA_API TabView : public BaseGUIObject {
  public:
@@ -25,6 +28,8 @@ class WEXA_API TabView : public BaseGUIObject {
 
   // Appends a page with its caption.
   void AddPage(ChildDialog* page, const std::wstring& caption);
+  // North at first.
+  void SetTabPosition(TabPosition position);
   // -1 without pages.
   int GetCurrentIndex();
   int GetItemCount();

@@ -89,6 +89,7 @@ class Dialog::impl : public BaseImplMFC {
   void ReinitialiseChildSkins(SkinMode mode);
   bool FollowBuddyMnemonic(const MSG& message);
   bool FollowContainerMnemonic(const MSG& message);
+  bool TurnHoveredArea(const MSG& message);
   Size FrameSize();
   Size WithinLimits(Size client);
 

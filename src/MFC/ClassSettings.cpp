@@ -16,6 +16,7 @@
 #include "MFC/ButtonImplMFC.h"
 #include "MFC/PagesImpl.h"
 #include "MFC/RadioButtonImplMFC.h"
+#include "MFC/ScrollAreaImpl.h"
 #include "MultiLineEdit.h"
 #include "ProgressBar.h"
 #include "RichEdit.h"
@@ -176,6 +177,20 @@ void Apply(Splitter& splitter, const FormNode& node) {
   splitter.SetDynamicResizing(!opaque || *opaque != L"false");
 }
 
+BarPolicy BarPolicyOf(const FormNode& node, std::wstring_view property) {
+  const std::wstring* text = node.Extra(property);
+  if (text && HasEnumWord(*text, L"Qt::ScrollBarAlwaysOff")) return BarPolicy::AlwaysOff;
+  return text && HasEnumWord(*text, L"Qt::ScrollBarAlwaysOn") ? BarPolicy::AlwaysOn
+                                                              : BarPolicy::AsNeeded;
+}
+
+void Apply(ScrollArea& area, const FormNode& node) {
+  auto* impl = static_cast<ScrollArea::impl*>(ImplOf(&area));
+  impl->SetBarPolicies({BarPolicyOf(node, L"verticalScrollBarPolicy"),
+                        BarPolicyOf(node, L"horizontalScrollBarPolicy")});
+  impl->SetFramed(!Has(node, PropertyId::FrameShape, L"QFrame::NoFrame"));
+}
+
 void Apply(CheckBox& check, const FormNode& node) {
   if (IsExtraTrue(node, L"tristate")) check.SetTristate(true);
   if (IsExtraTrue(node, L"checked")) check.SetCheck(WexaUtils::Checked);
@@ -203,6 +218,19 @@ void ApplyCurrentPage(PagesImpl& pages, const FormNode& node) {
   pages.SetInitialIndex(ToInt(NumberOr(node, PropertyId::CurrentIndex, 0)));
 }
 
+TabPosition TabPositionOf(const FormNode& node) {
+  const std::wstring* text = node.Extra(L"tabPosition");
+  if (!text) return TabPosition::North;
+  if (HasEnumWord(*text, L"QTabWidget::South")) return TabPosition::South;
+  if (HasEnumWord(*text, L"QTabWidget::West")) return TabPosition::West;
+  return HasEnumWord(*text, L"QTabWidget::East") ? TabPosition::East : TabPosition::North;
+}
+
+void Apply(TabView& tabs, const FormNode& node) {
+  tabs.SetTabPosition(TabPositionOf(node));
+  ApplyCurrentPage(static_cast<PagesImpl&>(*ImplOf(&tabs)), node);
+}
+
 }  // namespace
 
 void ApplyClassSettings(BaseGUIObject& widget, const FormNode& node) {
@@ -226,8 +254,9 @@ void ApplyClassSettings(BaseGUIObject& widget, const FormNode& node) {
       return static_cast<MultiLineEdit&>(widget).SetText(ImplOf(&widget)->Creation().text);
     case GuiType::RichEdit:
       return static_cast<RichEdit&>(widget).SetText(ImplOf(&widget)->Creation().text);
+    case GuiType::ScrollArea: return Apply(static_cast<ScrollArea&>(widget), node);
     case GuiType::Splitter: return Apply(static_cast<Splitter&>(widget), node);
-    case GuiType::TabView:
+    case GuiType::TabView: return Apply(static_cast<TabView&>(widget), node);
     case GuiType::StackedDialog:
       return ApplyCurrentPage(static_cast<PagesImpl&>(*ImplOf(&widget)), node);
     default: return;

@@ -197,7 +197,9 @@ bool Dialog::impl::OnPreTranslate(MSG& message, BOOL& result) {
       return true;
     }
   }
-  if (!FollowBuddyMnemonic(message) && !FollowContainerMnemonic(message)) return false;
+  if (!FollowBuddyMnemonic(message) && !FollowContainerMnemonic(message) &&
+      !TurnHoveredArea(message))
+    return false;
   result = TRUE;
   return true;
 }
@@ -213,6 +215,22 @@ bool Dialog::impl::FollowContainerMnemonic(const MSG& message) {
       return true;
   }
   return false;
+}
+
+// The wheel scrolls the area under the pointer, the innermost one, also while the focus is
+// elsewhere.
+bool Dialog::impl::TurnHoveredArea(const MSG& message) {
+  if (message.message != WM_MOUSEWHEEL && message.message != WM_MOUSEHWHEEL) return false;
+  const HWND hovered = WindowFromPoint(message.pt);
+  HWND area = nullptr;
+  for (const Element& element : elements_) {
+    const HWND window = element.widget->GetPlatformHandle();
+    const bool isArea = element.widget->Type() == GuiType::ScrollArea;
+    if (isArea && (window == hovered || IsChild(window, hovered))) area = window;
+  }
+  if (!area || IsChild(area, message.hwnd)) return false;
+  SendMessageW(area, message.message, message.wParam, message.lParam);
+  return true;
 }
 
 // A label's mnemonic gives the focus to its buddy, wherever that stands in the tab order.

@@ -18,10 +18,6 @@ constexpr int kLargestHeight = 320;
 constexpr int kSmallestSide = 72;
 constexpr int kLineStep = 20;
 
-int Border() {
-  return std::max(1, Scale(kBorder));
-}
-
 // How far the children of a widget without a layout reach.
 Size ReachOf(BaseGUIObject& widget) {
   Size reach;
@@ -85,23 +81,42 @@ void ScrollArea::impl::SetContent(BaseGUIObject* content) {
 
 // -- Sizes --------------------------------------------------------------------
 
+int ScrollArea::impl::Border() const {
+  return isFramed_ ? std::max(1, Scale(kBorder)) : 0;
+}
+
+// As large as the content with the bars that it needs at the largest size.
 Size ScrollArea::impl::IdealSize() {
-  Size content = content_ ? ContentSize(Scale(kLargestWidth)) : Size();
-  Size framed(content.Width() + 2 * Border(), content.Height() + 2 * Border());
-  return framed.GetDeflated(Scale(kLargestWidth, kLargestHeight)).GetInflated(MinimumIdealSize());
+  const Size most = Scale(kLargestWidth, kLargestHeight);
+  const int frame = 2 * Border();
+  const ScrollView view = ViewOf({most.Width() - frame, most.Height() - frame});
+  const int bar = Theme::ScrollBarWidth();
+  const Size whole(view.wanted.Width() + frame + (view.hasVertical ? bar : 0),
+                   view.wanted.Height() + frame + (view.hasHorizontal ? bar : 0));
+  return whole.GetDeflated(most).GetInflated(MinimumIdealSize());
 }
 
 Size ScrollArea::impl::MinimumIdealSize() {
   return Scale(kSmallestSide, kSmallestSide);
 }
 
-// What the content would like to have in a view of this width.
+// What the content would like to have in a view of this width. Where no bar would show it, what is
+// outside cannot be reached: the content then makes do with its minimum.
 Size ScrollArea::impl::ContentSize(int width) {
   BaseImplMFC& impl = *ImplOf(content_);
-  Size size = WidgetSizes::Of(*content_).SmartHint();
+  const WidgetSizes sizes = WidgetSizes::Of(*content_);
+  const Size least = sizes.SmartMinimum();
+  Size size = sizes.SmartHint();
+  if (policies_.horizontal == BarPolicy::AlwaysOff) size.SetWidth(least.Width());
+  if (policies_.vertical == BarPolicy::AlwaysOff) size.SetHeight(least.Height());
   if (!impl.Links().layout) size = size.GetInflated(ReachOf(*content_));
   if (impl.HasHeightForWidth()) size.SetHeight(impl.HeightForWidth(std::max(width, size.Width())));
   return size;
+}
+
+ScrollView ScrollArea::impl::ViewOf(Size view) {
+  const auto wantedAt = [this](int width) { return content_ ? ContentSize(width) : Size(); };
+  return ScrollView::Of(view, wantedAt, Theme::ScrollBarWidth(), policies_);
 }
 
 CRect ScrollArea::impl::InnerRect() {
@@ -113,10 +128,8 @@ CRect ScrollArea::impl::InnerRect() {
 void ScrollArea::impl::UpdateLayout() {
   if (!view_.GetSafeHwnd() || isArranging_) return;
   CRect inner = InnerRect();
-  Size wanted = content_ && content_->GetPlatformHandle() ? ContentSize(inner.Width()) : Size();
-  ScrollView view =
-      ScrollView::Of({inner.Width(), inner.Height()}, wanted, Theme::ScrollBarWidth());
-  contentSize_ = view.content;
+  const ScrollView view = ViewOf({inner.Width(), inner.Height()});
+  contentSize_ = view.Content();
   view_.MoveWindow(
       CRect(inner.left, inner.top, inner.left + view.room.Width(), inner.top + view.room.Height()));
   PlaceBars(inner, view);
@@ -140,9 +153,9 @@ void ScrollArea::impl::PlaceBars(const CRect& inner, const ScrollView& view) {
 
 void ScrollArea::impl::SetRanges(const ScrollView& view) {
   vertical_->SetSteps(Scale(kLineStep), view.room.Height());
-  vertical_->SetRange(0, view.content.Height() - view.room.Height());
+  vertical_->SetRange(0, contentSize_.Height() - view.room.Height());
   horizontal_->SetSteps(Scale(kLineStep), view.room.Width());
-  horizontal_->SetRange(0, view.content.Width() - view.room.Width());
+  horizontal_->SetRange(0, contentSize_.Width() - view.room.Width());
 }
 
 void ScrollArea::impl::PlaceContent() {
@@ -167,7 +180,7 @@ void ScrollArea::impl::OnFocusWithin(HWND window) {
 
 void ScrollArea::impl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
   ContainerImpl::Paint(painter, client, palette);
-  painter.FrameRect(client, palette.border, Border());
+  if (isFramed_) painter.FrameRect(client, palette.border, Border());
 }
 
 void ScrollArea::impl::RefreshSkinColors() {

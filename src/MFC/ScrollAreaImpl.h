@@ -25,12 +25,16 @@ class ScrollArea::impl : public ContainerImpl {
   void OnFocusWithin(HWND window) override;
   HWND HolderOf(const BaseGUIObject& child) override;
   void SetContent(BaseGUIObject* content);
+  void SetBarPolicies(BarPolicies policies) { policies_ = policies; }
+  void SetFramed(bool framed) { isFramed_ = framed; }
 
  protected:
   bool CreateNative(CWnd* parent) override;
 
  private:
+  int Border() const;
   Size ContentSize(int width);
+  ScrollView ViewOf(Size view);
   CRect InnerRect();
   void PlaceBars(const CRect& inner, const ScrollView& view);
   void SetRanges(const ScrollView& view);
@@ -43,6 +47,8 @@ class ScrollArea::impl : public ContainerImpl {
   std::shared_ptr<ScrollBarWnd> vertical_ = std::make_shared<ScrollBarWnd>();
   std::shared_ptr<ScrollBarWnd> horizontal_ = std::make_shared<ScrollBarWnd>();
   Size contentSize_;
+  BarPolicies policies_;
+  bool isFramed_ = true;
   bool isArranging_ = false;
 };
 

@@ -1,7 +1,6 @@
 #include "MFC/TabStrip.h"
 
 #include "MFC/BaseImplMFC.h"
-#include "platform/Painter.h"
 #include "platform/VirtualKeys.h"
 
 namespace Wexa {
@@ -11,21 +10,36 @@ namespace {
 constexpr UINT_PTR kRepeatTimer = 0xF003;
 constexpr UINT kRepeatMilliseconds = 250;
 constexpr UINT kCaptionFormat = DT_SINGLELINE;
+constexpr int kThickestUpright = 240;
 
 int LineWidth() {
   return std::max(Scale(1), 1);
 }
 
-}  // namespace
-
-int TabStrip::HeightFor(HFONT font) {
+int HeightFor(HFONT font) {
   return GetFontMetrics(font).height + 2 * Theme::TabPadding().cy;
 }
-int TabStrip::WidthFor(HFONT font, const std::wstring& caption) {
+int WidthFor(HFONT font, const std::wstring& caption) {
   return GetTextExtent(font, caption, INT32_MAX, kCaptionFormat).cx + 2 * Theme::TabPadding().cx;
 }
-int TabStrip::ArrowsWidth() {
-  return 2 * Theme::ArrowButtonWidth();
+
+}  // namespace
+
+int TabStrip::LengthOf(HFONT font, const std::wstring& caption) const {
+  return IsUpright() ? HeightFor(font) : WidthFor(font, caption);
+}
+
+int TabStrip::Length(HFONT font) const {
+  int length = 0;
+  for (const std::wstring& caption : captions_) length += LengthOf(font, caption);
+  return length;
+}
+
+int TabStrip::Thickness(HFONT font) const {
+  if (!IsUpright()) return HeightFor(font);
+  int width = 0;
+  for (const std::wstring& caption : captions_) width = std::max(width, WidthFor(font, caption));
+  return std::min(width, Scale(kThickestUpright));
 }
 
 void TabStrip::SetCaptions(const std::vector<std::wstring>& captions) {
@@ -40,10 +54,11 @@ void TabStrip::SetCurrent(int index) {
 }
 
 void TabStrip::Arrange() {
-  std::vector<int> widths;
-  for (const std::wstring& caption : captions_) widths.push_back(WidthFor(Font(), caption));
-  row_.SetTabs(std::move(widths));
-  row_.SetRoom(GetClientRect().Width(), ArrowsWidth());
+  std::vector<int> lengths;
+  for (const std::wstring& caption : captions_) lengths.push_back(LengthOf(Font(), caption));
+  row_.SetTabs(std::move(lengths));
+  const CRect client = GetClientRect();
+  row_.SetRoom(IsUpright() ? client.Height() : client.Width(), 2 * Theme::ArrowButtonWidth());
   row_.BringIntoView(current_);
   Invalidate();
 }
@@ -61,7 +76,20 @@ int TabStrip::NextEnabled(int from, int direction, bool wraps) const {
 // -- Painting -----------------------------------------------------------------
 
 CRect TabStrip::RectOf(TabRow::Span span) const {
-  return {span.from, 0, span.to, GetClientRect().Height()};
+  const CRect client = GetClientRect();
+  return IsUpright() ? CRect(0, span.from, client.Width(), span.to)
+                     : CRect(span.from, 0, span.to, client.Height());
+}
+
+// The frame of the pages begins at the strip's inner edge; only the current tab is open to it.
+CRect TabStrip::WithoutInnerLine(CRect rect) const {
+  switch (edge_) {
+    case Edge::Top: rect.bottom -= LineWidth(); break;
+    case Edge::Bottom: rect.top += LineWidth(); break;
+    case Edge::Left: rect.right -= LineWidth(); break;
+    case Edge::Right: rect.left += LineWidth(); break;
+  }
+  return rect;
 }
 
 ControlState TabStrip::StateOf(int index) const {
@@ -74,11 +102,9 @@ ControlState TabStrip::StateOf(int index) const {
   return state;
 }
 
-// The frame of the page begins at the strip's lower edge; the current tab is open to it.
 void TabStrip::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
-  painter.FillRect(client, palette.background);
-  painter.FillRect(CRect(client.left, client.bottom - LineWidth(), client.right, client.bottom),
-                   palette.border);
+  painter.FillRect(client, palette.border);
+  painter.FillRect(WithoutInnerLine(client), palette.background);
   for (int i = row_.First(); i < Count(); ++i)
     if (i != current_) PaintTab(painter, i, palette);
   PaintTab(painter, current_, palette);
@@ -90,29 +116,34 @@ void TabStrip::Paint(Painter& painter, const CRect& client, const ControlPalette
 void TabStrip::PaintTab(Painter& painter, int index, const ControlPalette& palette) {
   TabRow::Span span = row_.TabSpan(index);
   if (span.IsEmpty()) return;
-  CRect tab = RectOf(span);
-  if (index != current_) tab.bottom -= LineWidth();
+  const bool isCurrent = index == current_;
+  const CRect tab = isCurrent ? RectOf(span) : WithoutInnerLine(RectOf(span));
   const std::wstring& caption = captions_[static_cast<std::size_t>(index)];
-  Theme::DrawTab(painter, tab, caption, Font(), index == current_, StateOf(index), palette);
+  Theme::DrawTab(painter, tab, caption, Font(), isCurrent, edge_, StateOf(index), palette);
+}
+
+ArrowDirection TabStrip::ArrowTo(bool forward) const {
+  if (IsUpright()) return forward ? ArrowDirection::Down : ArrowDirection::Up;
+  return forward ? ArrowDirection::Right : ArrowDirection::Left;
 }
 
 void TabStrip::PaintArrow(Painter& painter, bool forward, const ControlPalette& palette) {
-  CRect arrow = RectOf(forward ? row_.ForwardArrow() : row_.BackArrow());
-  arrow.bottom -= LineWidth();
+  const CRect arrow = WithoutInnerLine(RectOf(forward ? row_.ForwardArrow() : row_.BackArrow()));
   ControlState state = State();
   state.enabled = state.enabled && (forward ? row_.CanScrollForward() : row_.CanScrollBack());
   painter.FillRect(arrow, palette.background);
-  painter.Arrow(arrow.Shrunk(0, arrow.Height() / 4),
-                forward ? ArrowDirection::Right : ArrowDirection::Left,
-                state.enabled ? palette.text : palette.disabledText);
+  const CRect glyph =
+      IsUpright() ? arrow.Shrunk(arrow.Width() / 4, 0) : arrow.Shrunk(0, arrow.Height() / 4);
+  painter.Arrow(glyph, ArrowTo(forward), state.enabled ? palette.text : palette.disabledText);
 }
 
 // -- Mouse --------------------------------------------------------------------
 
 void TabStrip::OnPress(POINT point) {
-  if (row_.BackArrow().Contains(point.x)) return Scroll(-1);
-  if (row_.ForwardArrow().Contains(point.x)) return Scroll(1);
-  Choose(row_.TabAt(point.x));
+  const int place = Along(point);
+  if (row_.BackArrow().Contains(place)) return Scroll(-1);
+  if (row_.ForwardArrow().Contains(place)) return Scroll(1);
+  Choose(row_.TabAt(place));
 }
 
 void TabStrip::Scroll(int tabs) {
@@ -132,7 +163,7 @@ void TabStrip::StopRepeating() {
 }
 
 void TabStrip::OnHover(POINT point) {
-  int tab = row_.TabAt(point.x);
+  const int tab = row_.TabAt(Along(point));
   if (tab == hovered_) return;
   hovered_ = tab;
   Invalidate();

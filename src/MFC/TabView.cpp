@@ -17,8 +17,17 @@ namespace Wexa {
 namespace {
 
 constexpr int kPageBorder = 1;
-constexpr int kNarrowestStrip = 96;
+constexpr int kShortestStrip = 96;
 constexpr std::size_t kLongestCaption = 255;
+
+TabStrip::Edge EdgeOf(TabPosition position) {
+  switch (position) {
+    case TabPosition::South: return TabStrip::Edge::Bottom;
+    case TabPosition::West: return TabStrip::Edge::Left;
+    case TabPosition::East: return TabStrip::Edge::Right;
+    default: return TabStrip::Edge::Top;
+  }
+}
 
 }  // namespace
 
@@ -35,6 +44,14 @@ class TabView::impl : public PagesImpl {
     PagesImpl::AddPage(page);
     captions_.push_back(caption);
     RefreshStrip();
+  }
+
+  void SetPosition(TabPosition position) {
+    position_ = position;
+    strip_->SetEdge(EdgeOf(position));
+    UpdateLayout();
+    RefreshSkinColors();
+    InvalidateLayout();
   }
 
   void SetCaption(int index, const std::wstring& text) {
@@ -67,7 +84,7 @@ class TabView::impl : public PagesImpl {
 
   void UpdateLayout() override {
     if (strip_->GetSafeHwnd()) {
-      strip_->MoveWindow(CRect(0, 0, GetCWnd()->GetClientRect().Width(), StripHeight()));
+      strip_->MoveWindow(StripRect(GetCWnd()->GetClientRect()));
       strip_->Arrange();
     }
     PagesImpl::UpdateLayout();
@@ -87,9 +104,7 @@ class TabView::impl : public PagesImpl {
 
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
     PagesImpl::Paint(painter, client, palette);
-    CRect page = client;
-    page.top = StripHeight() - Border();
-    painter.FrameRect(page, palette.border, Border());
+    painter.FrameRect(FrameOfPages(client), palette.border, Border());
   }
 
   // Control with Tab, or with a page key, turns the pages from anywhere inside.
@@ -129,17 +144,16 @@ class TabView::impl : public PagesImpl {
     return true;
   }
 
-  RECT PageMargins() const override { return {Border(), StripHeight(), Border(), Border()}; }
-
-  Size OwnSize() const override {
-    int width = 0;
-    for (const std::wstring& caption : captions_) width += TabStrip::WidthFor(Font(), caption);
-    return {width, StripHeight() + Border()};
+  RECT PageMargins() const override {
+    RECT margins{Border(), Border(), Border(), Border()};
+    SideOfStrip(margins) = Thickness();
+    return margins;
   }
+
+  Size OwnSize() const override { return SizeWithLength(strip_->Length(Font())); }
   // Tabs that do not fit are scrolled.
   Size OwnMinimumSize() const override {
-    Size own = OwnSize();
-    return {std::min(own.Width(), Scale(kNarrowestStrip)), own.Height()};
+    return SizeWithLength(std::min(strip_->Length(Font()), Scale(kShortestStrip)));
   }
 
   HWND FocusAfterChange() override {
@@ -150,7 +164,39 @@ class TabView::impl : public PagesImpl {
 
  private:
   static int Border() { return std::max(1, Scale(kPageBorder)); }
-  int StripHeight() const { return TabStrip::HeightFor(Font()); }
+  int Thickness() const { return strip_->Thickness(Font()); }
+
+  LONG& SideOfStrip(RECT& sides) const {
+    switch (position_) {
+      case TabPosition::South: return sides.bottom;
+      case TabPosition::West: return sides.left;
+      case TabPosition::East: return sides.right;
+      default: return sides.top;
+    }
+  }
+
+  Size SizeWithLength(int length) const {
+    const int across = Thickness() + Border();
+    return strip_->IsUpright() ? Size(across, length) : Size(length, across);
+  }
+
+  CRect StripRect(CRect client) const {
+    switch (position_) {
+      case TabPosition::South: client.top = client.bottom - Thickness(); break;
+      case TabPosition::West: client.right = Thickness(); break;
+      case TabPosition::East: client.left = client.right - Thickness(); break;
+      default: client.bottom = Thickness(); break;
+    }
+    return client;
+  }
+
+  // It shares the strip's inner line.
+  CRect FrameOfPages(CRect client) const {
+    const int inner = Thickness() - Border();
+    const bool isFar = position_ == TabPosition::South || position_ == TabPosition::East;
+    SideOfStrip(client) += isFar ? -inner : inner;
+    return client;
+  }
 
   bool IsPageEnabled(int index) const {
     ChildDialog* page = Page(index);
@@ -172,6 +218,7 @@ class TabView::impl : public PagesImpl {
 
   std::shared_ptr<TabStrip> strip_ = std::make_shared<TabStrip>();
   std::vector<std::wstring> captions_;
+  TabPosition position_ = TabPosition::North;
 };
 
 TabView::TabView() : BaseGUIObject(GuiType::TabView), impl_(std::make_shared<impl>(this)) {}
@@ -188,6 +235,10 @@ std::shared_ptr<BaseImpl> TabView::GetBaseImpl() const {
 
 void TabView::AddPage(ChildDialog* page, const std::wstring& caption) {
   impl_->AddPage(page, caption);
+}
+
+void TabView::SetTabPosition(TabPosition position) {
+  impl_->SetPosition(position);
 }
 
 int TabView::GetCurrentIndex() {

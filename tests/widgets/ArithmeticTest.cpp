@@ -79,14 +79,28 @@ TEST(ScrollTrackTest, ShortBarsLoseTheirThumbThenShareTheirArrows) {
 }
 
 TEST(ScrollViewTest, OneBarMayMakeTheOtherNecessary) {
-  ScrollView fits = ScrollView::Of({100, 80}, {100, 80}, 10);
+  const auto viewOf = [](Size wanted, BarPolicies policies = {}) {
+    return ScrollView::Of({100, 80}, [wanted](int) { return wanted; }, 10, policies);
+  };
+  const ScrollView fits = viewOf({100, 80});
   EXPECT_FALSE(fits.hasVertical || fits.hasHorizontal);
-  ScrollView wide = ScrollView::Of({100, 80}, {120, 40}, 10);
+  const ScrollView wide = viewOf({120, 40});
   EXPECT_TRUE(wide.hasHorizontal && !wide.hasVertical);
-  EXPECT_EQ(wide.content, Size(120, 70)) << "as high as the room";
-  ScrollView both = ScrollView::Of({100, 80}, {101, 75}, 10);
+  EXPECT_EQ(wide.Content(), Size(120, 70)) << "as high as the room";
+  const ScrollView both = viewOf({101, 75});
   EXPECT_TRUE(both.hasHorizontal && both.hasVertical);
   EXPECT_EQ(both.room, Size(90, 70));
+  const ScrollView off = viewOf({300, 300}, {BarPolicy::AsNeeded, BarPolicy::AlwaysOff});
+  EXPECT_TRUE(off.hasVertical && !off.hasHorizontal);
+  const ScrollView on = viewOf({10, 10}, {BarPolicy::AlwaysOn, BarPolicy::AlwaysOn});
+  EXPECT_EQ(on.room, Size(90, 70));
+}
+
+TEST(ScrollViewTest, TextThatWrapsIsMeasuredInTheRoomBesideTheBar) {
+  const auto wrapped = [](int width) { return Size(0, 9000 / std::max(width, 1)); };
+  const ScrollView view = ScrollView::Of({100, 80}, wrapped, 10, {});
+  EXPECT_TRUE(view.hasVertical && !view.hasHorizontal);
+  EXPECT_EQ(view.wanted.Height(), 100);
 }
 
 TEST(ScrollViewTest, ScrollsAsLittleAsNeeded) {

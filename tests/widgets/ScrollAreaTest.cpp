@@ -18,16 +18,18 @@ std::string RowsXml(int count, const std::string& className) {
 
 class ScrollAreaTest : public FormTest {
  protected:
-  void OpenRows(int count, const std::string& className = "QPushButton", int width = 300) {
-    Open(ColumnForm(ItemXml(WidgetXml("QScrollArea", "area",
-                                      WidgetXml("QWidget", "content", RowsXml(count, className)))),
-                    width, 200));
+  void OpenRows(int count, const std::string& className = "QPushButton",
+                const std::string& properties = "", const std::string& below = "") {
+    Open(ColumnForm(ItemXml(WidgetXml(
+                        "QScrollArea", "area",
+                        properties + WidgetXml("QWidget", "content", RowsXml(count, className)))) +
+                        below,
+                    300, 200));
   }
+  Rect Content() { return Find<BaseGUIObject>(L"content").GetWindowRect(); }
   Rect Area() { return Find<BaseGUIObject>(L"area").GetWindowRect(); }
   // How far the content is scrolled down.
-  int Scrolled() {
-    return Area().Top() + 1 - Find<BaseGUIObject>(L"content").GetWindowRect().Top();
-  }
+  int Scrolled() { return Area().Top() + 1 - Content().Top(); }
   bool IsInside(const wchar_t* name) {
     Rect row = Find<BaseGUIObject>(name).GetWindowRect();
     return row.Top() >= Area().Top() && row.Bottom() <= Area().Bottom();
@@ -40,7 +42,7 @@ class ScrollAreaTest : public FormTest {
 
 TEST_F(ScrollAreaTest, SmallContentFillsTheView) {
   OpenRows(2);
-  Rect content = Find<BaseGUIObject>(L"content").GetWindowRect();
+  const Rect content = Content();
   EXPECT_EQ(content.Width(), Area().Width() - 2);
   EXPECT_EQ(content.Height(), Area().Height() - 2);
   robot_.Wheel(-1);
@@ -49,7 +51,7 @@ TEST_F(ScrollAreaTest, SmallContentFillsTheView) {
 
 TEST_F(ScrollAreaTest, LargeContentIsScrolledByTheBar) {
   OpenRows(20);
-  Rect content = Find<BaseGUIObject>(L"content").GetWindowRect();
+  const Rect content = Content();
   EXPECT_GT(content.Height(), 400);
   EXPECT_EQ(content.Width(), Area().Width() - 2 - Theme::ScrollBarWidth());
   robot_.Click(InVerticalBar(Area().Height() - 5));
@@ -77,6 +79,41 @@ TEST_F(ScrollAreaTest, WheelAndPageKeysScrollFromInside) {
   EXPECT_EQ(Scrolled(), notch);
   robot_.Wheel(9);
   EXPECT_EQ(Scrolled(), 0);
+}
+
+TEST_F(ScrollAreaTest, TheWheelTurnsTheAreaUnderThePointer) {
+  OpenRows(20, "QPushButton", "", ItemXml(WidgetXml("QLineEdit", "outside")));
+  Focus(L"outside");
+  robot_.MoveTo({Area().Left() + 20, Area().Top() + 20});
+  robot_.Wheel(-1);
+  EXPECT_GT(Scrolled(), 0);
+  EXPECT_EQ(dialog_->GetFocusedCtrlPtr(), &Find<BaseGUIObject>(L"outside"));
+  robot_.MoveTo({Area().Left() + 20, Area().Bottom() + 20});
+  const int before = Scrolled();
+  robot_.Wheel(-1);
+  EXPECT_EQ(Scrolled(), before) << "the pointer is beside it";
+}
+
+TEST_F(ScrollAreaTest, AFormSaysWhenBarsShowAndWhetherThereIsAFrame) {
+  const auto policy = [](const std::string& axis, const std::string& word) {
+    return PropertyXml(axis + "ScrollBarPolicy", "enum", "Qt::ScrollBar" + word);
+  };
+  OpenRows(20, "QPushButton", policy("vertical", "AlwaysOff"));
+  EXPECT_EQ(Content().Width(), Area().Width() - 2);
+  Focus(L"row19");
+  EXPECT_TRUE(IsInside(L"row19")) << "it scrolls without a bar";
+  OpenRows(1, "QPushButton",
+           policy("vertical", "AlwaysOn") + policy("horizontal", "AlwaysOn") +
+               PropertyXml("frameShape", "enum", "QFrame::NoFrame"));
+  EXPECT_EQ(Content().Width(), Area().Width() - Theme::ScrollBarWidth());
+  EXPECT_EQ(Content().Height(), Area().Height() - Theme::ScrollBarWidth());
+}
+
+TEST_F(ScrollAreaTest, TheAreaLikesToShowTheBarBesideItsContent) {
+  OpenRows(20);
+  const int content = Find<BaseGUIObject>(L"content").IdealSize().Width();
+  EXPECT_EQ(Find<BaseGUIObject>(L"area").IdealSize().Width(),
+            std::max(content + 2 + Theme::ScrollBarWidth(), 72));
 }
 
 TEST_F(ScrollAreaTest, WhatGetsTheFocusIsScrolledIntoView) {
@@ -108,12 +145,11 @@ TEST_F(ScrollAreaTest, MoreRoomScrollsBack) {
 
 TEST_F(ScrollAreaTest, RowsThatGoMakeTheBarGo) {
   OpenRows(8);
-  int withBar = Find<BaseGUIObject>(L"content").GetWindowRect().Width();
+  int withBar = Content().Width();
   for (const wchar_t* row : {L"row3", L"row4", L"row5", L"row6", L"row7"})
     Find<BaseGUIObject>(row).Show(false, true);
   Robot::PumpAll();
-  EXPECT_EQ(Find<BaseGUIObject>(L"content").GetWindowRect().Width(),
-            withBar + Theme::ScrollBarWidth());
+  EXPECT_EQ(Content().Width(), withBar + Theme::ScrollBarWidth());
 }
 
 TEST_F(ScrollAreaTest, AFocusChangeInsideMayDestroyTheDialog) {

@@ -16,9 +16,10 @@ std::string PageXml(const std::string& name, const std::string& title, const std
          ItemXml(inner) + "</layout></widget>";
 }
 
-std::string ThreePages() {
+std::string ThreePages(const std::string& properties = "") {
   return ItemXml(WidgetXml("QTabWidget", "tabs",
-                           PageXml("one", "&amp;One", WidgetXml("QLineEdit", "edit1")) +
+                           properties +
+                               PageXml("one", "&amp;One", WidgetXml("QLineEdit", "edit1")) +
                                PageXml("two", "&amp;Two", WidgetXml("QLineEdit", "edit2")) +
                                PageXml("three", "T&amp;hree", WidgetXml("QLabel", "label3")))) +
          ItemXml(WidgetXml("QLineEdit", "outside"));
@@ -150,6 +151,35 @@ TEST_F(TabViewTest, TabsThatDoNotFitAreScrolled) {
   Tabs().SetCurrentIndex(0);
   robot_.Click(first);
   EXPECT_EQ(Tabs().GetCurrentIndex(), 0) << "the current tab is brought into view";
+}
+
+TEST_F(TabViewTest, TabsStandAtAnyEdgeOfTheirPages) {
+  struct Side {
+    const char* word;
+    RECT room;  // which the strip leaves, as fractions of its thickness at each side
+  };
+  for (const auto& [word, room] : {Side{"North", {0, 1, 0, 0}}, Side{"South", {0, 0, 0, 1}},
+                                   Side{"West", {1, 0, 0, 0}}, Side{"East", {0, 0, 1, 0}}}) {
+    Open(ColumnForm(
+        ThreePages(PropertyXml("tabPosition", "enum", std::string("QTabWidget::") + word))));
+    RECT strip{};
+    GetWindowRect(Strip(), &strip);
+    const bool upright = room.left + room.right > 0;
+    const int thickness = upright ? strip.right - strip.left : strip.bottom - strip.top;
+    const auto margin = [&](LONG share) { return share ? thickness : 1; };
+    Rect page = Find<BaseGUIObject>(L"one").GetWindowRect();
+    Rect view = Tabs().GetWindowRect();
+    EXPECT_EQ(page.Left() - view.Left(), margin(room.left)) << word;
+    EXPECT_EQ(page.Top() - view.Top(), margin(room.top)) << word;
+    EXPECT_EQ(view.Right() - page.Right(), margin(room.right)) << word;
+    EXPECT_EQ(view.Bottom() - page.Bottom(), margin(room.bottom)) << word;
+    const int next = upright ? GetFontMetrics(nullptr).height + 2 * Theme::TabPadding().cy : 0;
+    robot_.Click(upright ? POINT{strip.left + 8, strip.top + next + next / 2}
+                         : POINT{TabPoint(1).x, strip.top + 8});
+    EXPECT_EQ(Tabs().GetCurrentIndex(), 1) << word;
+    robot_.Key(upright ? VK_DOWN : VK_RIGHT);
+    EXPECT_EQ(Tabs().GetCurrentIndex(), 2) << word;
+  }
 }
 
 TEST_F(TabViewTest, CaptionsAreCutAt255Characters) {

@@ -68,8 +68,9 @@ void DrawGroupBox(Painter&, const RECT&, std::wstring_view title, HFONT, const C
                   const ControlPalette&);
 // Space a group box's frame and title take on each side of its content.
 RECT GroupBoxMargins(HFONT, bool hasTitle);
-// One tab of a tab control, its text included.
-void DrawTab(Painter&, const RECT&, std::wstring_view text, HFONT, bool selected,
+// One tab of a tab control, its text included. `outer` is the edge away from the pages.
+enum class TabEdge { Top, Bottom, Left, Right };
+void DrawTab(Painter&, const RECT&, std::wstring_view text, HFONT, bool selected, TabEdge outer,
              const ControlState&, const ControlPalette&);
 SIZE TabPadding();
 void DrawLine(Painter&, const RECT&, bool vertical, const ControlPalette&);

@@ -23,6 +23,28 @@ void DrawOpenFrame(Painter& painter, const CRect& frame, int from, int to, COLOR
                    color);
 }
 
+bool IsUpright(TabEdge outer) {
+  return outer == TabEdge::Left || outer == TabEdge::Right;
+}
+
+CRect AtEdge(CRect rect, TabEdge edge, int thickness) {
+  switch (edge) {
+    case TabEdge::Top: rect.bottom = rect.top + thickness; break;
+    case TabEdge::Bottom: rect.top = rect.bottom - thickness; break;
+    case TabEdge::Left: rect.right = rect.left + thickness; break;
+    case TabEdge::Right: rect.left = rect.right - thickness; break;
+  }
+  return rect;
+}
+
+// The lines between the selected tab and its neighbours.
+void DrawTabSides(Painter& painter, const CRect& rect, TabEdge outer, COLORREF color) {
+  const bool upright = IsUpright(outer);
+  for (TabEdge side :
+       {upright ? TabEdge::Top : TabEdge::Left, upright ? TabEdge::Bottom : TabEdge::Right})
+    painter.FillRect(AtEdge(rect, side, LineWidth()), color);
+}
+
 }  // namespace
 
 void DrawGroupBox(Painter& painter, const RECT& rect, std::wstring_view title, HFONT font,
@@ -50,20 +72,21 @@ SIZE TabPadding() {
   return {ScaleUnits(kTabPadding.cx), ScaleUnits(kTabPadding.cy)};
 }
 
+// Captions of tabs below each other begin at the same place.
 void DrawTab(Painter& painter, const RECT& rect, std::wstring_view text, HFONT font, bool selected,
-             const ControlState& state, const ControlPalette& palette) {
-  bool hovered = state.hovered && state.enabled && !selected;
-  CRect mark(rect.left, rect.top, rect.right, rect.top + ScaleUnits(kTabMark));
+             TabEdge outer, const ControlState& state, const ControlPalette& palette) {
+  const bool hovered = state.hovered && state.enabled && !selected;
+  const CRect mark = AtEdge(rect, outer, ScaleUnits(kTabMark));
   painter.FillRect(rect, selected ? palette.face : palette.background);
   if (hovered) painter.FillRect(mark, palette.hoverBorder);
   if (selected) {
-    int line = LineWidth();
-    painter.FillRect(RECT{rect.left, rect.top, rect.left + line, rect.bottom}, palette.border);
-    painter.FillRect(RECT{rect.right - line, rect.top, rect.right, rect.bottom}, palette.border);
+    DrawTabSides(painter, rect, outer, palette.border);
     painter.FillRect(mark, state.enabled ? palette.accent : palette.disabledBorder);
   }
-  UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | PrefixFormat(state);
-  painter.Text(text, rect, format, font, InkColor(state, palette));
+  const UINT place = IsUpright(outer) ? DT_LEFT : DT_CENTER;
+  const UINT format = place | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | PrefixFormat(state);
+  const int padding = IsUpright(outer) ? TabPadding().cx : 0;
+  painter.Text(text, CRect(rect).Shrunk(padding, 0), format, font, InkColor(state, palette));
   if (!selected || !state.focused || !state.focusCue) return;
   int inset = ScaleUnits(kTabFocusInset);
   painter.FocusRect(CRect(rect).Shrunk(inset, inset), palette.text);
