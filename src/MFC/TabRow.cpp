@@ -40,7 +40,7 @@ void TabRow::Scroll(int tabs) {
 }
 
 void TabRow::BringIntoView(int index) {
-  if (index < 0 || index >= Count() || !Scrolls()) return;
+  if (index < 0 || index >= Count() || !Scrolls() || Visible() <= 0) return;
   first_ = std::min(first_, index);
   while (first_ < index && WidthOf(first_, index + 1) > Visible()) ++first_;
 }

@@ -31,7 +31,7 @@ class TabRow {
   bool CanScrollBack() const { return Scrolls() && first_ > 0; }
   bool CanScrollForward() const { return Scrolls() && first_ < LastFirst(); }
   void Scroll(int tabs);
-  // Scrolls as little as is needed for the whole tab to show.
+  // Scrolls as little as is needed for the whole tab to show; not while the row has no room.
   void BringIntoView(int index);
   int TotalWidth() const;
 

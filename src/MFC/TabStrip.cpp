@@ -116,10 +116,14 @@ void TabStrip::Paint(Painter& painter, const CRect& client, const ControlPalette
 void TabStrip::PaintTab(Painter& painter, int index, const ControlPalette& palette) {
   TabRow::Span span = row_.TabSpan(index);
   if (span.IsEmpty()) return;
+  painter.PushClip(RectOf(span));
+  // A caption at the end may be shortened, but not squeezed.
+  if (IsUpright()) span.to = span.from + HeightFor(Font());
   const bool isCurrent = index == current_;
   const CRect tab = isCurrent ? RectOf(span) : WithoutInnerLine(RectOf(span));
   const std::wstring& caption = captions_[static_cast<std::size_t>(index)];
   Theme::DrawTab(painter, tab, caption, Font(), isCurrent, edge_, StateOf(index), palette);
+  painter.PopClip();
 }
 
 ArrowDirection TabStrip::ArrowTo(bool forward) const {

@@ -113,6 +113,8 @@ TEST(ScrollViewTest, ScrollsAsLittleAsNeeded) {
 TEST(TabRowTest, ScrollsByWholeTabsOnlyWhenTheyDoNotFit) {
   TabRow row;
   row.SetTabs({50, 50, 50, 50});
+  row.BringIntoView(3);
+  EXPECT_EQ(row.First(), 0) << "there is no room yet";
   row.SetRoom(200, 40);
   EXPECT_FALSE(row.Scrolls());
   row.SetRoom(190, 40);
