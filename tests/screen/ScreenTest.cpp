@@ -42,8 +42,17 @@ ScreenTest::ScreenTest() {
 
 void ScreenTest::Open(const std::string& form, const std::string& title, SIZE client) {
   form_ = form;
-  program_ = std::make_unique<Program>(
-      std::vector<std::string>{WEXA_PREVIEW, "--size", SizeText(client), form});
+  Start({WEXA_PREVIEW, "--size", SizeText(client), form}, title, client);
+}
+
+void ScreenTest::OpenInHost(const std::string& form, const std::string& title, SIZE client) {
+  form_ = form;
+  Start({WEXA_SCREEN_HOST, form}, title, client);
+}
+
+void ScreenTest::Start(const std::vector<std::string>& command, const std::string& title,
+                       SIZE client) {
+  program_ = std::make_unique<Program>(command);
   window_ = person_.WaitForWindow(title);
   ASSERT_NE(window_, 0u) << program_->WaitForEnd(0).errors;
   ASSERT_TRUE(Eventually([this] { return person_.FocusedWindow() == window_; }));
@@ -76,6 +85,22 @@ RECT ScreenTest::At(const std::string& widget) const {
   return widgets_.at(widget);
 }
 
+RECT ScreenTest::OnScreen(const std::string& widget) {
+  const RECT window = person_.Place(window_);
+  const RECT place = At(widget);
+  return {window.left + place.left, window.top + place.top, window.left + place.right,
+          window.top + place.bottom};
+}
+
+std::vector<xcb_window_t> ScreenTest::Tips() {
+  const xcb_atom_t type = person_.Atom("_NET_WM_WINDOW_TYPE_TOOLTIP");
+  auto windows = person_.ShownWindows();
+  std::erase_if(windows, [&](xcb_window_t window) {
+    return person_.Number(window, "_NET_WM_WINDOW_TYPE") != type;
+  });
+  return windows;
+}
+
 void ScreenTest::ClickAt(POINT point) {
   const RECT place = person_.Place(window_);
   person_.ClickAt({place.left + point.x, place.top + point.y});
@@ -92,6 +117,12 @@ ScreenTest::Picture ScreenTest::LookAtWindow() {
 
 long ScreenTest::DarkPixels(const RECT& area) {
   return std::ranges::count_if(Look(area), IsDark);
+}
+
+long ScreenTest::DarkPixelsOf(xcb_window_t window) {
+  const RECT place = person_.Place(window);
+  const RECT all{0, 0, place.right - place.left, place.bottom - place.top};
+  return std::ranges::count_if(person_.Screenshot(window, all), IsDark);
 }
 
 long ScreenTest::AccentPixels(const RECT& area) {

@@ -26,11 +26,17 @@ class ScreenTest : public testing::Test {
   // Starts the program with a form in `client` pixels and waits until its window of this title
   // has the keyboard.
   void Open(const std::string& form, const std::string& title, SIZE client);
+  // The same with a host program that does what `host/main.cpp` says; the form has its own size.
+  void OpenInHost(const std::string& form, const std::string& title, SIZE client);
   // Resizes the window from outside, so that its client area gets this size.
   void ResizeClient(SIZE client);
 
   // The widget's rectangle in the window, as the program's dump for the client size has it.
   RECT At(const std::string& widget) const;
+  // The same on the screen.
+  RECT OnScreen(const std::string& widget);
+  // The tips on the screen.
+  std::vector<xcb_window_t> Tips();
   // Presses and releases the first button over a point of the window.
   void ClickAt(POINT point);
 
@@ -38,6 +44,7 @@ class ScreenTest : public testing::Test {
   Picture LookAtWindow();
   // The pixels of the text colour, and of the accent that focus and checks show.
   long DarkPixels(const RECT& area);
+  long DarkPixelsOf(xcb_window_t window);
   long AccentPixels(const RECT& area);
   bool HasFocusFrame(const std::string& edit);
   // Looks again and again until it is so; false when the window goes or after ten seconds.
@@ -48,6 +55,7 @@ class ScreenTest : public testing::Test {
   xcb_window_t window_ = 0;
 
  private:
+  void Start(const std::vector<std::string>& command, const std::string& title, SIZE client);
   void Measure(SIZE client);
 
   std::string form_;

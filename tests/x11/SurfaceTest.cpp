@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include "platform/WindowStyles.h"
 #include "x11/X11Test.h"
 
@@ -15,7 +17,58 @@ TEST_F(X11SurfaceTest, DialogAppearsWhereAskedWithTitleAndFocus) {
   EXPECT_EQ(place.left, kPlace.left);
   EXPECT_EQ(place.bottom, kPlace.bottom);
   EXPECT_EQ(person_.FocusedWindow(), window);
-  EXPECT_EQ(person_.Property(window, "WM_CLASS"), std::string("wexa\0wexa\0", 10));
+}
+
+TEST_F(X11SurfaceTest, WindowsNameTheirProgram) {
+  const xcb_window_t window = OpenDialog();
+  const xcb_window_t leader = person_.Number(window, "WM_CLIENT_LEADER");
+  char machine[256] = {};
+  ASSERT_EQ(gethostname(machine, sizeof machine - 1), 0);
+  for (const xcb_window_t each : {window, leader}) {
+    EXPECT_EQ(person_.Property(each, "WM_CLASS"), std::string("test_x11\0test_x11\0", 18));
+    EXPECT_EQ(person_.Property(each, "WM_CLIENT_MACHINE"), machine);
+    EXPECT_EQ(person_.Number(each, "_NET_WM_PID"), static_cast<std::uint32_t>(getpid()));
+    EXPECT_EQ(person_.Number(each, "WM_CLIENT_LEADER"), leader);
+  }
+  EXPECT_NE(leader, window);
+}
+
+TEST_F(X11SurfaceTest, OwnedDialogBelongsToItsOwner) {
+  const xcb_window_t owner = OpenDialog();
+  EXPECT_EQ(person_.Number(owner, "_NET_WM_WINDOW_TYPE"),
+            person_.Atom("_NET_WM_WINDOW_TYPE_NORMAL"));
+  display_->CreateSurface(2, SurfaceKind::Dialog, kDialog, kPlace);
+  display_->SetTitle(2, L"owned");
+  display_->SetModal(2, true);
+  display_->ShowSurface(2, true);
+  All();
+  const xcb_window_t window = person_.FindWindow("owned");
+  EXPECT_EQ(person_.Number(window, "WM_TRANSIENT_FOR"), owner);
+  EXPECT_EQ(person_.Number(window, "_NET_WM_WINDOW_TYPE"),
+            person_.Atom("_NET_WM_WINDOW_TYPE_DIALOG"));
+  EXPECT_EQ(person_.Number(window, "_NET_WM_STATE"), person_.Atom("_NET_WM_STATE_MODAL"));
+  EXPECT_TRUE(person_.IsManaged(window));
+}
+
+TEST_F(X11SurfaceTest, TipsAndPopUpsLeaveTheFocusAndTheWindowManagerAlone) {
+  const xcb_window_t owner = OpenDialog();
+  const std::pair<SurfaceKind, const char*> kinds[] = {
+      {SurfaceKind::ToolTip, "_NET_WM_WINDOW_TYPE_TOOLTIP"},
+      {SurfaceKind::PopUp, "_NET_WM_WINDOW_TYPE_POPUP_MENU"}};
+  SurfaceId id = 2;
+  for (const auto& [kind, type] : kinds) {
+    display_->CreateSurface(id, kind, kDialog, kPlace);
+    display_->SetTitle(id, L"small");
+    display_->ShowSurface(id, true);
+    display_->FocusSurface(id);
+    All();
+    const xcb_window_t window = person_.FindWindow("small");
+    EXPECT_EQ(person_.Number(window, "_NET_WM_WINDOW_TYPE"), person_.Atom(type));
+    EXPECT_EQ(person_.Number(window, "WM_TRANSIENT_FOR"), owner);
+    EXPECT_FALSE(person_.IsManaged(window));
+    EXPECT_EQ(person_.FocusedWindow(), owner);
+    display_->DestroySurface(id++);
+  }
 }
 
 TEST_F(X11SurfaceTest, TitleKeepsEveryScript) {

@@ -129,16 +129,26 @@ void XTestDriver::TypeText(const std::u32string& text) {
   }
 }
 
-xcb_window_t XTestDriver::FindWindow(const std::string& title) {
+XTestDriver::Attributes XTestDriver::AttributesOf(xcb_window_t window) {
+  const auto reply = Own(xcb_get_window_attributes_reply(
+      connection_, xcb_get_window_attributes(connection_, window), nullptr));
+  if (!reply) return {};
+  return {reply->map_state == XCB_MAP_STATE_VIEWABLE, !reply->override_redirect};
+}
+
+std::vector<xcb_window_t> XTestDriver::ShownWindows() {
   const auto tree =
       Own(xcb_query_tree_reply(connection_, xcb_query_tree(connection_, Root()), nullptr));
-  if (!tree) return 0;
+  if (!tree) return {};
   const xcb_window_t* children = xcb_query_tree_children(tree.get());
-  for (int i = xcb_query_tree_children_length(tree.get()) - 1; i >= 0; --i) {
-    const auto attributes = Own(xcb_get_window_attributes_reply(
-        connection_, xcb_get_window_attributes(connection_, children[i]), nullptr));
-    if (!attributes || attributes->map_state != XCB_MAP_STATE_VIEWABLE) continue;
-    if (title.empty() || Property(children[i], "_NET_WM_NAME") == title) return children[i];
+  std::vector<xcb_window_t> shown(children, children + xcb_query_tree_children_length(tree.get()));
+  std::erase_if(shown, [this](xcb_window_t window) { return !AttributesOf(window).isShown; });
+  return {shown.rbegin(), shown.rend()};
+}
+
+xcb_window_t XTestDriver::FindWindow(const std::string& title) {
+  for (const xcb_window_t window : ShownWindows()) {
+    if (title.empty() || Property(window, "_NET_WM_NAME") == title) return window;
   }
   return 0;
 }
@@ -163,12 +173,11 @@ xcb_window_t XTestDriver::WaitForWindow(const std::string& title, int timeout) {
 }
 
 bool XTestDriver::WaitForClose(xcb_window_t window, int timeout) {
-  const auto gone = [&] {
-    const auto attributes = Own(xcb_get_window_attributes_reply(
-        connection_, xcb_get_window_attributes(connection_, window), nullptr));
-    return !attributes || attributes->map_state != XCB_MAP_STATE_VIEWABLE;
-  };
-  return WaitUntil(gone, timeout);
+  return WaitUntil([&] { return !AttributesOf(window).isShown; }, timeout);
+}
+
+bool XTestDriver::IsManaged(xcb_window_t window) {
+  return AttributesOf(window).isManaged;
 }
 
 RECT XTestDriver::Place(xcb_window_t window) {
@@ -289,6 +298,13 @@ std::string XTestDriver::Property(xcb_window_t window, const std::string& name) 
   if (!reply) return {};
   return {static_cast<const char*>(xcb_get_property_value(reply.get())),
           static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
+}
+
+std::uint32_t XTestDriver::Number(xcb_window_t window, const std::string& name) {
+  const std::string bytes = Property(window, name);
+  std::uint32_t number = 0;
+  if (bytes.size() >= sizeof number) std::memcpy(&number, bytes.data(), sizeof number);
+  return number;
 }
 
 xcb_atom_t XTestDriver::Atom(const std::string& name) {

@@ -45,6 +45,8 @@ class XTestDriver {
   // Takes the n-th of the keyboard's layouts into use.
   void UseLayout(int index);
 
+  // The shown top-level windows, the foremost first.
+  std::vector<xcb_window_t> ShownWindows();
   // The shown top-level window of this title, or of any title when it is empty; 0 if none.
   xcb_window_t FindWindow(const std::string& title);
   // Waits for it to be shown; 0 after `timeout` milliseconds.
@@ -84,7 +86,11 @@ class XTestDriver {
                 const std::vector<std::uint32_t>& words);
 
   void SetRootProperty(const std::string& name, const std::string& text);
+  // Whether a window manager places the window and gives it the focus.
+  bool IsManaged(xcb_window_t window);
   std::string Property(xcb_window_t window, const std::string& name);
+  // The first number of a property of numbers; 0 if none.
+  std::uint32_t Number(xcb_window_t window, const std::string& name);
   xcb_atom_t Atom(const std::string& name);
   xcb_connection_t* Connection() { return connection_; }
   xcb_window_t Root() const { return screen_->root; }
@@ -96,8 +102,13 @@ class XTestDriver {
     std::uint8_t code;
     bool shifted;
   };
+  struct Attributes {
+    bool isShown = false;
+    bool isManaged = false;
+  };
   KeyPlace FindKey(std::uint32_t symbol);
   void Fake(int type, int detail, POINT position = {});
+  Attributes AttributesOf(xcb_window_t window);
   bool WaitUntil(const std::function<bool()>& done, int timeout);
 
   xcb_connection_t* connection_;

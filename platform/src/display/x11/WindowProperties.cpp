@@ -1,17 +1,18 @@
 #include "WindowProperties.h"
 
+#include <glib.h>
 #include <unistd.h>
 #include <xcb/xcb_icccm.h>
 
+#include <cerrno>
 #include <limits>
+#include <string_view>
 
 #include "Connection.h"
 #include "Text.h"
 
 namespace display::x11 {
 namespace {
-
-constexpr char kClass[] = "wexa\0wexa";
 
 template <std::size_t N>
 void WriteWords(Connection& connection, xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
@@ -42,29 +43,48 @@ void WriteDropTarget(Connection& connection, xcb_window_t window) {
   WriteWords(connection, window, connection[Atom::XdndAware], XCB_ATOM_ATOM, {kVersion});
 }
 
-void WriteInputHint(Connection& connection, xcb_window_t window) {
+// Desktops list the windows of a program together, under its name.
+void WriteProgram(Connection& connection, xcb_window_t window) {
+  xcb_connection_t* c = connection.Get();
+  const std::string name = program_invocation_short_name;
+  const std::string instanceAndClass = name + '\0' + name + '\0';
+  xcb_icccm_set_wm_class(c, window, static_cast<std::uint32_t>(instanceAndClass.size()),
+                         instanceAndClass.data());
+  const std::string_view machine = g_get_host_name();
+  xcb_icccm_set_wm_client_machine(c, window, XCB_ATOM_STRING, 8,
+                                  static_cast<std::uint32_t>(machine.size()), machine.data());
+  WriteWords(connection, window, connection[Atom::NetWmPid], XCB_ATOM_CARDINAL,
+             {static_cast<std::uint32_t>(getpid())});
+  WriteWords(connection, window, connection[Atom::WmClientLeader], XCB_ATOM_WINDOW,
+             {connection.Helper()});
+}
+
+void WriteHints(Connection& connection, xcb_window_t window) {
   xcb_icccm_wm_hints_t hints{};
   xcb_icccm_wm_hints_set_input(&hints, 1);
+  xcb_icccm_wm_hints_set_window_group(&hints, connection.Helper());
   xcb_icccm_set_wm_hints(connection.Get(), window, &hints);
 }
 
 }  // namespace
 
+void WriteLeader(Connection& connection) {
+  WriteProgram(connection, connection.Helper());
+}
+
 void WriteIdentity(Connection& connection, xcb_window_t window, SurfaceKind kind,
                    xcb_window_t owner) {
   xcb_connection_t* c = connection.Get();
-  xcb_icccm_set_wm_class(c, window, sizeof kClass, kClass);
+  WriteProgram(connection, window);
   WriteWords(connection, window, connection[Atom::NetWmWindowType], XCB_ATOM_ATOM,
              {connection[TypeOf(kind, owner != 0)]});
-  WriteWords(connection, window, connection[Atom::NetWmPid], XCB_ATOM_CARDINAL,
-             {static_cast<std::uint32_t>(getpid())});
   if (owner) xcb_icccm_set_wm_transient_for(c, window, owner);
   if (kind != SurfaceKind::Dialog) return;
   xcb_atom_t protocols[] = {connection[Atom::WmDeleteWindow], connection[Atom::NetWmPing]};
   xcb_icccm_set_wm_protocols(c, window, connection[Atom::WmProtocols], std::size(protocols),
                              protocols);
   WriteNoDecorations(connection, window);
-  WriteInputHint(connection, window);
+  WriteHints(connection, window);
   WriteDropTarget(connection, window);
 }
 

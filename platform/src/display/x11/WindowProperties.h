@@ -12,7 +12,9 @@ namespace display::x11 {
 
 class Connection;
 
-// Kind, process, protocols, no frame, and the window it stays in front of (0 for none).
+// Makes the connection's helper stand for the whole program.
+void WriteLeader(Connection& connection);
+// Kind, program, protocols, no frame, and the window it stays in front of (0 for none).
 void WriteIdentity(Connection& connection, xcb_window_t window, SurfaceKind kind,
                    xcb_window_t owner);
 void WriteTitle(Connection& connection, xcb_window_t window, const std::wstring& title);

@@ -22,6 +22,8 @@ namespace {
 
 class X11Display : public Display {
  public:
+  X11Display() { WriteLeader(connection_); }
+
   int Dpi() const override { return resolution_.Dpi(); }
   RECT WorkArea() const override { return windowManager_.WorkArea(); }
 

@@ -17,9 +17,9 @@ class XSettings {
  public:
   explicit XSettings(Connection& connection) : connection_(connection) {}
 
-  // High contrast when the name of the desktop's theme ("Net/ThemeName") contains "high contrast" or
-  // "contrast high", whatever separates the words and in any case; else light, as where no manager
-  // runs. A dark theme changes nothing: whether dialogs are dark is their skin's business.
+  // High contrast when the name of the desktop's theme ("Net/ThemeName") contains "high contrast"
+  // or "contrast high", whatever separates the words and in any case; else light, as where no
+  // manager runs. A dark theme changes nothing: whether dialogs are dark is their skin's business.
   SystemScheme Scheme();
   // Milliseconds ("Net/DoubleClickTime"); none where nobody has set them.
   std::optional<std::uint32_t> DoubleClickTime();
