@@ -70,6 +70,12 @@ class WEXA_API Dialog : public BaseGUIObject {
   bool SetSkinMode(SkinMode mode, bool repaint) override;
   void UpdateWindow();
   void SetCursorType(WexaUtils::CursorTypes type);
+  // The cursor that CursorTypes::Custom shows: a picture file of any kind that can be decoded, or
+  // the bytes of a PNG picture. The hot spot is a place in the picture; both grow with the screen's
+  // resolution. False, and the former cursor stays, when there is no such picture.
+  bool LoadCustomCursor(const std::wstring& path, int hotSpotX, int hotSpotY);
+  bool LoadCustomCursor(const unsigned char* data, int size, int hotSpotX, int hotSpotY,
+                        WexaUtils::ImageTypes type);
 
   // -- Properties
 
@@ -100,6 +106,11 @@ class WEXA_API Dialog : public BaseGUIObject {
   virtual int FilterDone(int state) { return state; }
   // Called after the widgets have their windows, before the dialog is shown. False ends it.
   virtual bool InitializeControls() { return true; }
+  // Embeds the window, or the widget's, as a page: it becomes a child without a frame that fills
+  // the dialog's client area, also when that is resized. With `show` it is shown in front of the
+  // pages before it, which are hidden. False for a window that is gone or that holds the dialog.
+  virtual bool CreateTabWindow(CWnd* window, bool show);
+  virtual bool CreateTabWindowEx(BaseGUIObject* widget, bool show);
   // Shows the dialog, but no child that was hidden.
   virtual void ShowButKeepHiddenChildren(bool show);
 

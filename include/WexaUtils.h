@@ -36,12 +36,13 @@ class WEXA_API WexaUtils {
     FillTarget = 4
   };
   enum CursorTypes {
-    Arrow = 1,
+    Custom = 1,  // the dialog's own; without one the arrow
     Wait = 2,
     IBeam = 3,
     Cross = 4,
     UpArrow = 5,
     SizeCursor = 6,
+    Arrow = 7,
     SizeNWSE = 8,
     SizeNESW = 9,
     SizeWE = 10,
@@ -120,8 +121,8 @@ class WEXA_API WexaUtils {
   // alpha; the colour 0 turns it grey. Null for bitmaps of less than 24 bits.
   static HBITMAP ReplaceColor(CWnd* window, HBITMAP bitmap, unsigned long color);
   static HBITMAP ReplaceColorToGray(CWnd* window, HBITMAP bitmap);
-  // The same bitmap when its size stays, else a new one. In a window of class "ComboBoxEx32" heights
-  // follow the scale factor in every mode.
+  // The same bitmap when its size stays, else a new one. In a window of class "ComboBoxEx32"
+  // heights follow the scale factor in every mode.
   static HBITMAP ScaleBitmap(HBITMAP bitmap, ScalePicture mode, RECT target, CWnd* window);
 
  private:

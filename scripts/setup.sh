@@ -12,7 +12,7 @@ packages=(
   # pictures
   libgdk-pixbuf-2.0-dev
   # the X display
-  libxcb1-dev libxcb-shm0-dev libxcb-icccm4-dev libxcb-cursor-dev libxcb-randr0-dev
+  libxcb1-dev libxcb-shm0-dev libxcb-icccm4-dev libxcb-cursor-dev libxcb-render0-dev libxcb-randr0-dev
   libxcb-xrm-dev libxcb-xkb-dev libxkbcommon-dev libxkbcommon-x11-dev
   # reading forms; the tools' options and JSON
   librapidxml-dev libutfcpp-dev libcli11-dev nlohmann-json3-dev

@@ -8,6 +8,8 @@
 #include "Dialog.h"
 #include "MFC/BaseImplMFC.h"
 #include "MFC/BuildStatistics.h"
+#include "MFC/DialogCursor.h"
+#include "MFC/EmbeddedPages.h"
 
 namespace Wexa {
 
@@ -58,8 +60,10 @@ class Dialog::impl : public BaseImplMFC {
   bool resizable = true;
   std::vector<std::wstring> tabOrder;
   WexaUtils::CursorTypes cursorType = WexaUtils::CursorTypes{};
+  DialogCursor customCursor;
   BuildStatistics statistics;
   ToolTips& Tips() { return *toolTips_; }
+  EmbeddedPages& Pages() { return pages_; }
 
   // -- From the native dialog
   bool OnInitDialog();
@@ -101,6 +105,7 @@ class Dialog::impl : public BaseImplMFC {
   int defaultButtonId_ = -1;
   bool wasInitialized_ = false;
   std::unique_ptr<ToolTips> toolTips_;
+  EmbeddedPages pages_{*this};
 };
 
 // Ids of controls: one counter for the process, from 3000 up.

@@ -15,6 +15,7 @@ LRESULT BaseDialogMFC::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETCURSOR:
       if (LOWORD(lParam) == HTCLIENT && impl_.OnSetCursor()) return TRUE;
       break;
+    case WM_SIZE: impl_.Pages().Fit(); break;
     case WM_GETMINMAXINFO: impl_.OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
     default: break;
   }

@@ -113,11 +113,31 @@ void Dialog::SetCursorType(WexaUtils::CursorTypes type) {
   impl_->cursorType = type;
 }
 
+bool Dialog::LoadCustomCursor(const std::wstring& path, int hotSpotX, int hotSpotY) {
+  int size = 0;
+  const std::unique_ptr<unsigned char[]> bytes(WexaUtils::LoadImageBuffer(path, &size));
+  return LoadCustomCursor(bytes.get(), size, hotSpotX, hotSpotY, WexaUtils::PNG);
+}
+
+bool Dialog::LoadCustomCursor(const unsigned char* data, int size, int hotSpotX, int hotSpotY,
+                              WexaUtils::ImageTypes type) {
+  if (!data || size < 1 || type != WexaUtils::PNG) return false;
+  return impl_->customCursor.Load({data, static_cast<std::size_t>(size)}, {hotSpotX, hotSpotY});
+}
+
 HWND Dialog::GetHandle() const {
   return impl_ ? impl_->GetHandle() : nullptr;
 }
 CWnd* Dialog::GetWndPtr() const {
   return GetHandle() ? impl_->GetCWnd() : nullptr;
+}
+
+bool Dialog::CreateTabWindow(CWnd* window, bool show) {
+  return window && impl_->Pages().Embed(window->GetSafeHwnd(), show);
+}
+
+bool Dialog::CreateTabWindowEx(BaseGUIObject* widget, bool show) {
+  return widget && impl_->Pages().Embed(widget->GetPlatformHandle(), show);
 }
 
 void Dialog::ShowButKeepHiddenChildren(bool show) {

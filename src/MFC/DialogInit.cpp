@@ -252,6 +252,7 @@ bool Dialog::impl::FollowBuddyMnemonic(const MSG& message) {
 
 bool Dialog::impl::OnSetCursor() {
   if (cursorType == WexaUtils::CursorTypes{}) return false;
+  if (cursorType == WexaUtils::Custom && customCursor.Show()) return true;
   SetCursor(WexaUtils::GetPlattformCursorType(cursorType));
   return true;
 }

@@ -132,6 +132,7 @@ TEST_F(X11PointerTest, EveryCursorShapeIsTaken) {
   for (int shape = 0; shape <= static_cast<int>(CursorShape::Hand); ++shape) {
     display_->SetCursor(kDialog, static_cast<CursorShape>(shape));
   }
+  display_->SetCursorPicture(kDialog, {std::vector<std::uint32_t>(64, 0x80800000), {8, 8}, {3, 3}});
   person_.MovePointer({150, 120});
   EXPECT_TRUE(Next(Kind::PointerMoved));
 }

@@ -59,6 +59,9 @@ struct ICONINFO {
 // version, size or flags.
 HICON CreateIconFromResourceEx(const BYTE* image, DWORD size, BOOL isIcon, DWORD version, int width,
                                int height, UINT flags);
+// An icon or cursor of copies of these bitmaps; without a mask the colours' own alpha counts. Null
+// without colours.
+HICON CreateIconIndirect(const ICONINFO* info);
 BOOL DestroyIcon(HICON icon);
 // Both bitmaps are copies, which the caller deletes.
 BOOL GetIconInfo(HICON icon, ICONINFO* info);

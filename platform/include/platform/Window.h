@@ -221,6 +221,9 @@ UINT MapVirtualKeyW(
     UINT code,
     UINT mapType);  // 0: key to scan code, 1: scan code to key, 3: likewise with left and right
 BOOL GetCursorPos(POINT* point);
+// Shows a cursor made of a picture; FALSE for a stale or null handle, and where no window of this
+// process is under the pointer.
+BOOL SetCursorPicture(HCURSOR cursor);
 const wchar_t* SetCursor(const wchar_t* cursor);
 BOOL TrackMouseEvent(TRACKMOUSEEVENT* request);
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds);

@@ -34,6 +34,14 @@ enum class CursorShape {
   Hand
 };
 
+// A cursor of the host's own: pixels of 0xAARRGGBB, multiplied with their alpha, rows from top to
+// bottom.
+struct CursorPicture {
+  std::vector<std::uint32_t> pixels;
+  SIZE size{};
+  POINT hotSpot{};  // within the picture
+};
+
 // The pixels of a surface: 32 bits each, 0xAARRGGBB, rows of `stride` bytes. Valid until the
 // surface is resized or destroyed.
 struct Pixels {
@@ -101,6 +109,7 @@ class Display {
   virtual void SetResizable(SurfaceId id, bool resizable, SIZE minimum, SIZE maximum) = 0;
   virtual void SetModal(SurfaceId id, bool modal) = 0;
   virtual void SetCursor(SurfaceId id, CursorShape shape) = 0;
+  virtual void SetCursorPicture(SurfaceId id, const CursorPicture& picture) = 0;
   virtual void RaiseSurface(SurfaceId id) = 0;
   virtual void FocusSurface(SurfaceId id) = 0;
   // Hands an interactive move or resize (edge = HTCAPTION, HTLEFT, HTBOTTOMRIGHT ...) to the

@@ -56,6 +56,17 @@ HICON CreateIconFromResourceEx(const BYTE* image, DWORD size, BOOL isIcon, DWORD
       IconObject{isIcon != FALSE, hotSpot, ColorOf(*read), MaskOf(*read)}));
 }
 
+HICON CreateIconIndirect(const ICONINFO* info) {
+  BITMAP size{};
+  if (!info || !GetBitmapDescription(info->hbmColor, &size)) return nullptr;
+  const HBITMAP mask =
+      info->hbmMask ? CopyBitmap(info->hbmMask) : CreateBitmap(size.bmWidth, size.bmHeight, 1);
+  const POINT hotSpot{static_cast<LONG>(info->xHotspot), static_cast<LONG>(info->yHotspot)};
+  return Table().Add(std::make_unique<IconObject>(
+      IconObject{info->fIcon != FALSE, hotSpot, UniqueBitmap(CopyBitmap(info->hbmColor)),
+                 UniqueBitmap(mask)}));
+}
+
 BOOL DestroyIcon(HICON icon) {
   return Table().Remove(icon) != nullptr;
 }

@@ -1,5 +1,6 @@
 #include "window/Cursor.h"
 
+#include "window/CursorPicture.h"
 #include "window/Dispatch.h"
 #include "window/WindowClass.h"
 
@@ -10,7 +11,8 @@ using display::CursorShape;
 
 struct CursorState {
   const wchar_t* shown = IDC_ARROW;
-  HWND root = nullptr;  // under the pointer
+  HCURSOR picture = nullptr;  // shown instead
+  HWND root = nullptr;        // under the pointer
 };
 
 CursorState& State() {
@@ -36,6 +38,12 @@ CursorShape ShapeOf(const wchar_t* cursor) {
   return CursorShape::Arrow;
 }
 
+// 0 without a window under the pointer that is on the screen.
+display::SurfaceId SurfaceUnderPointer() {
+  const Window* root = Find(State().root);
+  return root ? root->top->surfaceId : 0;
+}
+
 const wchar_t* FrameCursor(int part) {
   switch (part) {
     case HTLEFT:
@@ -54,7 +62,7 @@ const wchar_t* FrameCursor(int part) {
 
 void AskForCursor(const Hit& hit, UINT mouseMessage) {
   const HWND root = Root(*hit.window).handle;
-  if (State().root != root) State() = {nullptr, root};
+  if (State().root != root) State() = {nullptr, nullptr, root};
   Send(*hit.window, WM_SETCURSOR, reinterpret_cast<WPARAM>(hit.window->handle),
        MAKELPARAM(hit.part, static_cast<int>(mouseMessage)));
 }
@@ -74,9 +82,21 @@ const wchar_t* SetCursor(const wchar_t* cursor) {
   core::CursorState& state = core::State();
   const wchar_t* before = state.shown;
   const wchar_t* wanted = cursor ? cursor : IDC_ARROW;
-  const core::Window* root = core::Find(state.root);
-  if (wanted == before || !root || root->top->surfaceId == 0) return before ? before : IDC_ARROW;
-  display::Current().SetCursor(root->top->surfaceId, core::ShapeOf(wanted));
+  const display::SurfaceId surface = core::SurfaceUnderPointer();
+  const bool isShown = wanted == before && !state.picture;
+  if (isShown || surface == 0) return before ? before : IDC_ARROW;
+  display::Current().SetCursor(surface, core::ShapeOf(wanted));
   state.shown = wanted;
+  state.picture = nullptr;
   return before ? before : IDC_ARROW;
+}
+
+BOOL SetCursorPicture(HCURSOR cursor) {
+  core::CursorState& state = core::State();
+  const display::SurfaceId surface = core::SurfaceUnderPointer();
+  if (GetIconSize(cursor).cx == 0 || surface == 0) return FALSE;
+  if (state.picture == cursor) return TRUE;
+  display::Current().SetCursorPicture(surface, core::PictureOf(cursor));
+  state.picture = cursor;
+  return TRUE;
 }

@@ -71,7 +71,14 @@ void OffscreenDisplay::SetModal(SurfaceId id, bool modal) {
 }
 
 void OffscreenDisplay::SetCursor(SurfaceId id, CursorShape shape) {
-  if (Surface* surface = Find(id)) surface->cursor = shape;
+  Surface* surface = Find(id);
+  if (!surface) return;
+  surface->cursor = shape;
+  surface->cursorPicture.reset();
+}
+
+void OffscreenDisplay::SetCursorPicture(SurfaceId id, const CursorPicture& picture) {
+  if (Surface* surface = Find(id)) surface->cursorPicture = picture;
 }
 
 void OffscreenDisplay::RaiseSurface(SurfaceId id) {
@@ -130,6 +137,10 @@ std::wstring OffscreenDisplay::TitleOf(SurfaceId id) const {
 
 CursorShape OffscreenDisplay::CursorOf(SurfaceId id) const {
   return Get(id).cursor;
+}
+
+const std::optional<CursorPicture>& OffscreenDisplay::CursorPictureOf(SurfaceId id) const {
+  return Get(id).cursorPicture;
 }
 
 bool OffscreenDisplay::IsModal(SurfaceId id) const {

@@ -46,6 +46,7 @@ class OffscreenDisplay : public Display {
   RECT PlaceOf(SurfaceId id) const;
   std::wstring TitleOf(SurfaceId id) const;
   CursorShape CursorOf(SurfaceId id) const;
+  const std::optional<CursorPicture>& CursorPictureOf(SurfaceId id) const;
   bool IsModal(SurfaceId id) const;
   bool IsResizable(SurfaceId id) const;
   SurfaceKind KindOf(SurfaceId id) const;
@@ -69,6 +70,7 @@ class OffscreenDisplay : public Display {
   void SetResizable(SurfaceId id, bool resizable, SIZE minimum, SIZE maximum) override;
   void SetModal(SurfaceId id, bool modal) override;
   void SetCursor(SurfaceId id, CursorShape shape) override;
+  void SetCursorPicture(SurfaceId id, const CursorPicture& picture) override;
   void RaiseSurface(SurfaceId id) override;
   void FocusSurface(SurfaceId id) override;
   bool BeginMoveSize(SurfaceId, int) override { return false; }

@@ -14,6 +14,7 @@ struct OffscreenDisplay::Surface {
   std::vector<RECT> presented{};
   std::wstring title{};
   CursorShape cursor = CursorShape::Arrow;
+  std::optional<CursorPicture> cursorPicture{};  // instead of the shape
   bool modal = false;
   bool resizable = false;
 

@@ -35,6 +35,7 @@ class X11Display : public Display {
   void SetResizable(SurfaceId id, bool resizable, SIZE minimum, SIZE maximum) override;
   void SetModal(SurfaceId id, bool modal) override;
   void SetCursor(SurfaceId id, CursorShape shape) override;
+  void SetCursorPicture(SurfaceId id, const CursorPicture& picture) override;
   void RaiseSurface(SurfaceId id) override;
   void FocusSurface(SurfaceId id) override;
   bool BeginMoveSize(SurfaceId id, int edge) override;
@@ -133,6 +134,15 @@ void X11Display::SetModal(SurfaceId id, bool modal) {
 
 void X11Display::SetCursor(SurfaceId id, CursorShape shape) {
   if (Surface* surface = surfaces_.Find(id)) surface->SetCursor(cursors_.Get(shape));
+}
+
+// The window keeps the cursor.
+void X11Display::SetCursorPicture(SurfaceId id, const CursorPicture& picture) {
+  Surface* surface = surfaces_.Find(id);
+  if (!surface) return;
+  const xcb_cursor_t cursor = cursors_.Make(picture);
+  surface->SetCursor(cursor);
+  if (cursor) xcb_free_cursor(connection_.Get(), cursor);
 }
 
 void X11Display::RaiseSurface(SurfaceId id) {

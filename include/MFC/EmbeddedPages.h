@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/Types.h"
+
+namespace Wexa {
+
+class BaseImpl;
+
+// Windows from elsewhere that a dialog shows as pages: each fills its client area.
+class EmbeddedPages {
+ public:
+  explicit EmbeddedPages(BaseImpl& dialog) : dialog_(dialog) {}
+
+  // False for a window that is gone or that holds the dialog, and while the dialog has no window.
+  bool Embed(HWND window, bool show);
+  // After the dialog's size has changed.
+  void Fit();
+
+ private:
+  BaseImpl& dialog_;
+  std::vector<HWND> pages_;
+};
+
+}  // namespace Wexa
