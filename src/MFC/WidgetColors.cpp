@@ -25,6 +25,8 @@ double Linear(BYTE channel) {
   return levels[channel];
 }
 
+constexpr double kReadable = 4.5;
+
 double Luminance(COLORREF color) {
   return 0.2126 * Linear(GetRValue(color)) + 0.7152 * Linear(GetGValue(color)) +
          0.0722 * Linear(GetBValue(color));
@@ -44,7 +46,6 @@ double Contrast(COLORREF a, COLORREF b) {
 }
 
 COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORREF face) {
-  constexpr double kReadable = 4.5;
   const COLORREF color = SlotColor(skin, slot);
   if (skin.Slot(slot).IsChanged() || Contrast(color, face) >= kReadable) return color;
   const COLORREF other = SlotColor(skin, otherwise);
@@ -54,7 +55,8 @@ COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORRE
 COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face) {
   constexpr int kFaint = 40;
   const COLORREF color = SlotColor(skin, slot);
-  return skin.Slot(slot).IsChanged() || color != text ? color : MixColors(text, face, kFaint);
+  const bool fits = color != text && Contrast(color, face) >= kReadable;
+  return skin.Slot(slot).IsChanged() || fits ? color : MixColors(text, face, kFaint);
 }
 
 COLORREF DialogBackground(const SkinManager& skin) {
@@ -106,7 +108,7 @@ void FillCheckPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.hoverFace = palette.face;
   palette.pressedFace = palette.face;
   palette.disabledFace = palette.face;
-  palette.text = SlotColor(skin, Slot::kCheckText);
+  palette.text = ReadableColor(skin, Slot::kCheckText, Slot::kDialogText, palette.background);
   palette.disabledText = SlotColor(skin, Slot::kCheckDisabledText);
   palette.border = SlotColor(skin, Slot::kCheckBorder);
   palette.hoverBorder = SlotColor(skin, Slot::kButtonHoverBorder);

@@ -62,7 +62,7 @@ double Contrast(COLORREF a, COLORREF b);
 // the slot, the other slot's colour if that is easier.
 COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORREF face);
 // The slot's colour for what must not look like `text`: where the palette gives both the same
-// colour and nobody set the slot, one between the text and its face.
+// colour, or one hard to read, and nobody set the slot, one between the text and its face.
 COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face);
 COLORREF DialogBackground(const SkinManager& skin);
 // Between 0x00RRGGBB and 0x00BBGGRR.

@@ -80,7 +80,8 @@ TEST(ScrollTrackTest, ShortBarsLoseTheirThumbThenShareTheirArrows) {
 
 TEST(ScrollViewTest, OneBarMayMakeTheOtherNecessary) {
   const auto viewOf = [](Size wanted, BarPolicies policies = {}) {
-    return ScrollView::Of({100, 80}, [wanted](int) { return wanted; }, 10, policies);
+    return ScrollView::Of(
+        {100, 80}, [wanted](int) { return wanted; }, 10, policies);
   };
   const ScrollView fits = viewOf({100, 80});
   EXPECT_FALSE(fits.hasVertical || fits.hasHorizontal);

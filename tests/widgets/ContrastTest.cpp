@@ -36,13 +36,13 @@ std::vector<Pair> EnabledPairs(const SkinManager& skin) {
   std::vector<Pair> pairs;
   AddPairs(pairs, "dialog", FillCommonPalette, skin);
   AddPairs(pairs, "button", FillButtonPalette, skin);
-  AddPairs(pairs, "check", FillCheckPalette, skin);
   AddPairs(pairs, "input", FillInputPalette, skin);
   const ControlPalette input = InputPalette(skin);
   pairs.push_back({"placeholder", input.placeholder, input.face});
   pairs.push_back({"tip", SlotColor(skin, Slot::kTipText), SlotColor(skin, Slot::kTipFace)});
-  pairs.push_back(
-      {"check text on dialog", SlotColor(skin, Slot::kCheckText), DialogBackground(skin)});
+  ControlPalette check{};
+  FillCheckPalette(check, skin);
+  pairs.push_back({"check text", check.text, check.background});
   return pairs;
 }
 
@@ -57,49 +57,54 @@ std::vector<Pair> DisabledPairs(const SkinManager& skin) {
   return pairs;
 }
 
-class ContrastTest : public testing::TestWithParam<SkinMode> {
+// A skin over the colours of a desktop.
+struct Look {
+  const char* name;
+  SkinMode mode;
+  SystemScheme scheme;
+};
+
+class ContrastTest : public testing::TestWithParam<Look> {
  protected:
-  ContrastTest() {
-    if (IsHighContrast()) SetSystemScheme(SystemScheme::HighContrast);
-  }
+  ContrastTest() { SetSystemScheme(GetParam().scheme); }
   ~ContrastTest() override { SetSystemScheme(SystemScheme::Light); }
-  static bool IsHighContrast() { return GetParam() == SkinMode::HCMDark; }
+  static bool IsHighContrast() { return GetParam().scheme == SystemScheme::HighContrast; }
 };
 
 TEST_P(ContrastTest, EnabledTextsAreReadable) {
-  const SkinManager skin(GetParam());
+  const SkinManager skin(GetParam().mode);
   const double least = IsHighContrast() ? 7.0 : 4.5;
   for (const Pair& pair : EnabledPairs(skin))
     EXPECT_GE(Contrast(pair.text, pair.face), least) << pair.what;
 }
 
 TEST_P(ContrastTest, DisabledTextsCanBeMadeOut) {
-  const SkinManager skin(GetParam());
+  const SkinManager skin(GetParam().mode);
   for (const Pair& pair : DisabledPairs(skin))
     EXPECT_GE(Contrast(pair.text, pair.face), IsHighContrast() ? 7.0 : 3.0) << pair.what;
 }
 
 TEST_P(ContrastTest, WhatIsNotEnteredDoesNotLookSo) {
-  const ControlPalette p = InputPalette(SkinManager(GetParam()));
+  const ControlPalette p = InputPalette(SkinManager(GetParam().mode));
   EXPECT_GE(Contrast(p.placeholder, p.text), 1.4);
   EXPECT_GE(Contrast(p.disabledText, p.text), 1.4);
 }
 
 TEST_P(ContrastTest, MarksStandOutFromTheAccent) {
-  const SkinManager skin(GetParam());
+  const SkinManager skin(GetParam().mode);
   ControlPalette p{};
   FillCheckPalette(p, skin);
   EXPECT_GE(Contrast(p.accentText, p.accent), 3.0);
 }
 
-std::string NameOf(const testing::TestParamInfo<SkinMode>& mode) {
-  if (mode.param == SkinMode::Default) return "Light";
-  return mode.param == SkinMode::Dark ? "Dark" : "HighContrast";
-}
-
 INSTANTIATE_TEST_SUITE_P(Palettes, ContrastTest,
-                         testing::Values(SkinMode::Default, SkinMode::Dark, SkinMode::HCMDark),
-                         NameOf);
+                         testing::Values(Look{"Light", SkinMode::Default, SystemScheme::Light},
+                                         Look{"Dark", SkinMode::Dark, SystemScheme::Light},
+                                         Look{"LightOnDark", SkinMode::Default, SystemScheme::Dark},
+                                         Look{"DarkOnDark", SkinMode::Dark, SystemScheme::Dark},
+                                         Look{"HighContrast", SkinMode::HCMDark,
+                                              SystemScheme::HighContrast}),
+                         [](const auto& look) { return look.param.name; });
 
 TEST(ContrastOfColors, IsKnownForBlackAndWhite) {
   EXPECT_NEAR(Contrast(RGB(0, 0, 0), RGB(255, 255, 255)), 21.0, 0.01);
