@@ -125,10 +125,35 @@ TEST_F(X11ClipboardTest, LaterOwnerTakesTheClipboard) {
   EXPECT_EQ(display_->ClipboardText(), L"theirs");
 }
 
-TEST_F(X11ClipboardTest, LongTextGoesOverWhole) {
-  const std::wstring text(300000, L'\u20AC');
-  const OtherProgram other(text);
-  EXPECT_EQ(display_->ClipboardText(), text);
+TEST_F(X11ClipboardTest, LongTextsGoOverWhole) {
+  for (const std::size_t length : {0x40000, 0x40001, 0x80000, 900001}) {
+    std::wstring text(length, L'a');
+    text.back() = L'z';
+    const OtherProgram other(text);
+    EXPECT_EQ(display_->ClipboardText(), text) << length;
+  }
+}
+
+// Whoever asked goes before the text has come.
+TEST_F(X11ClipboardTest, ReaderThatGoesAwayLeavesTheOwnerAlone) {
+  OpenDialog();
+  display_->SetClipboardText(std::wstring(900000, L'a'));
+  const xcb_window_t reader = person_.CreateWindow();
+  const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_change_window_attributes(person_.Connection(), reader, XCB_CW_EVENT_MASK, &events);
+  xcb_convert_selection(person_.Connection(), reader, person_.Atom("CLIPBOARD"),
+                        person_.Atom("UTF8_STRING"), person_.Atom("TEXT_HERE"), XCB_CURRENT_TIME);
+  person_.Sync();
+  All();
+  EXPECT_EQ(person_.Number(reader, "TEXT_HERE"), 900000u);
+  xcb_delete_property(person_.Connection(), reader, person_.Atom("TEXT_HERE"));
+  person_.Sync();
+  All();
+  EXPECT_EQ(person_.Property(reader, "TEXT_HERE").size(), 0x40000u);
+  xcb_destroy_window(person_.Connection(), reader);
+  person_.Sync();
+  All();
+  EXPECT_EQ(display_->ClipboardText().size(), 900000u);
 }
 
 TEST_F(X11ClipboardTest, PiecesAreJoined) {

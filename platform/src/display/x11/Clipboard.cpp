@@ -78,22 +78,23 @@ bool Clipboard::Write(const xcb_selection_request_event_t& request, xcb_atom_t p
     return true;
   }
   if (request.target != utf8 && request.target != XCB_ATOM_STRING) return false;
-  const std::string bytes = request.target == utf8 ? ToUtf8(text_) : ToLatin1(text_);
-  if (!Fits(bytes)) return false;
-  WriteText(request.requestor, property, request.target, bytes);
+  WriteText(request.requestor, property, request.target,
+            request.target == utf8 ? ToUtf8(text_) : ToLatin1(text_));
   return true;
 }
 
-bool Clipboard::Fits(const std::string& bytes) {
-  constexpr std::size_t kHeader = 64;
-  return bytes.size() + kHeader <
-         std::size_t{xcb_get_maximum_request_length(connection_.Get())} * 4;
-}
-
 void Clipboard::WriteText(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
-                          const std::string& bytes) {
+                          std::string bytes) {
+  if (bytes.size() > Pieces::kLength) {
+    return pieces_.Begin(window, property, type, std::move(bytes));
+  }
   xcb_change_property(connection_.Get(), XCB_PROP_MODE_REPLACE, window, property, type, 8,
                       static_cast<std::uint32_t>(bytes.size()), bytes.data());
+}
+
+void Clipboard::PropertyChanged(const xcb_property_notify_event_t& event) {
+  reader_.PropertyChanged(event);
+  pieces_.PropertyChanged(event);
 }
 
 }  // namespace display::x11

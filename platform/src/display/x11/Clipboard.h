@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 
+#include "Pieces.h"
 #include "Selection.h"
 
 namespace display::x11 {
@@ -24,19 +25,19 @@ class Clipboard {
   void Requested(const xcb_selection_request_event_t& request);
   void Lost(const xcb_selection_clear_event_t& event);
   void Answered(const xcb_selection_notify_event_t& answer) { reader_.Answered(answer); }
-  void PropertyChanged(const xcb_property_notify_event_t& event) { reader_.PropertyChanged(event); }
+  void PropertyChanged(const xcb_property_notify_event_t& event);
+  void WindowGone(xcb_window_t window) { pieces_.WindowGone(window); }
 
  private:
   bool AskAs(xcb_atom_t type, xcb_timestamp_t time, const std::function<void(std::uint64_t)>& pump);
   bool Write(const xcb_selection_request_event_t& request, xcb_atom_t property);
-  void WriteText(xcb_window_t window, xcb_atom_t property, xcb_atom_t type,
-                 const std::string& bytes);
-  bool Fits(const std::string& bytes);
+  void WriteText(xcb_window_t window, xcb_atom_t property, xcb_atom_t type, std::string bytes);
 
   Connection& connection_;
   bool owned_ = false;
   xcb_timestamp_t since_ = XCB_CURRENT_TIME;
   std::wstring text_;
+  Pieces pieces_{connection_};
   SelectionReader reader_{connection_, Atom::WexaSelection};
 };
 

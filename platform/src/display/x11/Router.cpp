@@ -42,6 +42,8 @@ void Router::Route(const xcb_generic_event_t& event) {
     case XCB_EXPOSE: return OnExpose(As<xcb_expose_event_t>(event));
     case XCB_CONFIGURE_NOTIFY:
       return OnConfigure(As<xcb_configure_notify_event_t>(event), event.full_sequence);
+    case XCB_DESTROY_NOTIFY:
+      return parts_.clipboard.WindowGone(As<xcb_destroy_notify_event_t>(event).window);
     case XCB_REPARENT_NOTIFY: return OnReparent(As<xcb_reparent_notify_event_t>(event));
     case XCB_CLIENT_MESSAGE: return OnClientMessage(As<xcb_client_message_event_t>(event));
     case XCB_PROPERTY_NOTIFY: return OnProperty(As<xcb_property_notify_event_t>(event));
