@@ -119,8 +119,8 @@ class BaseImplMFC : public BaseImpl {
   void SetSkinManager(const SkinManager& skin) { skinManager_ = skin; }
   // Destroys the layout with its items, before the widgets that they place.
   void DeleteLayout();
-  // The dialog is going while others may still hold the widget: its skin stands on its own.
-  void LeaveDialog();
+  // The dialog is going. The skin of a widget that others still hold stands on its own from now on.
+  void LeaveDialog(bool survives);
   // The desktop's colours or its contrast changed.
   virtual void OnSystemColorsChanged() {}
   // The native window is going: what the user entered stays readable.

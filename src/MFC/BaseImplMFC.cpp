@@ -60,8 +60,8 @@ void BaseImplMFC::DeleteLayout() {
   delete std::exchange(Links().layout, nullptr);
 }
 
-void BaseImplMFC::LeaveDialog() {
-  skinManager_.SetSkinMode(skinManager_.GetSkinMode());
+void BaseImplMFC::LeaveDialog(bool survives) {
+  if (survives) skinManager_.SetSkinMode(skinManager_.GetSkinMode());
   children_.clear();
   if (owner_) owner_->SetParent(nullptr);
 }

@@ -90,7 +90,10 @@ void Dialog::impl::DropElements() {
   Children().clear();
   for (Element& element : elements) ImplOf(element.widget.get())->DeleteLayout();
   DeleteLayout();
-  for (Element& element : elements) ImplOf(element.widget.get())->LeaveDialog();
+  for (Element& element : elements) {
+    const bool hostHoldsIt = element.widget.use_count() > 1;
+    ImplOf(element.widget.get())->LeaveDialog(hostHoldsIt);
+  }
   while (!elements.empty()) elements.pop_back();
 }
 
