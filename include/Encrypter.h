@@ -6,6 +6,10 @@
 
 #include "WexaExport.h"
 
+namespace Wexa {
+class Translator;
+}
+
 // Reads encrypted language and form files: an RC4-encrypted UTF-8 text followed by the MD5 digest
 // of the encrypted bytes. Any thread.
 class WEXA_API Encrypter {
@@ -21,6 +25,12 @@ class WEXA_API Encrypter {
 
  private:
   friend struct EncrypterAccess;
+  friend class Wexa::Translator;
+
+  // The bytes of the decrypted text, UTF-8 or not; empty as above.
+  static std::string ReadAndDecryptBytes(const std::wstring& path);
+  // Decrypts in place; the digest is that of the encrypted bytes.
+  static void DecryptAndDigest(unsigned char* data, unsigned int length, unsigned char digest[16]);
 
   static void MD5Start(MD5Context* context);
   static void MD5Update(MD5Context* context, const unsigned char* input, unsigned int length);

@@ -1,72 +1,14 @@
 #include <algorithm>
-#include <array>
-#include <bit>
-#include <utility>
 
 #include "Encrypter.h"
+#include "Md5Block.h"
 
-// MD5, RFC 1321.
+using Wexa::md5::kBlockLength;
+using Wexa::md5::Word;
 
 namespace {
 
-using Word = std::uint32_t;
-
-constexpr unsigned kBlockLength = 64;
 constexpr unsigned kLengthOffset = 56;  // of the message's length in the last block
-
-// floor(2^32 * abs(sin(i + 1)))
-constexpr std::array<Word, 64> kSines = {
-    0xd76aa478, 0xe8c7b756, 0x242070db, 0xc1bdceee, 0xf57c0faf, 0x4787c62a, 0xa8304613, 0xfd469501,
-    0x698098d8, 0x8b44f7af, 0xffff5bb1, 0x895cd7be, 0x6b901122, 0xfd987193, 0xa679438e, 0x49b40821,
-    0xf61e2562, 0xc040b340, 0x265e5a51, 0xe9b6c7aa, 0xd62f105d, 0x02441453, 0xd8a1e681, 0xe7d3fbc8,
-    0x21e1cde6, 0xc33707d6, 0xf4d50d87, 0x455a14ed, 0xa9e3e905, 0xfcefa3f8, 0x676f02d9, 0x8d2a4c8a,
-    0xfffa3942, 0x8771f681, 0x6d9d6122, 0xfde5380c, 0xa4beea44, 0x4bdecfa9, 0xf6bb4b60, 0xbebfbc70,
-    0x289b7ec6, 0xeaa127fa, 0xd4ef3085, 0x04881d05, 0xd9d4d039, 0xe6db99e5, 0x1fa27cf8, 0xc4ac5665,
-    0xf4292244, 0x432aff97, 0xab9423a7, 0xfc93a039, 0x655b59c3, 0x8f0ccc92, 0xffeff47d, 0x85845dd1,
-    0x6fa87e4f, 0xfe2ce6e0, 0xa3014314, 0x4e0811a1, 0xf7537e82, 0xbd3af235, 0x2ad7d2bb, 0xeb86d391};
-
-// One of the four rounds: how far its steps rotate, and which input word step i takes.
-struct Round {
-  int shifts[4];
-  unsigned factor;
-  unsigned offset;
-};
-
-constexpr Round kRounds[4] = {{{7, 12, 17, 22}, 1, 0},
-                              {{5, 9, 14, 20}, 5, 1},
-                              {{4, 11, 16, 23}, 3, 5},
-                              {{6, 10, 15, 21}, 7, 0}};
-
-// A step adds the parts of its mixed word one by one: what the last step changed, b, comes in as
-// late as can be, so that the processor need not wait for it.
-template <unsigned kRound>
-constexpr Word AddMixed(Word sum, Word b, Word c, Word d) {
-  if constexpr (kRound == 0) return sum + (d ^ (b & (c ^ d)));
-  if constexpr (kRound == 1) return sum + (~d & c) + (d & b);
-  if constexpr (kRound == 2) return sum + (b ^ (c ^ d));
-  return sum + (c ^ (b | ~d));
-}
-
-// The four words change their places from step to step.
-template <unsigned kStep>
-void DoStep(Word (&state)[4], const Word (&words)[16]) {
-  constexpr Round round = kRounds[kStep / 16];
-  Word& a = state[(64 - kStep) % 4];
-  const Word b = state[(65 - kStep) % 4];
-  const Word sum = a + kSines[kStep] + words[(round.factor * kStep + round.offset) % 16];
-  const Word mixed = AddMixed<kStep / 16>(sum, b, state[(66 - kStep) % 4], state[(67 - kStep) % 4]);
-  a = b + std::rotl(mixed, round.shifts[kStep % 4]);
-}
-
-template <unsigned... kSteps>
-void DoSteps(Word (&state)[4], const Word (&words)[16],
-             std::integer_sequence<unsigned, kSteps...>) {
-  (DoStep<kSteps>(state, words), ...);
-}
-
-Word ReadWord(const unsigned char* bytes) {
-  return Word{bytes[0]} | Word{bytes[1]} << 8 | Word{bytes[2]} << 16 | Word{bytes[3]} << 24;
-}
 
 void WriteWord(Word word, unsigned char* bytes) {
   for (int i = 0; i < 4; ++i) bytes[i] = static_cast<unsigned char>(word >> (8 * i));
@@ -99,12 +41,7 @@ void Encrypter::MD5Update(MD5Context* context, const unsigned char* input, unsig
 }
 
 void Encrypter::MD5Process(MD5Context* context, const unsigned char block[64]) {
-  Word words[16];
-  for (int i = 0; i < 16; ++i) words[i] = ReadWord(block + 4 * i);
-  Word state[4];
-  std::copy_n(context->state, 4, state);
-  DoSteps(state, words, std::make_integer_sequence<unsigned, 64>());
-  for (int i = 0; i < 4; ++i) context->state[i] += state[i];
+  Wexa::md5::AddBlock(context->state, block, [](unsigned) {});
 }
 
 void Encrypter::MD5Finish(MD5Context* context, unsigned char digest[16]) {

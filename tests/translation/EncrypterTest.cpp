@@ -70,6 +70,29 @@ TEST(Encrypter, ReadsBackWhatWasPacked) {
   EXPECT_EQ(Read(EncrypterAccess::Pack("x")), L"x");
 }
 
+// Made by a script with other implementations of both algorithms.
+TEST(Encrypter, ReadsAFileOfAnotherTool) {
+  constexpr std::string_view kFile =
+      "47e6d8fa701b7410141d3b9e10202708a5c99cdfb3858580381d8ff3ffc95d03008d84d1a3b0e05729ee0535"
+      "64d57b71b6bd1da042f2c98ad552b133ed2e14d8b3012d1b022bbc0a85b68c41966ad3486c6c8b1c249d7aed"
+      "2db0b2de8f54a7e593f8ee3aa2e134eb1306b86620f2";
+  std::vector<unsigned char> bytes;
+  for (std::size_t i = 0; i < kFile.size(); i += 2) {
+    const std::string byte(kFile.substr(i, 2));
+    bytes.push_back(static_cast<unsigned char>(std::stoi(byte, nullptr, 16)));
+  }
+  EXPECT_EQ(Read(bytes),
+            L"<string>Größe und Länge: мир, 日本, 🌼; longer than one block of the digest</string>");
+}
+
+// Around the ends of blocks, where the payload is decrypted in other ways.
+TEST(Encrypter, ReadsBackTextsOfAnyLength) {
+  for (std::size_t length = 1; length < 200; ++length) {
+    const std::string text(length, static_cast<char>('a' + length % 26));
+    EXPECT_EQ(Read(EncrypterAccess::Pack(text)), WidenUtf8(text));
+  }
+}
+
 TEST(Encrypter, AnyChangedByteGivesNothing) {
   const auto packed = EncrypterAccess::Pack("text");
   for (std::size_t n = 0; n < packed.size(); ++n) {
