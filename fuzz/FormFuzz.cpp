@@ -10,11 +10,11 @@
 #include "form/FormText.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  auto text = Wexa::PlainFormText({reinterpret_cast<const char*>(data), size});
+  const auto text = Wexa::PlainFormText({reinterpret_cast<const char*>(data), size});
   if (!text) return 0;
   Wexa::FormModel model;
   try {
-    Wexa::FormParser().Parse(std::move(*text), model);
+    Wexa::FormParser().Parse(*text, model);
   } catch (const rapidxml::parse_error&) {
   } catch (const std::invalid_argument&) {
   } catch (const std::out_of_range&) {

@@ -9,12 +9,12 @@
 #include "translation/StringsLoader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  auto text = Wexa::WidenUtf8({reinterpret_cast<const char*>(data), size});
-  if (!text) return 0;
+  std::string text(reinterpret_cast<const char*>(data), size);
+  if (!Wexa::IsUtf8(text)) return 0;
   std::unordered_map<std::wstring, std::wstring> texts;
   Wexa::logFont font;
   try {
-    Wexa::LoadStringsText(std::move(*text), {L"de", L"en-US"}, texts, font);
+    Wexa::LoadStringsText(std::move(text), {L"de", L"en-US"}, texts, font);
   } catch (const rapidxml::parse_error&) {
   }
   return 0;

@@ -11,12 +11,12 @@
 
 namespace {
 
-Wexa::FormLines LinesWithStrings(std::wstring_view text, unsigned shift) {
+Wexa::FormLines LinesWithStrings(std::string_view text, unsigned shift) {
   Wexa::FormLines lines;
   unsigned number = 1;
   for (std::size_t at = 0; at < text.size(); ++number) {
-    const auto end = std::min(text.find(L'\n', at), text.size());
-    if (text.substr(at, end - at).find(L"<string") != text.npos) lines[number + shift] = L"t";
+    const auto end = std::min(text.find('\n', at), text.size());
+    if (text.substr(at, end - at).find("<string") != text.npos) lines[number + shift] = L"t";
     at = end + 1;
   }
   return lines;
@@ -25,11 +25,12 @@ Wexa::FormLines LinesWithStrings(std::wstring_view text, unsigned shift) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const auto text = Wexa::WidenUtf8({reinterpret_cast<const char*>(data), size});
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const auto text = Wexa::WidenUtf8(bytes);
   if (!text) return 0;
   for (unsigned shift : {0u, 1u, 2u}) {
-    const auto lines = LinesWithStrings(*text, shift);
-    Wexa::TranslateForm(*text, lines);
+    const auto lines = LinesWithStrings(bytes, shift);
+    Wexa::TranslateForm(bytes, lines);
     const auto inPlace = Wexa::TranslateFormInPlace(*text, lines);
     if (std::ranges::count(inPlace, L'\n') != std::ranges::count(*text, L'\n')) std::abort();
   }

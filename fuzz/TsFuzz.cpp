@@ -10,12 +10,12 @@
 #include "translation/TsLoader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const auto text = Wexa::WidenUtf8({reinterpret_cast<const char*>(data), size});
-  if (!text) return 0;
+  const std::string text(reinterpret_cast<const char*>(data), size);
+  if (!Wexa::IsUtf8(text)) return 0;
   for (const auto* language : {L"de", L"ar", L"pt_BR", L"ja"}) {
-    Wexa::TsLines lines;
+    Wexa::TsPlaces places;
     try {
-      if (const auto unit = Wexa::LoadTsText(*text, language, lines)) {
+      if (const auto unit = Wexa::LoadTsText(text, language, places)) {
         TSTranslationUnit all;
         all.AppendTsTranslationUnit(*unit);
       }

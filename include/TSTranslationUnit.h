@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 #include "WexaExport.h"
 
@@ -11,6 +12,9 @@
 class WEXA_API TSTranslationUnit {
  public:
   using MessageMap = std::unordered_map<std::wstring, std::map<unsigned int, std::wstring>>;
+
+  TSTranslationUnit() = default;
+  explicit TSTranslationUnit(MessageMap messages) : messages_(std::move(messages)) {}
 
   // The first translation of a line stays; later ones are dropped.
   void AddMessageFromTS(std::wstring fileName, int line, std::wstring translation);

@@ -61,7 +61,9 @@ class WEXA_API Translator {
   void ReadStrings(const std::wstring& path, Texts& texts);
   void MergeFormTranslations(const std::wstring& name);
   void ReadFormTranslations(const std::wstring& path);
-  std::wstring ReadOrDiagnose(const std::wstring& path);
+  static std::string ReadLanguageFile(const std::wstring& path);
+  std::string ReadOrDiagnose(const std::wstring& path);
+  void DiagnoseAt(const std::wstring& path, std::size_t offset, std::wstring reason);
   void Diagnose(const std::wstring& path, int line, std::wstring reason);
 
   StringsTable currentStrings_;

@@ -3,6 +3,8 @@
 #include <utf8.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace Wexa {
 
@@ -10,38 +12,62 @@ namespace {
 
 constexpr std::size_t kBlock = 16;
 
-// Without branches, so that the compiler can look at all bytes at once.
-bool IsAscii(const char* block) {
-  unsigned char all = 0;
-  for (std::size_t i = 0; i < kBlock; ++i) all |= static_cast<unsigned char>(block[i]);
-  return all < 0x80;
+// Throws utf8::exception where no character starts.
+char32_t ReadCharacter(const char*& from, const char* end) {
+  const auto byte = static_cast<unsigned char>(*from);
+  return byte < 0x80 ? (++from, byte) : utf8::next(from, end);
 }
 
-// Widens blocks of plain ASCII, up to the first other one.
-void WidenAscii(const char*& from, const char* end, wchar_t*& to) {
-  while (static_cast<std::size_t>(end - from) >= kBlock && IsAscii(from)) {
-    for (std::size_t i = 0; i < kBlock; ++i) to[i] = static_cast<wchar_t>(from[i]);
-    from += kBlock;
-    to += kBlock;
+bool IsAscii(const char* block) {
+  std::uint64_t words[kBlock / sizeof(std::uint64_t)];
+  std::memcpy(words, block, kBlock);
+  return ((words[0] | words[1]) & 0x8080808080808080) == 0;
+}
+
+// Reads the bytes: whole blocks of plain ASCII, and what is between them character by character.
+// Throws utf8::exception where they are not well-formed.
+template <typename TakeBlock, typename TakeCharacter>
+void Decode(std::string_view bytes, TakeBlock takeBlock, TakeCharacter takeCharacter) {
+  const char* from = bytes.data();
+  const char* const end = from + bytes.size();
+  while (from < end) {
+    const auto left = static_cast<std::size_t>(end - from);
+    if (left >= kBlock && IsAscii(from)) {
+      takeBlock(from);
+      from += kBlock;
+    } else {
+      const char* const blockEnd = from + std::min(kBlock, left);
+      while (from < blockEnd) takeCharacter(ReadCharacter(from, end));
+    }
   }
 }
 
 }  // namespace
 
+wchar_t* WidenUtf8(std::string_view bytes, wchar_t* to) {
+  const auto takeBlock = [&to](const char* block) {
+    for (std::size_t i = 0; i < kBlock; ++i) to[i] = static_cast<wchar_t>(block[i]);
+    to += kBlock;
+  };
+  Decode(bytes, takeBlock, [&to](auto character) { *to++ = static_cast<wchar_t>(character); });
+  return to;
+}
+
 std::optional<std::wstring> WidenUtf8(std::string_view bytes) try {
   std::wstring text(bytes.size(), L'\0');
-  const char* from = bytes.data();
-  const char* const end = from + bytes.size();
-  wchar_t* to = text.data();
-  while (from < end) {
-    WidenAscii(from, end, to);
-    const char* const blockEnd = from + std::min(kBlock, static_cast<std::size_t>(end - from));
-    while (from < blockEnd) *to++ = static_cast<wchar_t>(utf8::next(from, end));
-  }
-  text.resize(static_cast<std::size_t>(to - text.data()));
+  const wchar_t* const end = WidenUtf8(bytes, text.data());
+  text.resize(static_cast<std::size_t>(end - text.data()));
   return text;
 } catch (const utf8::exception&) {
   return std::nullopt;
+}
+
+bool IsUtf8(std::string_view bytes) try {
+  Decode(
+      bytes, [](const char*) {}, [](auto) {});
+  return true;
+} catch (const utf8::exception&) {
+  return false;
 }
 
 std::string NarrowUtf8(std::wstring_view text) {

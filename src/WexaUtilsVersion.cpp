@@ -5,30 +5,29 @@
 
 // Version description files.
 
-using Wexa::XmlNode;
+using Wexa::Utf8XmlNode;
 
 namespace {
 
-std::wstring ReadWide(const std::wstring& path) {
-  const auto bytes = Wexa::ReadFile(path);
-  auto text = bytes ? Wexa::WidenUtf8(*bytes) : std::nullopt;
-  if (!text) throw Wexa::XmlParseError("error reading stream", 0);
-  return std::move(*text);
+std::string ReadText(const std::wstring& path) {
+  auto bytes = Wexa::ReadFile(path);
+  if (!bytes || !Wexa::IsUtf8(*bytes)) throw Wexa::XmlParseError("error reading stream", 0);
+  return std::move(*bytes);
 }
 
-std::wstring TextOfChild(const XmlNode& parent, const wchar_t* name) {
-  const XmlNode* child = parent.first_node(name);
-  return child ? Wexa::TextOf(*child) : std::wstring();
+std::wstring TextOfChild(const Utf8XmlNode& parent, const char* name) {
+  const Utf8XmlNode* child = parent.first_node(name);
+  return child ? *Wexa::WidenUtf8(Wexa::TextOf(*child)) : std::wstring();
 }
 
-std::map<std::wstring, std::wstring> NamedValues(const XmlNode& root, const wchar_t* part) {
+std::map<std::wstring, std::wstring> NamedValues(const Utf8XmlNode& root, const char* part) {
   std::map<std::wstring, std::wstring> values;
-  const XmlNode* parent = root.first_node(part);
+  const Utf8XmlNode* parent = root.first_node(part);
   for (auto* entry = parent ? parent->first_node() : nullptr; entry;
        entry = entry->next_sibling()) {
-    const auto name = Wexa::AttributeOf(*entry, L"name");
-    const auto value = Wexa::AttributeOf(*entry, L"value");
-    if (name && value) values.insert_or_assign(std::wstring(*name), std::wstring(*value));
+    const auto name = Wexa::AttributeOf(*entry, "name");
+    const auto value = Wexa::AttributeOf(*entry, "value");
+    if (name && value) values.insert_or_assign(*Wexa::WidenUtf8(*name), *Wexa::WidenUtf8(*value));
   }
   return values;
 }
@@ -37,12 +36,12 @@ std::map<std::wstring, std::wstring> NamedValues(const XmlNode& root, const wcha
 
 bool WexaUtils::GetPluginVersionInfo(std::wstring path, PluginVersionInfo& info) {
   info = {};
-  const Wexa::XmlDocument document(ReadWide(path));
-  const XmlNode* root = document.First(L"Ostrel");
+  const Wexa::Utf8XmlDocument document(ReadText(path));
+  const Utf8XmlNode* root = document.First("Ostrel");
   if (!root) return false;
-  info.language = TextOfChild(*root, L"language");
-  info.version = TextOfChild(*root, root->first_node(L"version") ? L"version" : L"Version");
-  info.description = NamedValues(*root, L"VerDes");
-  info.legal = NamedValues(*root, L"VerLeg");
+  info.language = TextOfChild(*root, "language");
+  info.version = TextOfChild(*root, root->first_node("version") ? "version" : "Version");
+  info.description = NamedValues(*root, "VerDes");
+  info.legal = NamedValues(*root, "VerLeg");
   return true;
 }

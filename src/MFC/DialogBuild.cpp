@@ -33,11 +33,11 @@ std::wstring ReadForm(const std::wstring& path) {
   return plain ? Translator::GetInstance().TranslateUIText(path, *plain) : std::wstring();
 }
 
-void ParseForm(std::wstring text, FormModel& model) {
+void ParseForm(const std::wstring& text, FormModel& model) {
   FormParser parser;
   bool parsed = false;
   try {
-    parsed = parser.Parse(std::move(text), model);
+    parsed = parser.Parse(text, model);
   } catch (const std::runtime_error&) {
     parsed = false;
   }
@@ -49,13 +49,13 @@ void ParseForm(std::wstring text, FormModel& model) {
 
 void Dialog::impl::Build(const std::wstring& uiFile) {
   auto start = std::chrono::steady_clock::now();
-  std::wstring form = ReadForm(uiFile);
+  const std::wstring form = ReadForm(uiFile);
   statistics.readMilliseconds = MillisecondsSince(start);
   if (form.empty()) Fail(__LINE__, "Could not load and parse UI file");
 
   start = std::chrono::steady_clock::now();
   FormModel model;
-  ParseForm(std::move(form), model);
+  ParseForm(form, model);
   statistics.parseMilliseconds = MillisecondsSince(start);
 
   start = std::chrono::steady_clock::now();

@@ -1,7 +1,6 @@
 #include "form/FormParser.h"
 
 #include <stdexcept>
-#include <utility>
 
 #include "XmlDocument.h"
 #include "form/FormTree.h"
@@ -35,18 +34,20 @@ FormModel::BaseClasses ReadCustomClasses(const XmlNode& ui) {
 
 }  // namespace
 
-bool FormParser::Parse(std::wstring text, FormModel& model) {
+bool FormParser::Parse(const std::wstring& text, FormModel& model) {
   errorText_.clear();
   model = {};
   try {
-    return ReadForm(std::move(text), model);
+    return ReadForm(text, model);
+  } catch (const XmlParseError& error) {
+    throw FormParseError(error.what(), LineAt(text, error.Offset()));
   } catch (const std::runtime_error& error) {
     return Fail(error.what());
   }
 }
 
-bool FormParser::ReadForm(std::wstring text, FormModel& model) {
-  const XmlDocument document(std::move(text));
+bool FormParser::ReadForm(const std::wstring& text, FormModel& model) {
+  const XmlDocument document(text);
   const auto* ui = document.First(L"ui");
   if (ui == nullptr) return Fail("No UI node has been found.");
   const auto* root = ui->first_node(L"widget");

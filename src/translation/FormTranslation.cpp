@@ -4,39 +4,47 @@
 #include <optional>
 #include <string_view>
 
+#include "Utf8.h"
+
 namespace Wexa {
 
 namespace {
 
-constexpr std::wstring_view kStartTag = L"<string";
-constexpr std::wstring_view kEndTag = L"</string";
+constexpr std::string_view kStartTag = "<string";
+constexpr std::string_view kEndTag = "</string";
+constexpr std::wstring_view kWideStartTag = L"<string";
+constexpr std::wstring_view kWideEndTag = L"</string";
+constexpr std::wstring_view kElement = L"<string></string>";
 constexpr auto kEnd = std::wstring_view::npos;
 
 // The lines of a text, one after the other.
+template <typename Char>
 class LineReader {
  public:
-  explicit LineReader(std::wstring_view text) : text_(text) {}
+  using View = std::basic_string_view<Char>;
+
+  explicit LineReader(View text) : text_(text) {}
 
   bool Next() {
     if (next_ >= text_.size()) return false;
-    const auto end = std::min(text_.find(L'\n', next_), text_.size());
+    const auto end = std::min(text_.find(Char('\n'), next_), text_.size());
     line_ = text_.substr(next_, end - next_);
     next_ = end + 1;
     ++number_;
     return true;
   }
-  // Goes on to the line on which a string element ends, or to the last one.
-  void SkipString() {
-    while (!Has(kEndTag) && Next()) continue;
+  // Goes on to the line that holds the tag, or to the last one.
+  void SkipTo(View tag) {
+    while (!Has(tag) && Next()) continue;
   }
-  bool Has(std::wstring_view tag) const { return line_.find(tag) != kEnd; }
-  std::wstring_view Line() const { return line_; }
+  bool Has(View tag) const { return line_.find(tag) != View::npos; }
+  View Line() const { return line_; }
   unsigned int Number() const { return number_; }
 
  private:
-  std::wstring_view text_;
+  View text_;
   std::size_t next_ = 0;
-  std::wstring_view line_;
+  View line_;
   unsigned int number_ = 0;
 };
 
@@ -48,15 +56,15 @@ struct Span {
 
 // The first string element that starts on `line`, a part of `text`.
 std::optional<Span> FindString(std::wstring_view text, std::wstring_view line) {
-  const auto tag = line.find(kStartTag);
+  const auto tag = line.find(kWideStartTag);
   if (tag == kEnd) return std::nullopt;
   const auto name = static_cast<std::size_t>(line.data() - text.data()) + tag + 1;
   const auto nameEnd = text.find_first_of(L" />", name);
   const auto tagEnd = text.find(L'>', name);
   const auto close = text.find(L'<', name);
   const auto end = text.find(L'>', std::min(close, text.size()));
-  const bool whole = end != kEnd && tagEnd < close && text.substr(close).starts_with(kEndTag);
-  const bool isString = text.substr(name, nameEnd - name) == kStartTag.substr(1);
+  const bool whole = end != kEnd && tagEnd < close && text.substr(close).starts_with(kWideEndTag);
+  const bool isString = text.substr(name, nameEnd - name) == kWideStartTag.substr(1);
   if (!whole || !isString || text[tagEnd - 1] == L'/') return std::nullopt;
   return Span{tagEnd + 1, end + 1};
 }
@@ -70,24 +78,33 @@ const std::wstring& TakeTranslation(Entry& entry, Entry end, unsigned int line) 
   return entry != end && entry->first == line ? (entry++)->second : translation;
 }
 
+std::size_t LongestText(std::string_view text, const FormLines& translations) {
+  std::size_t length = text.size();
+  for (const auto& [line, translation] : translations) length += translation.size();
+  return length + translations.size() * kElement.size();
+}
+
 }  // namespace
 
-std::wstring TranslateForm(const std::wstring& text, const FormLines& translations) {
-  std::wstring joined;
-  joined.reserve(text.size());
+std::wstring TranslateForm(std::string_view text, const FormLines& translations) {
+  std::wstring joined(LongestText(text, translations), L'\0');
+  wchar_t* to = joined.data();
+  const auto put = [&to](std::wstring_view part) { to = std::ranges::copy(part, to).out; };
   auto entry = translations.begin();
   const auto end = translations.end();
   for (LineReader lines(text); lines.Next();) {
     const bool due = entry != end && entry->first <= lines.Number();
     if (due && entry->first == lines.Number() && lines.Has(kStartTag)) {
-      lines.SkipString();
-      const auto& translation = TakeTranslation(entry, end, lines.Number());
-      joined.append(L"<string>").append(translation).append(L"</string>");
+      lines.SkipTo(kEndTag);
+      put(L"<string>");
+      put(TakeTranslation(entry, end, lines.Number()));
+      put(L"</string>");
     } else {
       if (due) entry = end;
-      joined += lines.Line();
+      to = WidenUtf8(lines.Line(), to);
     }
   }
+  joined.resize(static_cast<std::size_t>(to - joined.data()));
   return joined;
 }
 
@@ -95,7 +112,7 @@ std::wstring TranslateFormInPlace(const std::wstring& text, const FormLines& tra
   std::wstring translated;
   translated.reserve(text.size());
   std::size_t copied = 0;
-  LineReader lines(text);
+  LineReader lines(std::wstring_view{text});
   for (const auto& [number, translation] : translations) {
     while (lines.Number() < number && lines.Next()) continue;
     const auto string = lines.Number() == number ? FindString(text, lines.Line()) : std::nullopt;

@@ -2,15 +2,16 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace Wexa {
 
 // Translations of one form file by line, counted from 1.
 using FormLines = std::map<unsigned int, std::wstring>;
 
-// The text of a form without its line ends, and with the strings on the given lines replaced; a
-// string takes its whole lines. A line that holds no string ends the replacing.
-std::wstring TranslateForm(const std::wstring& text, const FormLines& translations);
+// The text of a form, well-formed UTF-8, without its line ends, and with the strings on the given
+// lines replaced; a string takes its whole lines. A line that holds no string ends the replacing.
+std::wstring TranslateForm(std::string_view text, const FormLines& translations);
 
 // The text of a form with the strings on the given lines replaced and everything around them as it
 // was, lines included. A line on which no string element starts ends the replacing.

@@ -13,10 +13,10 @@ struct Languages {
   std::wstring fallback;
 };
 
-// Adds the texts of a strings file, by their ids, and sets the default font where the file names
-// one. Ids that are there already keep their text. A file for another language gives nothing.
-// Throws rapidxml::parse_error for a text that is not well-formed.
-void LoadStringsText(std::wstring text, const Languages& languages,
+// Adds the texts of a strings file, well-formed UTF-8, by their ids, and sets the default font
+// where the file names one. Ids that are there already keep their text. A file for another language
+// gives nothing. Throws XmlParseError for a text that is not well-formed.
+void LoadStringsText(std::string text, const Languages& languages,
                      std::unordered_map<std::wstring, std::wstring>& texts, logFont& font);
 
 }  // namespace Wexa

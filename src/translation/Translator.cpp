@@ -89,7 +89,7 @@ void Translator::ReadStrings(const std::wstring& path, Texts& texts) try {
   LoadStringsText(ReadOrDiagnose(path), {GetCurrentLanguage(), GetDefaultLanguage()}, texts,
                   *GetFontInfo());
 } catch (const XmlParseError& error) {
-  Diagnose(path, error.Line(), Widen(error.what()));
+  DiagnoseAt(path, error.Offset(), Widen(error.what()));
 }
 
 void Translator::MergeFormTranslations(const std::wstring& name) {
@@ -98,35 +98,47 @@ void Translator::MergeFormTranslations(const std::wstring& name) {
 }
 
 void Translator::ReadFormTranslations(const std::wstring& path) {
-  TsLines lines;
+  TsPlaces places;
   try {
-    auto unit = LoadTsText(ReadOrDiagnose(path), GetCurrentLanguage(), lines);
+    auto unit = LoadTsText(ReadOrDiagnose(path), GetCurrentLanguage(), places);
     if (unit && unit_.GetMessageMap().empty()) {
       unit_ = std::move(*unit);
     } else if (unit) {
       unit_.AppendTsTranslationUnit(*unit);
     }
   } catch (const XmlParseError& error) {
-    Diagnose(path, error.Line(), Widen(error.what()));
+    DiagnoseAt(path, error.Offset(), Widen(error.what()));
   } catch (const std::logic_error&) {
-    Diagnose(path, lines.bad, L"the line of this location is no number");
+    DiagnoseAt(path, *places.bad, L"the line of this location is no number");
   }
-  if (lines.relative > 0) {
-    Diagnose(path, lines.relative,
-             L"the lines of locations are relative from here on; they must be absolute");
+  if (places.relative) {
+    DiagnoseAt(path, *places.relative,
+               L"the lines of locations are relative from here on; they must be absolute");
   }
+}
+
+// The bytes of a language file, decrypted; empty on failure.
+std::string Translator::ReadLanguageFile(const std::wstring& path) {
+  if (ExpectsEncryptedLanguageFiles()) return Encrypter::ReadAndDecryptBytes(path);
+  return ReadFile(path).value_or("");
 }
 
 // -- Diagnostics
 // -------------------------------------------------------------------------------------
 
-std::wstring Translator::ReadOrDiagnose(const std::wstring& path) {
-  std::wstring text = ReadTranslationFile(path);
-  if (text.empty() && std::filesystem::exists(NativePath(path))) {
-    const bool encrypted = ExpectsEncryptedLanguageFiles();
+std::string Translator::ReadOrDiagnose(const std::wstring& path) {
+  std::string text = ReadLanguageFile(path);
+  const bool sound = !text.empty() && IsUtf8(text);
+  if (!sound && std::filesystem::exists(NativePath(path))) {
+    const bool encrypted = text.empty() && ExpectsEncryptedLanguageFiles();
     Diagnose(path, 0, encrypted ? L"no encrypted file, or damaged" : L"empty or not UTF-8");
   }
-  return text;
+  return sound ? text : std::string();
+}
+
+// Reading a text changes it, so that its lines are counted in the file.
+void Translator::DiagnoseAt(const std::wstring& path, std::size_t offset, std::wstring reason) {
+  Diagnose(path, LineAt(ReadLanguageFile(path), offset), std::move(reason));
 }
 
 // A file that is read again is not reported again.
@@ -150,9 +162,7 @@ void Translator::ResetStringsTable() {
 }
 
 std::wstring Translator::ReadTranslationFile(const std::wstring& path) const {
-  if (ExpectsEncryptedLanguageFiles()) return Encrypter::ReadAndDecryptFile(path);
-  const auto bytes = ReadFile(path);
-  return bytes ? WidenUtf8(*bytes).value_or(L"") : L"";
+  return WidenUtf8(ReadLanguageFile(path)).value_or(L"");
 }
 
 // -- Lookup
@@ -171,7 +181,9 @@ std::wstring Translator::GetDefaultText(const std::wstring& name, const std::wst
 // -------------------------------------------------------------------------------------------
 
 std::wstring Translator::TranslateUIFile(const std::wstring& path) {
-  return TranslateForm(Encrypter::ReadAndDecryptFile(path), TranslationsOf(unit_, FormName(path)));
+  const std::string form = Encrypter::ReadAndDecryptBytes(path);
+  if (!IsUtf8(form)) return {};
+  return TranslateForm(form, TranslationsOf(unit_, FormName(path)));
 }
 
 std::wstring Translator::TranslateUIText(const std::wstring& path, const std::wstring& text) const {

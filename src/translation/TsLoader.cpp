@@ -1,9 +1,16 @@
 #include "TsLoader.h"
 
+#include <utf8.h>
+
+#include <algorithm>
+#include <charconv>
+#include <functional>
 #include <stdexcept>
 #include <utility>
 #include <vector>
 
+#include "FormTranslation.h"
+#include "Utf8.h"
 #include "XmlDocument.h"
 
 namespace Wexa {
@@ -12,95 +19,132 @@ namespace {
 
 struct Location {
   int line;
-  std::wstring_view fileName;  // in the document
+  std::string_view fileName;  // in the document
 };
 
-void Replace(std::wstring& text, wchar_t character, const wchar_t* reference) {
-  for (auto at = text.find(character); at != std::wstring::npos;
-       at = text.find(character, at + 1)) {
-    text.replace(at, 1, reference);
-  }
-}
-
-std::wstring EscapeForXml(std::wstring text) {
-  Replace(text, L'&', L"&amp;");
-  Replace(text, L'<', L"&lt;");
-  Replace(text, L'>', L"&gt;");
-  return text;
-}
-
-bool IsRelative(std::wstring_view number) {
-  return number.starts_with(L'+') || number.starts_with(L'-');
-}
-
-// Reads the messages of one TS file into a unit.
-class TsReader {
+// Makes a text as it stands in XML, again and again in the same memory.
+class XmlEscaper {
  public:
-  TsReader(const XmlDocument& document, TsLines& lines) : document_(document), lines_(lines) {}
+  void Clear() { length_ = 0; }
 
-  TSTranslationUnit Read(const XmlNode& root) {
-    for (auto* context = root.first_node(L"context"); context;
-         context = context->next_sibling(L"context")) {
-      for (auto* message = context->first_node(L"message"); message;
-           message = message->next_sibling(L"message")) {
-        ReadMessage(*message);
+  void Append(std::string_view utf8) {
+    constexpr std::size_t kLongestReference = 5;
+    characters_.resize(std::max(characters_.size(), length_ + utf8.size() * kLongestReference));
+    for (const char *at = utf8.data(), *const end = at + utf8.size(); at < end;) {
+      const auto character = utf8::unchecked::next(at);
+      switch (character) {
+        case '&': Put(L"&amp;"); break;
+        case '<': Put(L"&lt;"); break;
+        case '>': Put(L"&gt;"); break;
+        default: characters_[length_++] = static_cast<wchar_t>(character);
       }
     }
-    return std::move(unit_);
   }
+
+  std::wstring_view Text() const { return {characters_.data(), length_}; }
 
  private:
-  void ReadMessage(const XmlNode& message) {
+  void Put(std::wstring_view reference) {
+    length_ += reference.copy(&characters_[length_], reference.size());
+  }
+
+  std::vector<wchar_t> characters_;
+  std::size_t length_ = 0;
+};
+
+bool IsRelative(std::string_view number) {
+  return number.starts_with('+') || number.starts_with('-');
+}
+
+std::string_view NameOf(const Utf8XmlNode& element) {
+  return {element.name(), element.name_size()};
+}
+
+bool IsTsFor(const Utf8XmlNode* root, std::string_view language) {
+  return root && NameOf(*root) == "TS" && AttributeOf(*root, "language") == language;
+}
+
+// Reads the messages of one TS file.
+class TsReader {
+ public:
+  TsReader(std::string_view language, TsPlaces& places) : language_(language), places_(places) {}
+
+  void Take(const Utf8XmlDocument& document, const Utf8XmlNode& root, const Utf8XmlNode& parent,
+            const Utf8XmlNode& element) {
+    if (NameOf(element) != "message" || NameOf(parent) != "context") return;
+    if (&root != root_) wanted_ = IsTsFor(root_ = &root, language_);
+    if (wanted_) ReadMessage(document, element);
+  }
+  TSTranslationUnit::MessageMap TakeMessages() { return std::move(messages_); }
+
+ private:
+  void ReadMessage(const Utf8XmlDocument& document, const Utf8XmlNode& message) {
     locations_.clear();
-    std::wstring translation;
-    for (const XmlNode* part = message.first_node(); part; part = part->next_sibling()) {
-      const std::wstring_view name(part->name(), part->name_size());
-      if (name == L"location") {
-        ReadLocation(*part);
-      } else if (name == L"translation") {
-        translation = TextOf(*part);
+    translation_.Clear();
+    for (const auto* part = message.first_node(); part; part = part->next_sibling()) {
+      if (NameOf(*part) == "location") {
+        ReadLocation(document, *part);
+      } else if (NameOf(*part) == "translation") {
+        translation_.Clear();
+        VisitText(*part, [this](std::string_view text) { translation_.Append(text); });
       }
     }
-    std::wstring escaped = EscapeForXml(std::move(translation));
     for (const auto& location : locations_) {
-      const bool last = &location == &locations_.back();
-      unit_.AddMessageFromTS(std::wstring(location.fileName), location.line,
-                             last ? std::move(escaped) : escaped);
+      auto& lines = LinesOf(location.fileName);
+      lines.try_emplace(lines.end(), static_cast<unsigned int>(location.line), translation_.Text());
     }
   }
 
-  void ReadLocation(const XmlNode& element) {
-    const auto path = AttributeOf(element, L"filename");
-    const auto line = AttributeOf(element, L"line");
+  void ReadLocation(const Utf8XmlDocument& document, const Utf8XmlNode& element) {
+    const auto path = AttributeOf(element, "filename");
+    const auto line = AttributeOf(element, "line");
     if (!path || !line) return;
-    locations_.push_back({ReadLine(element, *line), path->substr(path->rfind(L'/') + 1)});
+    const int number = ReadLine(*line, document.OffsetOf(element));
+    locations_.push_back({number, path->substr(path->rfind('/') + 1)});
   }
 
-  int ReadLine(const XmlNode& element, std::wstring_view number) {
-    if (lines_.relative == 0 && IsRelative(number)) lines_.relative = document_.LineOf(element);
+  int ReadLine(std::string_view number, std::size_t place) {
+    int line = 0;
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), line);
+    if (result.ec == std::errc() && line >= 0) return line;
+    if (!places_.relative && IsRelative(number)) places_.relative = place;
     try {
-      return std::stoi(number_.assign(number));
+      return std::stoi(std::string(number));
     } catch (const std::logic_error&) {
-      lines_.bad = document_.LineOf(element);
+      places_.bad = place;
       throw;
     }
   }
 
-  const XmlDocument& document_;
-  TsLines& lines_;
-  std::vector<Location> locations_;  // of the message being read
-  std::wstring number_;              // kept for its memory
-  TSTranslationUnit unit_;
+  // Most locations name the file of the one before, and its lines in order.
+  FormLines& LinesOf(std::string_view fileName) {
+    if (lines_ == nullptr || fileName != fileName_) {
+      lines_ = &messages_[*WidenUtf8(fileName)];
+      fileName_ = fileName;
+    }
+    return *lines_;
+  }
+
+  std::string_view language_;
+  TsPlaces& places_;
+  const Utf8XmlNode* root_ = nullptr;  // the last one seen
+  bool wanted_ = false;                // its messages
+  std::vector<Location> locations_;    // of the message being read
+  XmlEscaper translation_;             // of that message
+  std::string_view fileName_;          // of the lines
+  FormLines* lines_ = nullptr;
+  TSTranslationUnit::MessageMap messages_;
 };
 
 }  // namespace
 
-std::optional<TSTranslationUnit> LoadTsText(std::wstring text, const std::wstring& language,
-                                            TsLines& lines) {
-  const XmlDocument document(std::move(text));
-  const XmlNode* root = document.First(L"TS");
-  if (root == nullptr || AttributeOf(*root, L"language") != language) return std::nullopt;
-  return TsReader(document, lines).Read(*root);
+std::optional<TSTranslationUnit> LoadTsText(std::string text, const std::wstring& language,
+                                            TsPlaces& places) {
+  const std::string code = NarrowUtf8(language);
+  TsReader reader(code, places);
+  const Utf8XmlDocument document(std::move(text), std::bind_front(&TsReader::Take, &reader));
+  if (!IsTsFor(document.First("TS"), code)) return std::nullopt;
+  return TSTranslationUnit(reader.TakeMessages());
 }
 
 }  // namespace Wexa

@@ -7,16 +7,16 @@
 
 namespace Wexa {
 
-// Lines of a TS file, counted from 1, whose numbers are not as they should be; 0 for none.
-struct TsLines {
-  int bad = 0;       // the number that cannot be read
-  int relative = 0;  // the first one with a sign
+// Places in a TS file whose line numbers are not as they should be, as offsets.
+struct TsPlaces {
+  std::optional<std::size_t> bad;       // the number that cannot be read
+  std::optional<std::size_t> relative;  // the first one with a sign
 };
 
-// The messages of a TS file for `language`; nothing when the text is for another one, or no TS
-// file. Throws XmlParseError for a text that is not well-formed, and as std::stoi does for a line
-// number that is none. `lines` is filled in any case.
-std::optional<TSTranslationUnit> LoadTsText(std::wstring text, const std::wstring& language,
-                                            TsLines& lines);
+// The messages of a TS file, well-formed UTF-8, for `language`; nothing when the text is for
+// another one, or no TS file. Throws XmlParseError for a text that is not well-formed, and as
+// std::stoi does for a line number that is none. `places` is filled in any case.
+std::optional<TSTranslationUnit> LoadTsText(std::string text, const std::wstring& language,
+                                            TsPlaces& places);
 
 }  // namespace Wexa

@@ -13,12 +13,11 @@ namespace {
 
 enum class Outcome { Tree, NoTree, Error, Exception };
 
-Outcome ParseDamaged(std::wstring text) {
+Outcome ParseDamaged(const std::wstring& text) {
   FormModel model;
   FormParser parser;
   try {
-    if (parser.Parse(std::move(text), model))
-      return model.root != nullptr ? Outcome::Tree : Outcome::NoTree;
+    if (parser.Parse(text, model)) return model.root != nullptr ? Outcome::Tree : Outcome::NoTree;
     EXPECT_EQ(model.root, nullptr);
     EXPECT_FALSE(parser.ErrorText().empty());
     return Outcome::Error;

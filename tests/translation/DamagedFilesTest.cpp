@@ -7,6 +7,8 @@
 
 #include "RealFiles.h"
 #include "Utf8.h"
+#include "WexaUtils.h"
+#include "translation/EncrypterAccess.h"
 #include "translation/FormTranslation.h"
 #include "translation/StringsLoader.h"
 #include "translation/TsLoader.h"
@@ -63,8 +65,8 @@ void ReadDamagedCopies(const std::string& extension, Read read) {
 TEST(DamagedFiles, GiveTranslationsOrAnAnnouncedException) {
   for (const auto* language : {L"de", L"ar", L"pt_BR", L"ja"}) {
     ReadDamagedCopies(".ts", [&](const std::string& bytes) {
-      TsLines lines;
-      if (auto text = WidenUtf8(bytes)) LoadTsText(std::move(*text), language, lines);
+      TsPlaces places;
+      if (IsUtf8(bytes)) LoadTsText(bytes, language, places);
     });
   }
 }
@@ -73,8 +75,7 @@ TEST(DamagedFiles, GiveTextsOrAnAnnouncedException) {
   ReadDamagedCopies(".ts", [](const std::string& bytes) {
     std::unordered_map<std::wstring, std::wstring> texts;
     logFont font;
-    auto text = WidenUtf8(bytes);
-    if (text) LoadStringsText(std::move(*text), {L"de", L"ja"}, texts, font);
+    if (IsUtf8(bytes)) LoadStringsText(bytes, {L"de", L"ja"}, texts, font);
   });
 }
 
@@ -84,11 +85,48 @@ TEST(DamagedFiles, AreTranslatedByAnyLines) {
     FormLines lines;
     for (unsigned n = 1; text && n < 2000; n += static_cast<unsigned>(bytes.size()) % 5 + 1) {
       lines[n] = L"t";
-      TranslateForm(*text, lines);
+      TranslateForm(bytes, lines);
       TranslateFormInPlace(*text, lines);
       if (lines.size() > 40) break;
     }
   });
+}
+
+class DamagedFilesOnDisk : public testing::Test {
+ protected:
+  ~DamagedFilesOnDisk() override { std::filesystem::remove(path_); }
+  std::wstring Write(const std::string& bytes) {
+    std::ofstream(path_, std::ios::binary) << bytes;
+    return *WidenUtf8(path_);
+  }
+
+ private:
+  std::string path_ = testing::TempDir() + "/damaged_file";
+};
+
+TEST_F(DamagedFilesOnDisk, AreNotTakenForEncryptedOnes) {
+  Damage damage;
+  for (const auto& form : RealFiles(".ui")) {
+    const auto packed = EncrypterAccess::Pack(form.bytes);
+    const std::string damaged = damage.Of({packed.begin(), packed.end()});
+    EXPECT_EQ(Encrypter::ReadAndDecryptFile(Write(damaged)), L"") << form.path;
+  }
+}
+
+TEST_F(DamagedFilesOnDisk, DescribeAVersionOrAreRefused) {
+  const std::string sound =
+      "<?xml version='1.0'?><Ostrel><language>de</language><version>1.2</version><VerDes><e "
+      "name='a' value='b &amp; &#1084;'/><e name='c'/></VerDes><VerLeg><x name='n' value='v'/>"
+      "<!-- c --><![CDATA[d]]></VerLeg></Ostrel>";
+  Damage damage;
+  for (int n = 0; n < 500; ++n) {
+    const auto path = Write(damage.Of(sound));
+    PluginVersionInfo info;
+    try {
+      WexaUtils::GetPluginVersionInfo(path, info);
+    } catch (const rapidxml::parse_error&) {
+    }
+  }
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include "Utf8.h"
+#include "XmlDocument.h"
 #include "translation/FormTranslation.h"
 #include "translation/StringsLoader.h"
 #include "translation/TsLoader.h"
@@ -23,8 +25,8 @@ std::wstring Ts(const std::wstring& messages) {
 }
 
 std::optional<TSTranslationUnit> Load(const std::wstring& text) {
-  TsLines lines;
-  return LoadTsText(text, L"de-DE", lines);
+  TsPlaces places;
+  return LoadTsText(NarrowUtf8(text), L"de-DE", places);
 }
 
 TSTranslationUnit::MessageMap Messages(const std::wstring& messages) {
@@ -82,22 +84,46 @@ TEST(TsLoader, BadLinesAndBadXmlThrow) {
 }
 
 TEST(TsLoader, TellsWhereNumbersAreRelativeOrNone) {
-  TsLines lines;
-  const auto read = [&lines](const std::wstring& line) {
-    lines = {};
-    return LoadTsText(
-        L"<TS language='de'>\n<context><message>\n<location filename='a.ui' line='1'/>\n"
-        L"<location filename='a.ui' line='" +
-            line + L"'/></message></context></TS>",
-        L"de", lines);
+  TsPlaces places;
+  std::string text;
+  const auto read = [&](const std::string& line) {
+    places = {};
+    text =
+        "<TS language='de'>\n<context><message>\n<location filename='a.ui' line='1'/>\n"
+        "<location filename='a.ui' line='" +
+        line + "'/></message></context></TS>";
+    return LoadTsText(text, L"de", places);
   };
-  EXPECT_EQ(read(L"+12")->GetMessageMap().at(L"a.ui").count(12), 1u);
-  EXPECT_EQ(lines.relative, 4);
-  EXPECT_EQ(lines.bad, 0);
-  EXPECT_THROW(read(L""), std::invalid_argument);
-  EXPECT_EQ(lines.bad, 4);
-  read(L"12");
-  EXPECT_EQ(lines.relative + lines.bad, 0);
+  const auto lineAt = [&](std::size_t offset) { return LineAt(text, offset); };
+  EXPECT_EQ(read("+12")->GetMessageMap().at(L"a.ui").count(12), 1u);
+  EXPECT_EQ(lineAt(places.relative.value()), 4);
+  EXPECT_FALSE(places.bad);
+  EXPECT_THROW(read(""), std::invalid_argument);
+  EXPECT_EQ(lineAt(places.bad.value()), 4);
+  EXPECT_EQ(read(" 12 ")->GetMessageMap().at(L"a.ui").count(12), 1u);
+  EXPECT_FALSE(places.relative || places.bad);
+}
+
+TEST(TsLoader, OnlyMessagesOfContextsCount) {
+  const std::wstring message =
+      L"<message><location filename='a.ui' line='1'/><translation>t</translation></message>";
+  EXPECT_EQ(Messages(message).size(), 1u);
+  EXPECT_THAT(Messages(L"<group>" + message + L"</group></context>" + message + L"<context>"),
+              IsEmpty());
+  EXPECT_THAT(Messages(L"</context><other>" + message + L"</other><context>"), IsEmpty());
+}
+
+// Longer than what the parser keeps ready for one message.
+TEST(TsLoader, ALongMessageIsReadAsAnyOther) {
+  std::wstring locations;
+  for (int line = 1; line <= 2000; ++line)
+    locations += L"<location filename='a.ui' line='" + std::to_wstring(line) + L"'/>";
+  const auto messages =
+      Messages(L"<message>" + locations +
+               L"<translation>t</translation></message><message><location "
+               L"filename='b.ui' line='1'/><translation>u</translation></message>");
+  EXPECT_EQ(messages.at(L"a.ui").size(), 2000u);
+  EXPECT_THAT(messages.at(L"b.ui"), ElementsAre(Pair(1, L"u")));
 }
 
 TEST(TSTranslationUnit, AppendingKeepsWhatIsThere) {
@@ -123,7 +149,7 @@ struct Loaded {
 
 Loaded LoadStrings(const std::wstring& text) {
   Loaded loaded;
-  LoadStringsText(text, {L"de-DE", L"en-US"}, loaded.texts, loaded.font);
+  LoadStringsText(NarrowUtf8(text), {L"de-DE", L"en-US"}, loaded.texts, loaded.font);
   return loaded;
 }
 
@@ -159,21 +185,21 @@ TEST(StringsLoader, SetsTheFontTheFileNames) {
 // -------------------------------------------------------------------------------------------
 
 TEST(FormTranslation, ReplacesTheWholeLine) {
-  EXPECT_EQ(TranslateForm(L"<ui>\n  <string>old</string>  \n</ui>\n", {{2, L"a &amp; b"}}),
+  EXPECT_EQ(TranslateForm("<ui>\n  <string>old</string>  \n</ui>\n", {{2, L"a &amp; b"}}),
             L"<ui><string>a &amp; b</string></ui>");
 }
 
 TEST(FormTranslation, EmptiesTheLinesOfALongString) {
-  EXPECT_EQ(TranslateForm(L"a\n<string>1\n2\n3</string> x\nb", {{2, L"t"}}),
+  EXPECT_EQ(TranslateForm("a\n<string>1\n2\n3</string> x\nb", {{2, L"t"}}),
             L"a<string>t</string>b");
 }
 
 TEST(FormTranslation, AStringWithoutEndTakesTheLastLine) {
-  EXPECT_EQ(TranslateForm(L"a\n<string>1\n2\n3", {{2, L"t"}}), L"a<string>t</string>");
+  EXPECT_EQ(TranslateForm("a\n<string>1\n2\n3", {{2, L"t"}}), L"a<string>t</string>");
 }
 
 TEST(FormTranslation, ALineWithoutAStringEndsTheReplacing) {
-  const std::wstring form = L"<string>1</string>\nno string\n<string>3</string>\nshort";
+  const std::string form = "<string>1</string>\nno string\n<string>3</string>\nshort";
   EXPECT_EQ(TranslateForm(form, {{1, L"t"}, {2, L"u"}, {3, L"v"}}),
             L"<string>t</string>no string<string>3</string>short");
   EXPECT_EQ(TranslateForm(form, {{4, L"u"}}), TranslateForm(form, {}));
@@ -182,7 +208,7 @@ TEST(FormTranslation, ALineWithoutAStringEndsTheReplacing) {
 }
 
 TEST(FormTranslation, TheLastLineOfALongStringMayHaveATranslationOfItsOwn) {
-  const std::wstring form = L"<string>1\n2</string>\n<string>3</string>";
+  const std::string form = "<string>1\n2</string>\n<string>3</string>";
   EXPECT_EQ(TranslateForm(form, {{1, L"t"}, {2, L"u"}, {3, L"v"}}),
             L"<string>u</string><string>v</string>");
 }
@@ -211,7 +237,7 @@ TEST(FormTranslation, InPlaceEndsWhereNoStringElementStarts) {
 }
 
 TEST(FormTranslation, AnEmptyTextStaysEmpty) {
-  EXPECT_EQ(TranslateForm(L"", {{1, L"t"}}), L"");
+  EXPECT_EQ(TranslateForm("", {{1, L"t"}}), L"");
 }
 
 }  // namespace

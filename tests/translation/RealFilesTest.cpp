@@ -6,6 +6,7 @@
 #include "RealFiles.h"
 #include "Utf8.h"
 #include "XmlDocument.h"
+#include "support/AbsoluteLines.h"
 #include "translation/EncrypterAccess.h"
 #include "translation/FormTranslation.h"
 #include "translation/TsLoader.h"
@@ -13,9 +14,13 @@
 namespace Wexa {
 namespace {
 
-TSTranslationUnit UnitOf(const std::string& path, const std::wstring& language) {
-  TsLines lines;
-  return LoadTsText(*WidenUtf8(BytesOf(WEXA_SHARED_DIR "/forms/" + path)), language, lines).value();
+TSTranslationUnit UnitOf(std::string ts, const std::wstring& language) {
+  TsPlaces places;
+  return LoadTsText(std::move(ts), language, places).value();
+}
+
+std::string TsFile(const std::string& path) {
+  return BytesOf(WEXA_SHARED_DIR "/forms/" + path);
 }
 
 std::size_t CountOf(const std::wstring& text, const std::wstring& part) {
@@ -32,7 +37,7 @@ std::map<std::string, std::size_t> ReplacedStrings(const std::string& folder,
     const auto text = *WidenUtf8(form.bytes);
     auto lines = unit.GetMessageMap().at(*WidenUtf8(form.Name()));
     for (auto& [line, translation] : lines) translation = L"[mark]";
-    const auto joined = TranslateForm(text, lines);
+    const auto joined = TranslateForm(form.bytes, lines);
     const auto inPlace = TranslateFormInPlace(text, lines);
     EXPECT_NO_THROW(XmlDocument{joined}) << form.path;
     EXPECT_NO_THROW(XmlDocument{inPlace}) << form.path;
@@ -43,15 +48,23 @@ std::map<std::string, std::size_t> ReplacedStrings(const std::string& folder,
   return counts;
 }
 
-TEST(RealTsFiles, TranslateEveryStringTheyName) {
+TEST(RealTsFiles, TranslateFormsUpToTheFirstLineThatDiffers) {
   EXPECT_EQ(
-      ReplacedStrings("pybitmessage", UnitOf("pybitmessage/bitmessage_ja.ts", L"ja")),
+      ReplacedStrings("pybitmessage", UnitOf(TsFile("pybitmessage/bitmessage_ja.ts"), L"ja")),
       (std::map<std::string, std::size_t>{
           {"iconglossary.ui", 4}, {"newaddressdialog.ui", 19}, {"regenerateaddresses.ui", 10}}));
 }
 
+TEST(RealTsFiles, OfTheSameRevisionTranslateEveryStringTheyName) {
+  const auto unit = UnitOf(WithAbsoluteLines(TsFile("gridcoin/bitcoin_de.ts")), L"de");
+  const auto replaced = ReplacedStrings("gridcoin", unit);
+  EXPECT_EQ(replaced.size(), 7u);
+  for (const auto& [form, count] : replaced)
+    EXPECT_EQ(count, unit.GetMessageMap().at(*WidenUtf8(form)).size()) << form;
+}
+
 TEST(RealTsFiles, OfAnotherRevisionEndWhereTheFormDiffers) {
-  EXPECT_EQ(ReplacedStrings("savvycan", UnitOf("savvycan/SavvyCAN_pt_BR.ts", L"pt_BR")),
+  EXPECT_EQ(ReplacedStrings("savvycan", UnitOf(TsFile("savvycan/SavvyCAN_pt_BR.ts"), L"pt_BR")),
             (std::map<std::string, std::size_t>{{"bisectwindow.ui", 17},
                                                 {"firmwareuploaderwindow.ui", 8},
                                                 {"frameplaybackwindow.ui", 20},
@@ -63,18 +76,18 @@ TEST(RealTsFiles, OfAnotherRevisionEndWhereTheFormDiffers) {
 
 TEST(RealTsFiles, WithRelativeLinesTranslateTheFirstStringOfEachForm) {
   for (const auto& [form, count] :
-       ReplacedStrings("gridcoin", UnitOf("gridcoin/bitcoin_de.ts", L"de"))) {
+       ReplacedStrings("gridcoin", UnitOf(TsFile("gridcoin/bitcoin_de.ts"), L"de"))) {
     EXPECT_EQ(count, 1u) << form;
   }
 }
 
 // Every pair of a form with the lines of another: wrong texts at most, and never a broken read.
 TEST(RealTsFiles, WithTheLinesOfAnotherFormChangeStringsOnly) {
-  const auto unit = UnitOf("savvycan/SavvyCAN_pt_BR.ts", L"pt_BR");
+  const auto unit = UnitOf(TsFile("savvycan/SavvyCAN_pt_BR.ts"), L"pt_BR");
   for (const auto& form : RealFiles(".ui")) {
     const auto text = *WidenUtf8(form.bytes);
     for (const auto& [name, lines] : unit.GetMessageMap()) {
-      TranslateForm(text, lines);
+      TranslateForm(form.bytes, lines);
       EXPECT_NO_THROW(XmlDocument{TranslateFormInPlace(text, lines)}) << form.path;
     }
   }

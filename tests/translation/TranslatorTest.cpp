@@ -208,6 +208,9 @@ TEST_F(TranslatorTest, PlainOrMissingFormsGiveNothing) {
   Write(GetWorkingDirPath() + L"plain.ui", "<ui>a plain form, long enough</ui>");
   EXPECT_EQ(translator_.TranslateUIFile(GetWorkingDirPath() + L"plain.ui"), L"");
   EXPECT_EQ(translator_.TranslateUIFile(L""), L"");
+  const auto packed = EncrypterAccess::Pack("<ui>not UTF-8: \xFF</ui>");
+  Write(GetWorkingDirPath() + L"odd.ui.kv", {packed.begin(), packed.end()});
+  EXPECT_EQ(translator_.TranslateUIFile(GetWorkingDirPath() + L"odd.ui.kv"), L"");
 }
 
 }  // namespace

@@ -1,18 +1,29 @@
 #include "XmlDocument.h"
 
+#include "Utf8.h"
+
 namespace Wexa {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::Eq;
 using ::testing::Optional;
 
-int LineOfError(const std::wstring& text) {
+template <typename Document>
+int LineOfErrorIn(const typename Document::Text& text) {
   try {
-    XmlDocument document(text);
+    Document document(text);
   } catch (const XmlParseError& error) {
-    return error.Line();
+    return LineAt(text, error.Offset());
   }
   return 0;
+}
+
+// The same for the wide text and for UTF-8.
+int LineOfError(const std::wstring& text) {
+  const int line = LineOfErrorIn<XmlDocument>(text);
+  EXPECT_EQ(LineOfErrorIn<Utf8XmlDocument>(NarrowUtf8(text)), line);
+  return line;
 }
 
 std::wstring Repeat(const std::wstring& part, int count) {
@@ -51,6 +62,31 @@ TEST(XmlDocument, KeepsWideCharactersInNames) {
 TEST(XmlDocument, KeepsWideCharactersAroundReferencesAndBlanks) {
   XmlDocument document(L"<a>\u0420 &lt; \u043C&#1084;&#x4E3C;&#x1F33C; </a>");
   EXPECT_EQ(TextOf(*document.First()), L"\u0420 < \u043C\u043C\u4E3C\U0001F33C ");
+}
+
+TEST(Utf8XmlDocument, KeepsWideCharactersEverywhere) {
+  const std::string text = NarrowUtf8(kTrickyText);
+  Utf8XmlDocument document("\xEF\xBB\xBF<" + text + " x='" + text + "&#1084;'>" + text +
+                           "&#x1F33C;</" + text + ">");
+  ASSERT_NE(document.First(text.c_str()), nullptr);
+  EXPECT_THAT(AttributeOf(*document.First(), "x"), Optional(Eq(text + "\u043C")));
+  EXPECT_EQ(TextOf(*document.First()), text + "\U0001F33C");
+}
+
+TEST(Utf8XmlDocument, HandsOverTheElementsOfTheThirdLevel) {
+  std::vector<std::string> seen;
+  const Utf8XmlDocument document(
+      "<a x='1'><b>t<c>1</c><c/><d><c>2</c></d></b><b y='2'><e>3<!-- --></e></b></a>",
+      [&](const Utf8XmlDocument& reader, const Utf8XmlNode& root, const Utf8XmlNode& parent,
+          const Utf8XmlNode& element) {
+        const bool second = AttributeOf(parent, "y").has_value();
+        seen.push_back(std::to_string(reader.OffsetOf(element)) + root.name()[0] +
+                       (second ? "2" : "1") + element.name()[0] + TextOf(element));
+      });
+  EXPECT_THAT(seen, ElementsAre("14a1c1", "22a1c", "26a1d", "54a2e3"));
+  const auto* parent = document.First("a")->first_node("b");
+  EXPECT_EQ(TextOf(*parent), "t");
+  EXPECT_EQ(parent->first_node("c"), nullptr);
 }
 
 TEST(XmlDocument, RefusesReferencesToNoCharacter) {

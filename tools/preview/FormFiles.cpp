@@ -11,7 +11,7 @@
 
 #include "Utf8.h"
 #include "WexaException.h"
-#include "XmlDocument.h"
+#include "form/FormParser.h"
 
 namespace preview {
 namespace {
@@ -63,7 +63,7 @@ std::wstring LibraryPath(const std::string& file) {
 std::string DescribeError(const std::string& file) {
   try {
     throw;
-  } catch (const Wexa::XmlParseError& error) {
+  } catch (const Wexa::FormParseError& error) {
     return file + ":" + std::to_string(error.Line()) + ": " + error.what();
   } catch (const Wexa::WexaException& error) {
     return file + ": " + MessageOf(error);
