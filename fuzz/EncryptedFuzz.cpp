@@ -1,25 +1,19 @@
 // Any bytes as an encrypted file, and as the text of a sound one.
 
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "MemoryFile.h"
 #include "Utf8.h"
 #include "translation/EncrypterAccess.h"
 
 namespace {
 
 std::wstring Read(const void* bytes, std::size_t size) {
-  const int file = memfd_create("encrypted", 0);
-  if (write(file, bytes, size) != static_cast<ssize_t>(size)) std::abort();
-  const auto text = Encrypter::ReadAndDecryptFile(L"/proc/self/fd/" + std::to_wstring(file));
-  close(file);
-  return text;
+  return Encrypter::ReadAndDecryptFile(MemoryFile(bytes, size).Path());
 }
 
 }  // namespace
