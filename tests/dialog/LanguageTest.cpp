@@ -4,13 +4,13 @@
 #include <fstream>
 #include <iterator>
 
+#include "ButtonBox.h"
 #include "DialogTest.h"
 #include "FileText.h"
-#include "GroupBox.h"
-#include "TabView.h"
 #include "Translator.h"
 #include "Utf8.h"
 #include "WexaConfig.h"
+#include "support/AbsoluteLines.h"
 #include "support/FormTest.h"
 #include "translation/EncrypterAccess.h"
 
@@ -53,6 +53,7 @@ class LanguageTest : public FormTest {
   void LoadBytes(const std::string& ts, const std::wstring& language) {
     SetCurrentLanguage(language, false);
     Write(GetTranslationFilePath(L"program"), ts);
+    Translator::GetInstance().ResetStringsTable();
     Translator::GetInstance().LoadStrings(L"program");
   }
   std::wstring Title(const std::string& path) {
@@ -63,9 +64,6 @@ class LanguageTest : public FormTest {
     return GetWindowTextString(dialog_->GetHandle());
   }
   std::string Path(const std::string& name) const { return folder_ + name; }
-  std::wstring Text(const wchar_t* name) {
-    return GetWindowTextString(Find<BaseGUIObject>(name).GetPlatformHandle());
-  }
 
  private:
   std::string folder_;
@@ -81,15 +79,31 @@ std::string Property(const std::string& name, const std::string& text) {
   return "<property name=\"" + name + "\">" + String(text) + "</property>";
 }
 
-// Every text on a line of its own, as form files are written.
-std::string FormOfManyTexts() {
-  const std::string page = "<widget class=\"QWidget\" name=\"page\"><attribute name=\"title\">" +
-                           String("tab") + "</attribute></widget>";
-  return ColumnForm(ItemXml(WidgetXml("QLabel", "label", Property("text", "long\ntext"))) +
-                    ItemXml(WidgetXml("QPushButton", "button", Property("text", "press"))) +
-                    ItemXml(WidgetXml("QCheckBox", "check", Property("text", "choose"))) +
-                    ItemXml(WidgetXml("QGroupBox", "group", Property("title", "group"))) +
-                    ItemXml(WidgetXml("QTabWidget", "tabs", page)));
+// Widgets with texts, each "@", on lines of their own as form files are written.
+std::vector<std::string> WidgetsWithTexts() {
+  const std::string item = "<item>" + Property("text", "@") + "</item>";
+  const std::string page =
+      WidgetXml("QWidget", "page", "<attribute name=\"title\">" + String("@") + "</attribute>");
+  return {WidgetXml("QLabel", "widget", Property("text", "@\nlong")),
+          WidgetXml("QPushButton", "widget", Property("text", "@")),
+          WidgetXml("QCheckBox", "widget", Property("text", "@")),
+          WidgetXml("QRadioButton", "widget", Property("text", "@")),
+          WidgetXml("QLineEdit", "widget", Property("text", "@")),
+          WidgetXml("QLineEdit", "widget", Property("placeholderText", "@")),
+          WidgetXml("QSpinBox", "widget", Property("prefix", "@") + Property("suffix", "@")),
+          WidgetXml("QProgressBar", "widget", Property("format", "@")),
+          WidgetXml("QGroupBox", "widget", Property("title", "@")),
+          WidgetXml("QTabWidget", "widget", page),
+          WidgetXml("QComboBox", "widget", item + item),
+          WidgetXml("QListWidget", "widget", item + item),
+          WidgetXml("QPushButton", "widget", Property("toolTip", "@"))};
+}
+
+// A form with such a widget, which does not have the focus.
+std::string FormWith(std::string widget, const std::string& text) {
+  for (auto at = widget.find('@'); at != widget.npos; at = widget.find('@'))
+    widget.replace(at, 1, text);
+  return ColumnForm(ItemXml(WidgetXml("QPushButton", "first")) + ItemXml(widget), 150, 80);
 }
 
 // A TS file that puts "*" before each text of the form.
@@ -107,32 +121,57 @@ std::string StarsFor(const std::string& form, const std::string& name) {
   return ts + "</context></TS>";
 }
 
+// What a person sees of a form with the pointer over its widget.
 class TranslatedTexts : public LanguageTest {
  protected:
-  void ExpectStars() {
-    EXPECT_EQ(Text(L"label"), L"*long\ntext");
-    EXPECT_EQ(Text(L"button"), L"*press");
-    EXPECT_EQ(Text(L"check"), L"*choose");
-    EXPECT_EQ(Find<GroupBox>(L"group").GetTitle(), L"*group");
-    EXPECT_EQ(Find<TabView>(L"tabs").GetTabText(0), L"*tab");
+  using Picture = std::vector<std::uint32_t>;
+
+  Picture PictureOf(const std::string& file, const std::string& form) {
+    Write(*WidenUtf8(Path(file)), form);
+    Title(Path(file));
+    robot_.MoveTo(Find<BaseGUIObject>(L"widget").GetPlatformHandle());
+    robot_.AdvanceTime(1000);
+    Picture picture;
+    for (HWND window : GetTopLevelWindows()) Append(picture, window);
+    return picture;
+  }
+
+ private:
+  static void Append(Picture& picture, HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    for (int y = 0; y < area.bottom; ++y)
+      for (int x = 0; x < area.right; ++x) picture.push_back(Robot::PixelAt(window, x, y));
   }
 };
 
-TEST_F(TranslatedTexts, ShowInPlainForms) {
-  const std::string form = FormOfManyTexts();
-  LoadBytes(StarsFor(form, "many.ui"), L"de");
-  Write(GetWorkingDirPath() + L"many.ui", form);
-  Title(Path("many.ui"));
-  ExpectStars();
+TEST_F(TranslatedTexts, LookAsIfTheFormWereWrittenInTheLanguage) {
+  for (const std::string& widget : WidgetsWithTexts()) {
+    const std::string form = FormWith(widget, "word");
+    const auto packed = EncrypterAccess::Pack(form);
+    LoadBytes(StarsFor(form, "form.ui"), L"de");
+    const Picture written = PictureOf("written.ui", FormWith(widget, "*word"));
+    EXPECT_TRUE(PictureOf("other.ui", form) != written) << widget;
+    EXPECT_TRUE(PictureOf("form.ui", form) == written) << widget;
+    EXPECT_TRUE(PictureOf("form.ui.kv", {packed.begin(), packed.end()}) == written) << widget;
+  }
 }
 
-TEST_F(TranslatedTexts, ShowInEncryptedForms) {
-  const std::string form = FormOfManyTexts();
-  LoadBytes(StarsFor(form, "many.ui"), L"de");
-  const auto packed = EncrypterAccess::Pack(form);
-  Write(GetWorkingDirPath() + L"forms\\many.ui.kv", {packed.begin(), packed.end()});
-  Title(Path("forms/many.ui.kv"));
-  ExpectStars();
+TEST_F(LanguageTest, StandardButtonsTakeTheirTextsFromTheCommonStrings) {
+  SetCurrentLanguage(L"de", false);
+  Write(GetStringsFilePath(L"", false),
+        "<r language='de'><StringTable><string id='Wexa::BBoxCancel'>Abbrechen</string>"
+        "</StringTable></r>");
+  Translator::GetInstance().LoadStrings(L"");
+  Write(
+      GetWorkingDirPath() + L"f.ui",
+      ColumnForm(ItemXml(WidgetXml("QDialogButtonBox", "box",
+                                   PropertyXml("standardButtons", "set",
+                                               "QDialogButtonBox::Cancel|QDialogButtonBox::Ok")))));
+  Title(Path("f.ui"));
+  auto& box = Find<ButtonBox>(L"box");
+  EXPECT_EQ(box.GetButton(StandardButton::Cancel)->GetText(), L"Abbrechen");
+  EXPECT_EQ(box.GetButton(StandardButton::OK)->GetText(), L"OK");
 }
 
 TEST_F(LanguageTest, RealFormsOpenTranslated) {
@@ -145,6 +184,13 @@ TEST_F(LanguageTest, RealFormsOpenTranslated) {
   EXPECT_EQ(Title(std::string(kForms) + "pybitmessage/newaddressdialog.ui"),
             L"新しいアドレスを作成");
   EXPECT_TRUE(Translator::GetInstance().GetDiagnostics().empty());
+}
+
+TEST_F(LanguageTest, RealFormsOfTheSameRevisionAreTranslatedToTheEnd) {
+  LoadBytes(WithAbsoluteLines(BytesOf(std::string(kForms) + "gridcoin/bitcoin_de.ts")), L"de");
+  EXPECT_EQ(Title(std::string(kForms) + "gridcoin/optionsdialog.ui"), L"Konfiguration");
+  EXPECT_EQ(Find<Button>(L"cancelButton").GetText(), L"A&bbrechen");
+  EXPECT_EQ(Find<Button>(L"applyButton").GetText(), L"&Anwenden");
 }
 
 TEST_F(LanguageTest, FilesWithRelativeLinesGiveTheFirstTextAndAReason) {

@@ -74,6 +74,23 @@ TEST(TextLine, SelectionOfMixedTextMayHaveSeveralRanges) {
   EXPECT_TRUE(line.Ranges(50, 90).empty());
 }
 
+TEST(TextLine, MixedTextStandsAsUnicodeSays) {
+  const auto order = [](std::wstring_view text, bool rightToLeft) {
+    const TextLine line = Line(text, rightToLeft);
+    std::vector<std::pair<int, std::size_t>> places;
+    for (std::size_t i = 0; i < text.size(); ++i)
+      places.emplace_back(line.Ranges(i, i + 1).at(0).first, i);
+    std::ranges::sort(places);
+    std::string indexes;
+    for (const auto& [left, index] : places) indexes += std::to_string(index);
+    return indexes;
+  };
+  EXPECT_EQ(order(kMixed, false), "012543678");
+  EXPECT_EQ(order(kMixed, true), "786543201");
+  EXPECT_EQ(order(L"אב 12", true), "34210");
+  EXPECT_EQ(order(L"אב (x)", true), "543210") << "brackets go with what is around them";
+}
+
 TEST(TextLine, CombiningMarksBelongToTheirBase) {
   TextLine line = Line(L"ae\u0301\u0323b");
   EXPECT_EQ(line.NextCluster(1), 4u);
