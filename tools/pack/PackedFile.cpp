@@ -70,7 +70,7 @@ class FileAside {
 void PackFile(const fs::path& source, const fs::path& target) {
   const std::string text = ReadBytes(source);
   if (text.empty()) throw std::runtime_error("empty");
-  if (!Wexa::WidenUtf8(text)) throw std::runtime_error("not UTF-8");
+  if (!Wexa::IsUtf8(text)) throw std::runtime_error("not UTF-8");
   if (target.has_parent_path()) fs::create_directories(target.parent_path());
   FileAside file(target);
   file.Write(EncrypterAccess::Pack(text));
