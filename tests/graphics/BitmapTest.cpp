@@ -89,6 +89,20 @@ TEST(BitmapDecoding, RefusesWhatIsNoPicture) {
   EXPECT_FALSE(Decode({}));
   EXPECT_FALSE(Decode({0x89}));
   EXPECT_FALSE(Decode(Bytes(5000, 'x')));
+  for (const std::string file : {"P3 1 1 255 9 9 9\n", "<svg width='9' height='9'></svg>",
+                                 "/* XPM */ static char *a[] = {\"1 1 1 1\", \"a c red\", \"a\"};"})
+    EXPECT_FALSE(Decode(Bytes(file.begin(), file.end()))) << file;
+}
+
+TEST(BitmapDecoding, ReadsIconsAndCursors) {
+  Bytes file =
+      pictures::IconFile({pictures::IconImageBytes(16, 16, 32, pictures::Always(kTopLeft))});
+  for (const Bytes::value_type kind : Bytes{1, 2}) {
+    file[2] = kind;
+    const UniqueBitmap bitmap = Decode(file);
+    ASSERT_TRUE(bitmap) << int{kind};
+    EXPECT_EQ(BitmapPixels(bitmap.get())[0], kTopLeft);
+  }
 }
 
 // The last bytes of a file are no pixels any more.
@@ -129,6 +143,15 @@ TEST(BitmapDecoding, RefusesHugeSizesFromTheHeader) {
   Bytes gif = kGif;
   gif[7] = gif[9] = 0xFF;
   EXPECT_FALSE(Decode(gif));
+  Bytes credible = Encode("png", 2000, 2000, false);
+  EXPECT_TRUE(Decode(credible));
+  credible = Encode("png", 4, 4, false);
+  credible[16 + 2] = credible[20 + 2] = 0x1F;  // 8 thousand a side, of some bytes
+  EXPECT_FALSE(Decode(credible));
+  Bytes jpeg = Encode("jpeg", 16, 16, false);
+  const auto frame = std::ranges::search(jpeg, Bytes{0xFF, 0xC0}).begin();
+  frame[5] = frame[7] = 0xFF;
+  EXPECT_FALSE(Decode(jpeg));
 }
 
 TEST(Bitmap, SizesAndDepthsAreChecked) {

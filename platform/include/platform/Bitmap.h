@@ -28,8 +28,8 @@ BOOL GetBitmapDescription(HBITMAP bitmap, BITMAP* description);
 // after drawing the bitmap if they are to be changed. Empty for a stale handle.
 std::span<std::uint32_t> BitmapPixels(HBITMAP bitmap);
 
-// The first picture in the bytes of a BMP, GIF, JPEG, PNG or other known file. Null when they are
-// damaged, incomplete or none of these.
+// The first picture in the bytes of a BMP, GIF, JPEG, PNG, TIFF, icon or cursor file. Null when
+// they are damaged, incomplete or none of these.
 HBITMAP DecodeBitmap(std::span<const BYTE> bytes);
 // A smooth copy of another size, in the same depth.
 HBITMAP StretchBitmap(HBITMAP bitmap, int width, int height);

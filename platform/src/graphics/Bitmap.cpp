@@ -33,12 +33,11 @@ BitmapObject::BitmapObject(int width, int height, int depth)
     : width_(width),
       height_(height),
       depth_(depth),
-      pixels_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
-              depth == 32 ? 0 : kOpaqueBlack) {}
+      pixels_(std::make_unique_for_overwrite<std::uint32_t[]>(Count())) {}
 
 std::span<std::uint32_t> BitmapObject::Pixels() {
   drawable_.reset();
-  return pixels_;
+  return {pixels_.get(), Count()};
 }
 
 cairo_surface_t* BitmapObject::Drawable() {
@@ -47,7 +46,8 @@ cairo_surface_t* BitmapObject::Drawable() {
   auto* row = reinterpret_cast<std::uint32_t*>(cairo_image_surface_get_data(surface.get()));
   if (!row) return nullptr;
   const int stride = cairo_image_surface_get_stride(surface.get()) / 4;
-  for (auto from = pixels_.begin(); from != pixels_.end(); from += width_, row += stride) {
+  const std::uint32_t* const end = pixels_.get() + Count();
+  for (const std::uint32_t* from = pixels_.get(); from != end; from += width_, row += stride) {
     std::transform(from, from + width_, row, Premultiplied);
   }
   cairo_surface_mark_dirty(surface.get());
@@ -70,7 +70,9 @@ BitmapObject* FindBitmap(HBITMAP bitmap) {
 
 HBITMAP CreateBitmap(int width, int height, int bitsPerPixel) {
   if (!IsPictureSize(width, height) || !IsDepth(bitsPerPixel)) return nullptr;
-  return AddBitmap(std::make_unique<BitmapObject>(width, height, bitsPerPixel));
+  auto bitmap = std::make_unique<BitmapObject>(width, height, bitsPerPixel);
+  std::ranges::fill(bitmap->Pixels(), bitsPerPixel == 32 ? 0 : kOpaqueBlack);
+  return AddBitmap(std::move(bitmap));
 }
 
 HBITMAP CopyBitmap(HBITMAP bitmap) {
