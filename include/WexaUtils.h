@@ -71,8 +71,8 @@ class WEXA_API WexaUtils {
   static Wexa::Point GetCursorPosition();
   // Adds the flags of a native mouse message's key state; flags that are set stay set.
   static void MapMouseKeys(unsigned int keyState, unsigned int& buttons, unsigned int& modifiers);
-  // The native identifier; that of the arrow for anything else.
-  static const wchar_t* GetPlattformCursorType(CursorTypes type);
+  // The native identifier, which is not to be written to; that of the arrow for anything else.
+  static wchar_t* GetPlattformCursorType(CursorTypes type);
 
   // Unchecked for an unknown state.
   static int ChBStateToMFCChBState(CheckBoxStates state);
@@ -89,11 +89,16 @@ class WEXA_API WexaUtils {
   static Wexa::PicaPoint DoubleToPica(double picas);
   static double PicaToDouble(Wexa::PicaPoint value);
 
+  // major << 16 | minor, as a module that is loaded tells by its "DllGetVersion"; 0 when there is
+  // no such module or it does not tell.
+  static unsigned long GetVersion(const std::wstring& moduleName);
   static OsInfo GetOsInfo();
   // The state now; cheap enough to ask before every palette load.
   static bool IsSystemHighContrastMode();
   // Whether the library is a module of its own rather than part of the executable.
   static bool IsRunInPlugin();
+  // Families whose letters are signs and pictures, so that names are not to be written in them.
+  static const std::vector<std::wstring> symbol_fonts;
   // Appends one record for each font family, then sorts them all by face name: bold, italic and
   // underline are 1 when the family's plainest face is that, else -1; the size is not set. With
   // `lettersOnly` symbol and vertical families are left out. False when the system lists none.

@@ -19,8 +19,7 @@ std::wstring ExecutableDirectory() {
   std::error_code error;
   const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
   const auto path = WidenUtf8(program.string());
-  if (error || !path)
-    throw WexaException("src/WexaConfig.cpp", __LINE__, "Cannot get modul's path.");
+  if (error || !path) throw WexaException("src/WexaConfig", __LINE__, "Cannot get modul's path.");
   return path->substr(0, path->rfind(L'/') + 1);
 }
 

@@ -25,6 +25,43 @@ Wexa::FontData RecordOf(const FontFamily& family) {
 
 }  // namespace
 
+const std::vector<std::wstring> WexaUtils::symbol_fonts = {
+    L"Apple Braille",
+    L"Apple Color Emoji",
+    L"Apple LiGothic Medium",
+    L"Apple LiSung Light",
+    L"AppleMyungjo",
+    L"Apple Symbols",
+    L"AppleGothic",
+    L"Dingbats",
+    L"Keyboard",
+    L"LastResort",
+    L"Osaka",
+    L"Bodoni Ornaments",
+    L"SF Symbols",
+    L"DejaVu Sans",
+    L"FontAwesome",
+    L"Material Design Icons",
+    L"OpenSymbol",
+    L"Symbola",
+    L"Arial Unicode MS",
+    L"Segoe UI Symbol",
+    L"Wingdings",
+    L"Wingdings 2",
+    L"Wingdings 3",
+    L"Webdings",
+    L"Symbol",
+    L"Bookshelf Symbol 7",
+    L"ZWAdobeF",
+    L"MS Outlook",
+    L"MS Reference Specialty",
+    L"MT Extra",
+    L"Marlett",
+    L"Hoefler Text Ornaments",
+    L"Cambria Math",
+    L"Candid",
+};
+
 bool WexaUtils::GetSystemFonts(std::vector<Wexa::FontData>& fonts, bool lettersOnly) {
   const std::vector<FontFamily> families = ListFontFamilies();
   for (const FontFamily& family : families) {

@@ -1,11 +1,50 @@
+#include <dlfcn.h>
+#include <memory>
+
 #include "FileText.h"
 #include "Utf8.h"
 #include "WexaUtils.h"
 #include "XmlDocument.h"
 
-// Version description files.
+// What modules and version description files say of themselves.
 
 using Wexa::Utf8XmlNode;
+
+// -- Modules
+
+namespace {
+
+// What a module fills in when it is asked for its version.
+struct DLLVERSIONINFO {
+  DWORD cbSize;
+  DWORD dwMajorVersion;
+  DWORD dwMinorVersion;
+  DWORD dwBuildNumber;
+  DWORD dwPlatformID;
+};
+using DllGetVersionProcedure = std::int32_t (*)(DLLVERSIONINFO*);  // negative when it failed
+
+struct ModuleRelease {
+  void operator()(void* module) const { dlclose(module); }
+};
+
+// Null for a module that is not loaded already.
+std::unique_ptr<void, ModuleRelease> LoadedModule(const std::wstring& name) {
+  return std::unique_ptr<void, ModuleRelease>(
+      dlopen(Wexa::NativePath(name).c_str(), RTLD_LAZY | RTLD_NOLOAD));
+}
+
+}  // namespace
+
+unsigned long WexaUtils::GetVersion(const std::wstring& moduleName) {
+  const auto module = LoadedModule(moduleName);
+  void* symbol = module ? dlsym(module.get(), "DllGetVersion") : nullptr;
+  DLLVERSIONINFO info{sizeof(DLLVERSIONINFO), 0, 0, 0, 0};
+  if (!symbol || reinterpret_cast<DllGetVersionProcedure>(symbol)(&info) < 0) return 0;
+  return info.dwMajorVersion << 16 | info.dwMinorVersion;
+}
+
+// -- Version description files
 
 namespace {
 

@@ -36,20 +36,28 @@ Wexa::Point WexaUtils::GetCursorPosition() {
   return Wexa::Point(position);
 }
 
-const wchar_t* WexaUtils::GetPlattformCursorType(CursorTypes type) {
+namespace {
+
+const wchar_t* CursorOf(WexaUtils::CursorTypes type) {
   switch (type) {
-    case Wait: return IDC_WAIT;
-    case IBeam: return IDC_IBEAM;
-    case Cross: return IDC_CROSS;
-    case UpArrow: return IDC_UPARROW;
-    case SizeCursor: return IDC_SIZE;
-    case SizeNWSE: return IDC_SIZENWSE;
-    case SizeNESW: return IDC_SIZENESW;
-    case SizeWE: return IDC_SIZEWE;
-    case SizeNS: return IDC_SIZENS;
-    case SizeAll: return IDC_SIZEALL;
-    case No: return IDC_NO;
-    case Hand: return IDC_HAND;
+    case WexaUtils::Wait: return IDC_WAIT;
+    case WexaUtils::IBeam: return IDC_IBEAM;
+    case WexaUtils::Cross: return IDC_CROSS;
+    case WexaUtils::UpArrow: return IDC_UPARROW;
+    case WexaUtils::SizeCursor: return IDC_SIZE;
+    case WexaUtils::SizeNWSE: return IDC_SIZENWSE;
+    case WexaUtils::SizeNESW: return IDC_SIZENESW;
+    case WexaUtils::SizeWE: return IDC_SIZEWE;
+    case WexaUtils::SizeNS: return IDC_SIZENS;
+    case WexaUtils::SizeAll: return IDC_SIZEALL;
+    case WexaUtils::No: return IDC_NO;
+    case WexaUtils::Hand: return IDC_HAND;
     default: return IDC_ARROW;
   }
+}
+
+}  // namespace
+
+wchar_t* WexaUtils::GetPlattformCursorType(CursorTypes type) {
+  return const_cast<wchar_t*>(CursorOf(type));  // an identifier: nothing is behind it
 }

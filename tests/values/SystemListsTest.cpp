@@ -1,5 +1,6 @@
-// The lists that the utilities make of fonts and of version files.
+// What the utilities tell of fonts and of versions.
 
+#include <dlfcn.h>
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -33,6 +34,25 @@ TEST(SystemFonts, OnlyLettersWhenAskedFor) {
   WexaUtils::GetSystemFonts(letters, true);
   std::erase_if(all, [](const FontData& font) { return font.specialFont != 0; });
   EXPECT_EQ(all, letters);
+}
+
+TEST(SystemFonts, TheSymbolFontsAreListed) {
+  EXPECT_EQ(WexaUtils::symbol_fonts.size(), 34u);
+  EXPECT_EQ(WexaUtils::symbol_fonts.front(), L"Apple Braille");
+  EXPECT_EQ(WexaUtils::symbol_fonts[20], L"Wingdings");
+  EXPECT_EQ(WexaUtils::symbol_fonts.back(), L"Candid");
+}
+
+TEST(ModuleVersion, IsToldByAModuleThatIsLoaded) {
+  const std::string path = WEXA_VERSION_MODULE;
+  const std::wstring name(path.begin(), path.end());
+  EXPECT_EQ(WexaUtils::GetVersion(name), 0u) << "not loaded";
+  void* module = dlopen(path.c_str(), RTLD_NOW);
+  ASSERT_TRUE(module) << dlerror();
+  EXPECT_EQ(WexaUtils::GetVersion(name), 6u << 16 | 10u);
+  dlclose(module);
+  EXPECT_EQ(WexaUtils::GetVersion(name), 0u) << "asking did not keep it";
+  EXPECT_EQ(WexaUtils::GetVersion(L"libc.so.6"), 0u) << "it does not tell";
 }
 
 class VersionInfo : public testing::Test {
