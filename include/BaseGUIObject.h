@@ -22,7 +22,9 @@ class CWnd;
 namespace Wexa {
 
 class BaseImpl;
+class ContextMenu;
 class Event;
+class PromptsPopup;
 
 // The base of every widget: a name, a kind, the host's event procedure, and the operations that
 // every widget answers through its implementation. Sizes and positions are device pixels unless
@@ -153,6 +155,21 @@ class WEXA_API BaseGUIObject : public WexaObject {
   // Width in pixels of a text in the given font, or in the widget's when null.
   int GetWidthForText(std::wstring& text, FontData* font);
 
+  // -- Context menu: shown at the pointer when the user asks for it and the event procedure does
+  // not take the request. Edits show theirs themselves.
+
+  void InsertContextMenu(const std::shared_ptr<ContextMenu>& menu) { contextMenu_ = menu; }
+  void RemoveContextMenu() { contextMenu_ = nullptr; }
+  // Empty when there is none.
+  std::shared_ptr<ContextMenu> GetContextMenu() const { return contextMenu_; }
+
+  // -- Prompts popup: made as PromptsPopup says, and kept by the widget until the next one is made.
+
+  std::shared_ptr<PromptsPopup> InsertPromptsPopup(const std::wstring& text, int width,
+                                                   int milliseconds, bool closesOnInput);
+  // Shows the popup beside this widget, or hides it. Nothing happens without one.
+  void ShowPromptsPopup(const std::shared_ptr<PromptsPopup>& popup, bool show);
+
   // -- Balloon tips: a title, a text and an icon that point at the widget. One is shown at a time.
   // It closes with the next key or press when `closesOnInput`, after ten seconds when
   // `closesInTime`, and always with a click on it. False when there is nothing to say or the widget
@@ -193,6 +210,8 @@ class WEXA_API BaseGUIObject : public WexaObject {
   std::shared_ptr<const EventHandler> eventProcedure_;
   PreTranslateProcedure preTranslateMessage_;
   CWnd* topLevelDlg_ = nullptr;
+  std::shared_ptr<PromptsPopup> promptsPopup_;
+  std::shared_ptr<ContextMenu> contextMenu_;
 };
 
 }  // namespace Wexa

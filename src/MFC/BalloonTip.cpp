@@ -11,7 +11,6 @@ namespace Wexa {
 namespace {
 
 constexpr UINT kCloseTimer = 1;
-constexpr UINT kShownMilliseconds = 10000;
 constexpr int kArrowHeight = 8;
 constexpr int kArrowInset = 24;  // from the balloon's edge to the arrow's tip
 
@@ -51,13 +50,15 @@ BalloonTip::~BalloonTip() {
 
 bool BalloonTip::Show(BaseGUIObject& widget, const TipContent& content, Manner manner) {
   HWND window = widget.GetPlatformHandle();
+  if (content.title.empty() && content.text.empty()) return false;
   if (g_shown) g_shown->Close();
   if (!window || !::IsWindowVisible(window) || !Prepare(window)) return false;
+  widget_ = window;
   manner_ = manner;
   SetContent(content, TipColorsOf(widget.GetSkinManager()), ImplOf(&widget)->Font());
   Place(widget);
   g_shown = this;
-  if (manner.closesInTime) SetTimer(kCloseTimer, kShownMilliseconds);
+  if (manner.milliseconds > 0) SetTimer(kCloseTimer, manner.milliseconds);
   return true;
 }
 
@@ -86,6 +87,10 @@ void BalloonTip::Close() {
 
 void BalloonTip::OnInput() {
   if (g_shown && g_shown->manner_.closesOnInput) g_shown->Close();
+}
+
+void BalloonTip::OnWindowGone(HWND widget) {
+  if (g_shown && g_shown->widget_ == widget) g_shown->Close();
 }
 
 LRESULT BalloonTip::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

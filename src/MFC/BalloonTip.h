@@ -28,14 +28,16 @@ class BalloonTip : public TipWindow {
 
   struct Manner {
     bool closesOnInput = true;
-    bool closesInTime = true;
+    UINT milliseconds = 0;  // 0: it stays
   };
 
-  // False when the widget is not to be seen.
+  // False when there is nothing to say or the widget is not to be seen.
   bool Show(BaseGUIObject& widget, const TipContent& content, Manner manner);
   void Close();
   // A key or a button was pressed in a dialog.
   static void OnInput();
+  // A widget's window is going.
+  static void OnWindowGone(HWND widget);
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -45,6 +47,7 @@ class BalloonTip : public TipWindow {
 
   BalloonArrow arrow_;
   Manner manner_;
+  HWND widget_ = nullptr;  // that it points at
 };
 
 }  // namespace Wexa

@@ -11,6 +11,7 @@ namespace Wexa {
 namespace {
 
 constexpr int kPictureSide = 32;
+constexpr UINT kShownMilliseconds = 10000;
 
 std::shared_ptr<HBITMAP__> PictureOf(const unsigned char* data, int size,
                                      WexaUtils::ImageTypes type) {
@@ -36,9 +37,10 @@ std::shared_ptr<HBITMAP__> PictureOfBytes(const unsigned char* data, int size) {
 }  // namespace
 
 bool BaseImplMFC::ShowBalloon(const TipContent& content, bool closesOnInput, bool closesInTime) {
-  if (!owner_ || (content.title.empty() && content.text.empty())) return false;
+  if (!owner_) return false;
   if (!balloonTip_) balloonTip_ = std::make_unique<BalloonTip>();
-  return balloonTip_->Show(*owner_, content, {closesOnInput, closesInTime});
+  return balloonTip_->Show(*owner_, content,
+                           {closesOnInput, closesInTime ? kShownMilliseconds : 0});
 }
 
 bool BaseImplMFC::ShowBalloonTipEx(const std::wstring& text, BalloonTipIconType icon,

@@ -21,7 +21,6 @@ constexpr int kPadding = 8;
 constexpr int kGap = 8;
 constexpr int kTitleGap = 4;
 constexpr int kIconSide = 16;
-constexpr int kTextWidth = 320;
 // On light and on dark faces.
 constexpr COLORREF kWarning[] = {RGB(157, 93, 0), RGB(255, 200, 61)};
 constexpr COLORREF kError[] = {RGB(196, 43, 28), RGB(255, 145, 135)};
@@ -111,7 +110,7 @@ void TipWindow::ShowAt(CRect place) {
 // -- Content
 
 SIZE TipWindow::TextExtent(const std::wstring& text, HFONT font) const {
-  return text.empty() ? SIZE{} : GetTextExtent(font, text, Scale(kTextWidth), kTextFormat);
+  return text.empty() ? SIZE{} : GetTextExtent(font, text, Scale(content_.width), kTextFormat);
 }
 
 void TipWindow::Measure() {
@@ -142,8 +141,7 @@ void TipWindow::Paint(Painter& painter, const CRect& client) {
 void TipWindow::PaintIcon(Painter& painter, const CRect& place) const {
   if (content_.picture) return painter.Picture(content_.picture.get(), place);
   painter.FillEllipse(place, IconColor(content_.icon, colors_));
-  if (content_.icon == BalloonTipIconType::Error)
-    return painter.Cross(place, colors_.face);
+  if (content_.icon == BalloonTipIconType::Error) return painter.Cross(place, colors_.face);
   const wchar_t* mark = content_.icon == BalloonTipIconType::Warning ? L"!" : L"i";
   painter.Text(mark, place, DT_CENTER | DT_VCENTER | DT_SINGLELINE, font_, colors_.face);
 }

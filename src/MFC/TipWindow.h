@@ -17,6 +17,7 @@ struct TipContent {
   std::wstring text;
   BalloonTipIconType icon = BalloonTipIconType::None;
   std::shared_ptr<HBITMAP__> picture{};
+  int width = 320;  // at which lines are broken, in 96-DPI units
 };
 
 struct TipColors {

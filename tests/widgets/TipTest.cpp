@@ -1,6 +1,8 @@
 #include "Button.h"
+#include "PromptsPopup.h"
 #include "platform/VirtualKeys.h"
 #include "support/FormTest.h"
+#include "support/PictureFiles.h"
 
 namespace Wexa {
 namespace {
@@ -243,6 +245,32 @@ TEST_F(TipTest, ABalloonWithoutWordsOrOverAHiddenWidgetIsNotShown) {
   EXPECT_FALSE(Widget(L"a").ShowBalloonTipEx(L"Title", L"Text", true, true));
 }
 
+TEST_F(TipTest, ABalloonHasSixForms) {
+  Open(ColumnForm(ButtonXml("a")));
+  auto& widget = Widget(L"a");
+  const auto sizeOf = [](bool shown) { return shown ? PlaceOfTip(1).Size() : CSize(); };
+  const pictures::Bytes icon =
+      pictures::IconFile({pictures::IconImageBytes(32, 32, 24, pictures::Always(1))});
+  const int count = static_cast<int>(icon.size());
+  const std::wstring file = FileOf(std::string(icon.begin(), icon.end()));
+  constexpr auto kWarning = BalloonTipIconType::Warning;
+  constexpr int kGap = 8;
+  const CSize plain = sizeOf(widget.ShowBalloonTipEx(L"Title", L"Text", true, true));
+  const CSize untitled =
+      sizeOf(widget.ShowBalloonTipEx(L"Text", BalloonTipIconType::None, true, true));
+  EXPECT_LT(untitled.cy, plain.cy);
+  EXPECT_EQ(sizeOf(widget.ShowBalloonTipEx(L"Text", kWarning, true, true)).cx,
+            untitled.cx + 16 + kGap);
+  EXPECT_EQ(sizeOf(widget.ShowBalloonTipEx(L"Title", L"Text", kWarning, true, true)).cx,
+            plain.cx + 16 + kGap);
+  EXPECT_EQ(sizeOf(widget.ShowBalloonTipEx(L"Text", icon.data(), count, true, true)).cx,
+            untitled.cx + 32 + kGap);
+  EXPECT_EQ(sizeOf(widget.ShowBalloonTipEx(L"Title", L"Text", icon.data(), count, true, true)).cx,
+            plain.cx + 32 + kGap);
+  EXPECT_EQ(sizeOf(widget.ShowBalloonTipEx(L"Title", L"Text", file, true, true)).cx,
+            plain.cx + 32 + kGap);
+}
+
 TEST_F(TipTest, ABrokenIconLeavesTheWords) {
   Open(ColumnForm(ButtonXml("a")));
   const unsigned char junk[] = {1, 2, 3, 4, 5, 6, 7, 8};
@@ -254,6 +282,46 @@ TEST_F(TipTest, ABrokenIconLeavesTheWords) {
       Widget(L"a").ShowBalloonTipEx(L"Title", L"Text", std::wstring(L"/no/such.png"), true, true));
   EXPECT_TRUE(Widget(L"a").ShowBalloonTipEx(L"Text", BalloonTipIconType::Error, true, true));
   EXPECT_GT(PlaceOfTip(1).Width(), plain);
+}
+
+// -- Prompts
+
+TEST_F(TipTest, APromptPointsAtItsWidgetAndGoesWithIt) {
+  Open(ColumnForm(ButtonXml("a") + ButtonXml("b")));
+  const auto prompt = Widget(L"a").InsertPromptsPopup(L"Enter a number", 0, 0, false);
+  EXPECT_FALSE(prompt->IsShown());
+  Widget(L"a").ShowPromptsPopup(prompt, true);
+  EXPECT_TRUE(prompt->IsShown());
+  EXPECT_EQ(PlaceOfTip(0).top, Widget(L"a").GetWindowRect().PlatformRect().bottom);
+  robot_.Key(VK_LEFT);
+  robot_.AdvanceTime(60000);
+  EXPECT_TRUE(prompt->IsShown());
+  Widget(L"b").ShowBalloonTipEx(L"Text", BalloonTipIconType::Error, true, true);
+  EXPECT_FALSE(prompt->IsShown()) << "one tip at a time";
+  Widget(L"a").ShowPromptsPopup(prompt, true);
+  Widget(L"a").ShowPromptsPopup(prompt, false);
+  EXPECT_TRUE(Tips().empty());
+  Widget(L"a").ShowPromptsPopup(nullptr, true);
+  Widget(L"a").ShowPromptsPopup(prompt, true);
+  dialog_.reset();
+  EXPECT_FALSE(prompt->IsShown());
+}
+
+TEST_F(TipTest, APromptGoesWithInputOrInTimeAndBreaksItsLines) {
+  Open(ColumnForm(ButtonXml("a")));
+  dialog_->SetFocusToCtrl(&Widget(L"a"));
+  PromptsPopup prompt(L"words and words and words", 60, 2000, true);
+  EXPECT_TRUE(prompt.Show(Widget(L"a")));
+  EXPECT_LE(PlaceOfTip(1).Width(), 60 + 2 * 8);
+  robot_.AdvanceTime(1900);
+  EXPECT_TRUE(prompt.IsShown());
+  robot_.AdvanceTime(200);
+  EXPECT_FALSE(prompt.IsShown());
+  EXPECT_TRUE(prompt.Show(Widget(L"a")));
+  robot_.Key(VK_LEFT);
+  EXPECT_FALSE(prompt.IsShown());
+  prompt.SetText(L"");
+  EXPECT_FALSE(prompt.Show(Widget(L"a")));
 }
 
 }  // namespace
