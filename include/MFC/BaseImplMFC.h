@@ -91,6 +91,8 @@ class BaseImplMFC : public BaseImpl {
   int HeightForWidth(int width) override;
   bool HasHeightForWidth() override;
   Rect GetLayoutRect() override;
+  // What the window has for its content: the client area.
+  virtual Rect GetLocalRect() { return GetClientRect(); }
   Rect LayoutGeometry() override { return lastGeometry_; }
   bool PostLayoutRequest() override;
   int ParentScrollOffset() override;
@@ -154,9 +156,6 @@ class BaseImplMFC : public BaseImpl {
   // The window's text, or what it will be given.
   std::wstring Text();
   void SetText(const std::wstring& text);
-
-  // Lets the library's window procedure see the window's messages.
-  void AttachWindowProcedure();
 
  private:
   Size Clamped(int width, int height) const;

@@ -4,6 +4,8 @@
 
 namespace Wexa {
 
+class BaseGUIObject;
+
 inline constexpr UINT_PTR kWindowProcedureId = 1;
 // Asks a top-level widget to lay out again.
 inline constexpr UINT kUpdateLayoutsMessage = WM_APP + 2;
@@ -15,5 +17,9 @@ inline constexpr LPARAM kPostPaint = 1;
 // processing run when that did not handle them.
 LRESULT WexaWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                             DWORD_PTR data);
+
+// From now on, or no longer, the widget gets the window's messages and the calls posted to it.
+void AttachWindowProcedure(BaseGUIObject& widget, HWND window);
+void DetachWindowProcedure(BaseGUIObject& widget, HWND window);
 
 }  // namespace Wexa

@@ -5,7 +5,6 @@
 
 #include "BaseGUIObject.h"
 #include "MFC/BalloonTip.h"
-#include "MFC/DeferredCalls.h"
 #include "MFC/DialogFont.h"
 #include "MFC/EventDispatch.h"
 #include "MFC/WidgetColors.h"
@@ -71,7 +70,10 @@ void BaseImplMFC::KeepState() {
 }
 
 void BaseImplMFC::Release() {
-  if (CWnd* window = GetCWnd()) window->DestroyWindow();
+  HWND window = GetHandle();
+  if (window) Window().DestroyWindow();
+  // One of the window's last handlers may be what ends the widget: the window is there still.
+  if (IsWindow(window) && owner_) DetachWindowProcedure(*owner_, window);
   owner_ = nullptr;
 }
 
@@ -91,16 +93,10 @@ CWnd& BaseImplMFC::Window() {
 bool BaseImplMFC::Create(HWND parent) {
   lastGeometry_ = Rect();
   if (!IsWindow(parent) || !CreateNative(CWnd::FromHandle(parent))) return false;
-  AttachWindowProcedure();
+  AttachWindowProcedure(*owner_, GetHandle());
   Window().SetFont(Font(), false);
   if (!creation_.enabled) Enable(false, true);
   return true;
-}
-
-void BaseImplMFC::AttachWindowProcedure() {
-  SetWindowSubclass(GetHandle(), WexaWindowProcedure, kWindowProcedureId,
-                    reinterpret_cast<DWORD_PTR>(owner_), MoveInterest::SizeOnly);
-  AddReceiver(owner_, GetHandle());
 }
 
 CRect BaseImplMFC::ScaledRect() const {
@@ -222,7 +218,7 @@ bool BaseImplMFC::HasHeightForWidth() {
 
 Rect BaseImplMFC::GetLayoutRect() {
   const auto& margins = Links().contentsMargins;
-  return GetClientRect().MarginsAdded(-margins[0], -margins[1], -margins[2], -margins[3]);
+  return GetLocalRect().MarginsAdded(-margins[0], -margins[1], -margins[2], -margins[3]);
 }
 
 void BaseImplMFC::SetLayoutGeometry(int x, int y, int width, int height) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "MFC/EventDispatch.h"
 #include "MFC/WidgetColors.h"
 #include "WexaException.h"
 #include "platform/ControlConstants.h"
@@ -91,7 +92,7 @@ void Button::impl::MakeCheckable() {
   window_ = std::make_shared<ButtonMFC<Button>>(*this);
   if (!CreateButton(rect, style, parent))
     throw WexaException("include/MFC/ButtonImplMFC", __LINE__, "SetChecked re-create error");
-  AttachWindowProcedure();
+  AttachWindowProcedure(*Owner(), GetHandle());
   window_->SetFont(font);
   window_->SetWindowPos(previous, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   checkable_ = true;

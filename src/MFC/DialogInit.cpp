@@ -11,6 +11,7 @@
 #include "MFC/BaseDialogMFC.h"
 #include "MFC/ButtonImplMFC.h"
 #include "MFC/DialogImplMFC.h"
+#include "MFC/EventDispatch.h"
 #include "MFC/ToolTips.h"
 #include "Utf16.h"
 #include "WexaConfig.h"
@@ -64,7 +65,7 @@ bool Dialog::impl::OnInitDialog() {
   SettleStyle();
   SizeToClient();
   CreateElements();
-  AttachWindowProcedure();
+  AttachWindowProcedure(*Owner(), GetHandle());
   ApplyTabOrder();
   ArrangeFirstTime();
   if ((Creation().style & kNoCentering) == 0) window_->CenterWindow();

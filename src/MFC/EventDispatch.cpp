@@ -3,9 +3,11 @@
 #include <memory>
 
 #include "BaseGUIObject.h"
+#include "ContextMenu.h"
 #include "Event.h"
 #include "KeyMap.h"
 #include "MFC/BackgroundMove.h"
+#include "MFC/BalloonTip.h"
 #include "MFC/BaseImplMFC.h"
 #include "MFC/DeferredCalls.h"
 #include "MFC/ToolTips.h"
@@ -76,7 +78,7 @@ class EventDispatch {
       case WM_KILLFOCUS: return Finish(message, Offer(FocusEvent(Event::FocusOut)));
       case WM_SHOWWINDOW: return Finish(message, OfferVisibility(wParam_ != 0));
       case WM_WINDOWPOSCHANGED: return Finish(message, OnPositionChanged());
-      case WM_CONTEXTMENU: return Finish(message, Offer(ContextMenuEvent()));
+      case WM_CONTEXTMENU: return Finish(message, OnContextMenu());
       case WM_GETDLGCODE: return OnDialogCode();
       case WM_KEYDOWN: return Finish(message, OnKey(Event::KeyPress));
       case WM_KEYUP: return Finish(message, OnKey(Event::KeyRelease));
@@ -138,13 +140,16 @@ class EventDispatch {
     return Finish(WM_SETFOCUS, Offer(FocusEvent(Event::FocusIn)));
   }
 
+  bool IsEdit() const {
+    using enum BaseGUIObject::GuiType;
+    return widget_.Type() == Edit || widget_.Type() == MultiLineEdit || widget_.Type() == RichEdit;
+  }
+
   // Keyboard input that text widgets take as characters.
   bool IsTextWidget() const {
     using enum BaseGUIObject::GuiType;
+    if (IsEdit()) return true;
     switch (widget_.Type()) {
-      case Edit:
-      case MultiLineEdit:
-      case RichEdit:
       case SpinEdit:
       case DoubleSpinEdit:
       case ListBox:
@@ -168,9 +173,9 @@ class EventDispatch {
       layout->WidgetEvent(&event);
     }
     if (!IsAlive() || !HasProcedure()) return false;
-    ResizeEvent event(g_lastResize, size);
+    const bool handled = Offer(ResizeEvent(g_lastResize, size));
     g_lastResize = size;
-    return Offer(event);
+    return handled;
   }
 
   bool OnActivate() {
@@ -186,6 +191,14 @@ class EventDispatch {
     if (flags & SWP_SHOWWINDOW) handled = Offer(ShowEvent());
     if (IsAlive() && (flags & SWP_HIDEWINDOW)) handled = Offer(HideEvent()) || handled;
     return handled;
+  }
+
+  // A widget without a menu lets the request climb to its parent.
+  bool OnContextMenu() {
+    if (Offer(ContextMenuEvent())) return true;
+    const auto menu = IsAlive() && !IsEdit() ? widget_.GetContextMenu() : nullptr;
+    if (menu) menu->Show(true);
+    return menu != nullptr;
   }
 
   // A Tab that the host handles stays with the widget: the focus does not move on.
@@ -324,15 +337,14 @@ class EventDispatch {
 
   LRESULT OnDestroy() {
     impl_.KeepState();
-    impl_.HideBalloonTip();
+    BalloonTip::OnWindowGone(window_);
     widget_.Destroyed(&widget_);
     return Default(WM_DESTROY);
   }
 
   LRESULT OnFinalDestroy() {
-    RemoveReceiver(&widget_, window_);
-    LRESULT result = Default(WM_NCDESTROY);
-    RemoveWindowSubclass(window_, WexaWindowProcedure, kWindowProcedureId);
+    const LRESULT result = Default(WM_NCDESTROY);
+    DetachWindowProcedure(widget_, window_);
     return result;
   }
 
@@ -349,6 +361,17 @@ LRESULT WexaWindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lPa
   const auto impl = widget.GetBaseImpl();  // outlives a widget that dies in its own handler
   return EventDispatch(window, widget, static_cast<BaseImplMFC&>(*impl), wParam, lParam)
       .Handle(message);
+}
+
+void AttachWindowProcedure(BaseGUIObject& widget, HWND window) {
+  SetWindowSubclass(window, WexaWindowProcedure, kWindowProcedureId,
+                    reinterpret_cast<DWORD_PTR>(&widget), MoveInterest::SizeOnly);
+  AddReceiver(&widget, window);
+}
+
+void DetachWindowProcedure(BaseGUIObject& widget, HWND window) {
+  RemoveReceiver(&widget, window);
+  RemoveWindowSubclass(window, WexaWindowProcedure, kWindowProcedureId);
 }
 
 }  // namespace Wexa

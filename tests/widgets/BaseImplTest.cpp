@@ -1,9 +1,14 @@
 #include "MFC/BaseImplMFC.h"
 
+#include "Edit.h"
 #include "Event.h"
 #include "Label.h"
-#include "platform/VirtualKeys.h"
+#include "ScaleFactor.h"
+#include "WexaException.h"
+#include "WexaUtils.h"
+#include "platform/Font.h"
 #include "support/FormTest.h"
+#include "support/Printers.h"
 
 namespace Wexa {
 namespace {
@@ -23,8 +28,6 @@ class WidgetTest : public FormTest {
     widget.SetEventProcedure([this, handled](BaseGUIObject*, Event* event) {
       if (event->GetType() == Event::PostPaint || event->GetType() == Event::Paint) return false;
       types_.push_back(event->GetType());
-      if (event->GetType() == Event::KeyPress)
-        texts_ += static_cast<KeyEvent*>(event)->GetText();
       if (event->GetType() == Event::Resize) oldSize_ = static_cast<ResizeEvent*>(event)->OldSize();
       return handled;
     });
@@ -35,7 +38,6 @@ class WidgetTest : public FormTest {
   }
 
   std::vector<Event::Type> types_;
-  std::wstring texts_;
   Size oldSize_;
 };
 
@@ -47,6 +49,127 @@ TEST_F(WidgetTest, ARememberedDisableOutlivesATemporaryEnable) {
   EXPECT_FALSE(edit.IsEnabled());
   edit.Enable(true, true);
   EXPECT_TRUE(edit.IsEnabled());
+}
+
+TEST_F(WidgetTest, WhatNeedsAWindowSaysThatThereIsNone) {
+  Edit edit;
+  const std::function<void()> operations[] = {
+      [&] { edit.Show(true, false); },
+      [&] { edit.Enable(true, true); },
+      [&] { edit.IsEnabled(); },
+      [&] { edit.GetWindowRect(); },
+      [&] { edit.GetWindowRectUnscaled(); },
+      [&] { edit.GetClientRect(); },
+      [&] { edit.ScreenToClient(Point()); },
+      [&] { edit.ClientToScreen(Point()); },
+      [&] { edit.MoveWindow(0, 0, 1, 1, true); },
+      [&] { edit.MoveWindowUnscaled(0, 0, 1, 1, true); },
+      [&] { edit.GetFrarmeWidth(); },
+      [&] { edit.GetLogicalPixelsX(); },
+      [&] { edit.GetLogicalPixelsY(); },
+      [&] { edit.SetTimer(1, 1); },
+      [&] { edit.KillTimer(1); },
+      [&] { edit.Update(); },
+      [&] { edit.Update(Region()); },
+      [&] { edit.Repaint(); },
+      [&] { edit.Repaint(Region()); },
+      [&] { edit.SetTrackMouseEvent(); },
+  };
+  for (std::size_t i = 0; i < std::size(operations); ++i) {
+    try {
+      operations[i]();
+      ADD_FAILURE() << "operation " << i;
+    } catch (const WexaException& error) {
+      EXPECT_NE(std::string(error.what()).find("Control is not valid."), std::string::npos);
+    }
+  }
+  edit.SetAcceptDrops(true);
+  EXPECT_FALSE(edit.IsAcceptDrops());
+  EXPECT_EQ(edit.GetPlatformHandle(), nullptr);
+  EXPECT_EQ(ImplOf(&edit)->BaseImplMFC::IdealSize(), Size(-1, -1));
+  EXPECT_EQ(ImplOf(&edit)->HeightForWidth(50), -1);
+}
+
+TEST_F(WidgetTest, MetricsAreThoseOfTheWindow) {
+  Open(ColumnForm(EditXml("edit")));
+  const Rect window = dialog_->GetWindowRect();
+  const Rect client = dialog_->GetClientRect();
+  EXPECT_GT(dialog_->GetFrarmeWidth(), 0);
+  EXPECT_EQ(dialog_->GetFrarmeWidth(), (window.Width() - client.Width()) / 2);
+  const DWORD style = dialog_->GetPlatformWindow()->GetStyle();
+  EXPECT_EQ(WexaUtils::DialogFrameWidth(style),
+            static_cast<unsigned>(window.Width() - client.Width()));
+  EXPECT_EQ(WexaUtils::DialogFrameHeight(style),
+            static_cast<unsigned>(window.Height() - client.Height()));
+  EXPECT_EQ(WexaUtils::DialogFrameHeight(WS_POPUP), 0u);
+  EXPECT_EQ(dialog_->GetLogicalPixelsX(), 96);
+  EXPECT_EQ(dialog_->GetLogicalPixelsY(), 96);
+  EXPECT_EQ(dialog_->ScreenToClient(dialog_->ClientToScreen(Point(3, 4))), Point(3, 4));
+  CWnd* object = Find<BaseGUIObject>(L"edit").GetPlatformWindow();
+  EXPECT_EQ(WexaUtils::GetHandleFromWndPtr(object), Find<Edit>(L"edit").GetPlatformHandle());
+  EXPECT_EQ(WexaUtils::GetWndPtrFromHandle(object->GetSafeHwnd()), object);
+  EXPECT_EQ(WexaUtils::GetHandleFromWndPtr(nullptr), nullptr);
+  EXPECT_EQ(WexaUtils::GetWndPtrFromHandle(nullptr), nullptr);
+  robot_.MoveTo(POINT{31, 17});
+  EXPECT_EQ(WexaUtils::GetCursorPosition(), Point(31, 17));
+}
+
+TEST(CursorTypes, HaveTheirNativeIdentifiers) {
+  constexpr wchar_t kArrow = 32512;
+  const wchar_t natives[] = {kArrow, kArrow, 32514, 32513, 32515, 32516, 32640, kArrow,
+                             32642,  32643,  32644, 32645, 32646, 32648, 32649, kArrow};
+  for (int type = 0; type < 16; ++type) {
+    wchar_t* native = WexaUtils::GetPlattformCursorType(static_cast<WexaUtils::CursorTypes>(type));
+    EXPECT_EQ(native[0], natives[type]) << type;
+  }
+}
+
+TEST_F(WidgetTest, UnscaledPlacesAndLimitsAreIn96thsOfAnInch) {
+  Open(FormXml(WidgetXml("QLineEdit", "edit"), 300, 200));
+  auto& edit = Find<BaseGUIObject>(L"edit");
+  SetScreenDpi(144);
+  ResetScaleFactor();
+  edit.MoveWindowUnscaled(10, 11, 51, 20, true);
+  EXPECT_EQ(PlaceOf(L"edit"), Rect(15, 16, 76, 30));
+  EXPECT_EQ(edit.GetWindowRectUnscaled().Width(), 50) << "cut off, as all metrics";
+  edit.SetMaximumSize(Size(33, 100));
+  EXPECT_EQ(edit.MaximumSize(), Size(50, 150)) << "rounded";
+  SetScreenDpi(96);
+  ResetScaleFactor();
+}
+
+TEST_F(WidgetTest, TextIsMeasuredInTheWidgetsFontOrAnother) {
+  Open(ColumnForm(EditXml("edit")));
+  auto& edit = Find<BaseGUIObject>(L"edit");
+  std::wstring text = L"Some words";
+  FontData large;
+  large.faceName = L"DejaVu Sans";
+  large.pointSize = 30;
+  const int usual = edit.GetWidthForText(text, nullptr);
+  const int wide = edit.GetWidthForText(text, &large);
+  EXPECT_GT(usual, 20);
+  EXPECT_GT(wide, 2 * usual);
+  ImplOf(&edit)->SetFont(large);
+  EXPECT_EQ(edit.GetWidthForText(text, nullptr), wide);
+}
+
+TEST_F(WidgetTest, EachWayToRedrawPaintsOnce) {
+  Open(ColumnForm(EditXml("edit")));
+  auto& edit = Find<BaseGUIObject>(L"edit");
+  int paints = 0;
+  edit.SetEventProcedure([&](BaseGUIObject*, Event* event) {
+    if (event->GetType() == Event::Paint) ++paints;
+    return false;
+  });
+  const Region corner(Rect(0, 0, 4, 4), RegionType::Rectangular);
+  const std::function<void()> ways[] = {[&] { edit.Update(); }, [&] { edit.Update(corner); },
+                                        [&] { edit.Repaint(); }, [&] { edit.Repaint(corner); }};
+  for (const auto& redraw : ways) {
+    paints = 0;
+    redraw();
+    Robot::PumpAll();
+    EXPECT_EQ(paints, 1);
+  }
 }
 
 TEST_F(WidgetTest, MovesAreKeptWithinTheLimitsAndTheMinimumWins) {
@@ -82,20 +205,6 @@ TEST_F(WidgetTest, ResizeEventsShareOneOldSize) {
   EXPECT_EQ(oldSize_.Height(), first.Height());
 }
 
-TEST_F(WidgetTest, LettersComeAsCharactersAndFunctionKeysAsKeys) {
-  Open(ColumnForm(EditXml("edit")));
-  auto& edit = Find<BaseGUIObject>(L"edit");
-  dialog_->SetFocusToCtrl(&edit);
-  Listen(edit);
-  robot_.Type(L"a b");
-  EXPECT_EQ(texts_, L"a b");
-  EXPECT_FALSE(Got(Event::KeyRelease)) << "neither letters nor a text widget's Space are keys";
-  texts_.clear();
-  robot_.Key(VK_F10 - 1);
-  EXPECT_EQ(texts_, L"");
-  EXPECT_TRUE(Got(Event::KeyRelease));
-}
-
 TEST_F(WidgetTest, AHandledCharacterDoesNotReachTheEdit) {
   Open(ColumnForm(EditXml("edit")));
   auto& edit = Find<BaseGUIObject>(L"edit");
@@ -104,21 +213,6 @@ TEST_F(WidgetTest, AHandledCharacterDoesNotReachTheEdit) {
   Listen(edit, true);
   robot_.Type(L"y");
   EXPECT_EQ(static_cast<BaseImplMFC*>(edit.GetBaseImpl().get())->GetCWnd()->GetWindowText(), L"x");
-}
-
-TEST_F(WidgetTest, MouseEventsFollowThePointer) {
-  Open(ColumnForm(EditXml("edit")));
-  auto& edit = Find<BaseGUIObject>(L"edit");
-  Listen(edit);
-  robot_.ClickCentreOf(edit.GetPlatformHandle());
-  EXPECT_TRUE(Got(Event::MouseMove));
-  EXPECT_TRUE(Got(Event::MousePress));
-  EXPECT_TRUE(Got(Event::MouseRelease));
-  EXPECT_TRUE(Got(Event::FocusIn) || dialog_->GetFocusedCtrlPtr() == &edit);
-  robot_.AdvanceTime(10);
-  EXPECT_TRUE(Got(Event::HoverEnter));
-  robot_.MoveTo(POINT{1, 1});
-  EXPECT_TRUE(Got(Event::MouseLeave));
 }
 
 TEST_F(WidgetTest, AHandledPaintSuppressesTheNativeOneAndEnds) {
@@ -182,29 +276,6 @@ TEST_F(WidgetTest, DestroyedIsFiredWithTheWidget) {
   edit.Destroyed.Connect([&](BaseGUIObject* widget) { dead = widget; });
   dialog_->Done(Dialog::Rejected);
   EXPECT_EQ(dead, &edit);
-}
-
-TEST_F(WidgetTest, AnyEventMayEndTheDialog) {
-  for (Event::Type fatal : {Event::KeyPress, Event::MousePress, Event::MouseMove, Event::FocusOut,
-                            Event::Paint, Event::Resize, Event::Hide, Event::Timer}) {
-    Open(ColumnForm(EditXml("edit") + EditXml("next")));
-    auto& edit = Find<BaseGUIObject>(L"edit");
-    dialog_->SetFocusToCtrl(&edit);
-    edit.SetEventProcedure([&](BaseGUIObject*, Event* event) {
-      if (event->GetType() == fatal) dialog_.reset();
-      return false;
-    });
-    if (dialog_) edit.SetTimer(1, 5);
-    if (dialog_) robot_.ClickCentreOf(edit.GetPlatformHandle());
-    if (dialog_) robot_.AdvanceTime(20);
-    if (dialog_) robot_.Type(L"a");
-    if (dialog_) robot_.Tab();
-    if (dialog_) edit.Repaint();
-    Robot::PumpAll();
-    if (dialog_) edit.MoveWindow(0, 0, 11, 11, true);
-    if (dialog_) edit.Show(false, true);
-    EXPECT_EQ(dialog_, nullptr) << fatal;
-  }
 }
 
 }  // namespace

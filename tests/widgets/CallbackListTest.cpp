@@ -143,6 +143,34 @@ TEST_F(QueuedCallTest, AReceiverGetsCallsAgainWhenItsWindowIsBack) {
   EXPECT_EQ(calls, 10);
 }
 
+TEST_F(QueuedCallTest, ACallMayEndItsReceiverAndItsList) {
+  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+  int calls = 0;
+  auto list = std::make_unique<List>();
+  list->Connect(dialog_.get(), [&](int) {
+    ++calls;
+    list.reset();
+    dialog_.reset();
+  });
+  (*list)(1);
+  (*list)(2);
+  Robot::PumpAll();
+  EXPECT_EQ(calls, 1);
+}
+
+TEST_F(QueuedCallTest, ADialogMayBeDestroyedWhenItOrAWidgetGoes) {
+  for (const bool ofDialog : {false, true}) {
+    Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+    BaseGUIObject& going = ofDialog ? *dialog_ : Find<BaseGUIObject>(L"edit");
+    going.Destroyed.Connect([&](BaseGUIObject* widget) {
+      EXPECT_EQ(widget, &going);
+      dialog_.reset();
+    });
+    dialog_->Done(Dialog::Rejected);
+    EXPECT_EQ(dialog_, nullptr);
+  }
+}
+
 TEST_F(QueuedCallTest, ArgumentsAreCopied) {
   Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
   CallbackList<std::wstring> list;

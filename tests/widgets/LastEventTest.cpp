@@ -1,5 +1,6 @@
-// Whatever the event: the host may end the dialog, or all dialogs, while it handles it.
+// Whatever the event: the host may end the widget, its dialog, or all dialogs, while it handles it.
 
+#include "Edit.h"
 #include "Event.h"
 #include "MFC/BaseImplMFC.h"
 #include "platform/SystemColors.h"
@@ -9,7 +10,7 @@
 namespace Wexa {
 namespace {
 
-enum class End { DestroyDialog, CloseDialogs };
+enum class End { DestroyWidget, DestroyDialog, CloseDialogs };
 
 struct LastEvent {
   Event::Type type;
@@ -26,16 +27,31 @@ class LastEventTest : public FormTest, public testing::WithParamInterface<LastEv
     other_->DoModeless(true);
     Open(ColumnForm(items));
     edit_ = &Find<BaseGUIObject>(L"edit");
+    if (GetParam().end == End::DestroyWidget) {
+      edit_ = &PutInTheWayOf(*edit_);
+    } else {
+      Watch(*dialog_);
+      Watch(Find<BaseGUIObject>(L"button"));
+    }
     edit_->SetAcceptDrops(true);
     Watch(*edit_);
-    Watch(*dialog_);
-    Watch(Find<BaseGUIObject>(L"button"));
   }
   ~LastEventTest() override {
     other_.reset();
     SetSystemScheme(SystemScheme::Light);
     Robot::Screen().ChangeResolution(96);
     Robot::PumpAll();
+  }
+
+  // A widget of the host's own, in the place of another.
+  Edit& PutInTheWayOf(BaseGUIObject& widget) {
+    const Rect place = PlaceOf(widget.GetName().c_str());
+    widget.Show(false, false);
+    own_ = std::make_unique<Edit>();
+    own_->Create(dialog_->GetHandle());
+    own_->MoveWindow(place.Left(), place.Top(), place.Width(), place.Height(), true);
+    Robot::PumpAll();
+    return *own_;
   }
 
   void Watch(BaseGUIObject& widget) {
@@ -47,6 +63,7 @@ class LastEventTest : public FormTest, public testing::WithParamInterface<LastEv
 
   void EndAll() {
     ended_ = true;
+    if (GetParam().end == End::DestroyWidget) return own_.reset();
     if (GetParam().end == End::DestroyDialog) return dialog_.reset();
     for (Dialog* dialog : {other_.get(), dialog_.get()})
       if (dialog->GetHandle()) dialog->Done(Dialog::Rejected);
@@ -72,7 +89,7 @@ class LastEventTest : public FormTest, public testing::WithParamInterface<LastEv
   }
 
   void UseKeyboard() {
-    Then([&] { dialog_->SetFocusToCtrl(edit_); });
+    Then([&] { SetFocus(Window()); });
     Then([&] { robot_.Type(L"a"); });
     Then([&] { robot_.Key(VK_LEFT); });
     Then([&] { robot_.Tab(); });
@@ -86,6 +103,7 @@ class LastEventTest : public FormTest, public testing::WithParamInterface<LastEv
     Then([&] { edit_->Show(false, true); });
     Then([&] { edit_->Show(true, true); });
     Then([&] { DragCaption(); });
+    Then([&] { edit_->MoveWindow(10, 10, 90, 30, true); });
     Then([&] { dialog_->MoveWindow(10, 10, 500, 400, true); });
     Then([&] { Robot::Screen().LoseFocus(); });
     Then([&] { robot_.ClickCentreOf(Window()); });
@@ -100,19 +118,33 @@ class LastEventTest : public FormTest, public testing::WithParamInterface<LastEv
   }
 
   std::unique_ptr<Dialog> other_;
+  std::unique_ptr<Edit> own_;
   BaseGUIObject* edit_ = nullptr;
   bool ended_ = false;
 };
 
-TEST_P(LastEventTest, TheDialogMayEndInIt) {
+TEST_P(LastEventTest, TheWidgetItsDialogOrAllMayEndInIt) {
   UsePointer();
   UseKeyboard();
   UseWindow();
   EXPECT_TRUE(ended_) << "the event never came";
-  if (GetParam().end == End::CloseDialogs) {
-    EXPECT_EQ(dialog_->GetHandle(), nullptr);
-  } else {
+  if (GetParam().end == End::DestroyDialog) {
     EXPECT_EQ(dialog_, nullptr);
+  } else {
+    EXPECT_EQ(IsWindow(dialog_->GetHandle()), GetParam().end == End::DestroyWidget);
+  }
+}
+
+// Those that come to dialogs alone.
+bool IsOfDialogs(Event::Type type) {
+  switch (type) {
+    case Event::WindowActivate:
+    case Event::WindowDeactivate:
+    case Event::ApplicationPaletteChange:
+    case Event::LayoutsUpdated:
+    case Event::DpiChange:
+    case Event::Moving: return true;
+    default: return false;
   }
 }
 
@@ -131,6 +163,7 @@ std::vector<LastEvent> AllEvents() {
                            Event::ContextMenu,    Event::HoverEnter,
                            Event::DpiChange,      Event::Moving,
                            Event::PostPaint}) {
+    if (!IsOfDialogs(type)) events.push_back({type, End::DestroyWidget});
     events.push_back({type, End::DestroyDialog});
     events.push_back({type, End::CloseDialogs});
   }
@@ -138,8 +171,9 @@ std::vector<LastEvent> AllEvents() {
 }
 
 std::string NameOf(const testing::TestParamInfo<LastEvent>& info) {
-  const std::string how = info.param.end == End::DestroyDialog ? "Destroyed" : "Closed";
-  return how + "In" + std::to_string(info.param.type);
+  constexpr const char* kEnds[] = {"WidgetDestroyed", "DialogDestroyed", "DialogsClosed"};
+  return std::string(kEnds[static_cast<int>(info.param.end)]) + "In" +
+         std::to_string(info.param.type);
 }
 
 INSTANTIATE_TEST_SUITE_P(Events, LastEventTest, testing::ValuesIn(AllEvents()), NameOf);
