@@ -9,6 +9,8 @@
 
 #include "Types.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 inline constexpr int kMaxPictureSide = 16384;
 inline constexpr std::int64_t kMaxPicturePixels = std::int64_t{64} * 1024 * 1024;
 
@@ -67,3 +69,5 @@ BOOL DestroyIcon(HICON icon);
 BOOL GetIconInfo(HICON icon, ICONINFO* info);
 // Zero for a stale handle.
 SIZE GetIconSize(HICON icon);
+
+#pragma GCC visibility pop

@@ -11,6 +11,8 @@
 #include "Theme.h"
 #include "Window.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 class CFont {
  public:
   CFont() = default;
@@ -210,3 +212,5 @@ class CDialogEx : public CWnd {
 BOOL AfxPumpMessage();
 // Pumps while there is something to do at once.
 void AfxPumpPending();
+
+#pragma GCC visibility pop

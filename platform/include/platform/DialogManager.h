@@ -6,6 +6,8 @@
 
 #include "Window.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 #pragma pack(push, 2)
 struct DLGTEMPLATE {  // 18 bytes
   DWORD style;
@@ -19,8 +21,9 @@ struct DLGTEMPLATE {  // 18 bytes
 #pragma pack(pop)
 static_assert(sizeof(DLGTEMPLATE) == 18);
 
-// Makes a window of the dialog class from a template without controls: header, menu, class, title as
-// UTF-16. `param` reaches WM_INITDIALOG as lParam; sent after creation. Null when it cannot be made.
+// Makes a window of the dialog class from a template without controls: header, menu, class, title
+// as UTF-16. `param` reaches WM_INITDIALOG as lParam; sent after creation. Null when it cannot be
+// made.
 HWND CreateDialogIndirectParamW(const DLGTEMPLATE* dialogTemplate, HWND owner, WNDPROC procedure,
                                 LPARAM param);
 // Default processing of dialog windows: default button ids, focus restoring, closing.
@@ -34,3 +37,5 @@ BOOL CheckRadioButton(HWND dialog, int first, int last, int check);
 wchar_t GetMnemonic(std::wstring_view text);
 // Whether the character, in either case, is the text's mnemonic.
 bool IsMnemonic(std::wstring_view text, wchar_t character);
+
+#pragma GCC visibility pop

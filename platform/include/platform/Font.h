@@ -10,6 +10,8 @@
 
 #include "Types.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 inline constexpr int LF_FACESIZE = 32;
 inline constexpr int FW_NORMAL = 400;
 inline constexpr int FW_BOLD = 700;
@@ -86,9 +88,11 @@ class TextLine {
   std::unique_ptr<Impl> impl_;
 };
 
-// The screen's resolution; the first question opens the display, which may throw as it does. 96 in a
-// program without displays.
+// The screen's resolution; the first question opens the display, which may throw as it does. 96 in
+// a program without displays.
 int GetScreenDpi();
 void SetScreenDpi(int dpi);
 // A metric of 96-DPI units in pixels, truncated toward zero; never below 1x.
 int ScaleUnits(int units);
+
+#pragma GCC visibility pop

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 // A font family of the system, described by its plainest face.
 struct FontFamily {
   std::wstring name;
@@ -13,3 +15,5 @@ struct FontFamily {
 
 // Every installed family once, in no particular order.
 std::vector<FontFamily> ListFontFamilies();
+
+#pragma GCC visibility pop

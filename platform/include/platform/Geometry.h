@@ -4,6 +4,8 @@
 
 #include "Types.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 BOOL SetRect(RECT* rect, int left, int top, int right, int bottom);
 BOOL SetRectEmpty(RECT* rect);
 BOOL IsRectEmpty(const RECT* rect);
@@ -64,3 +66,5 @@ class CRect : public RECT {
     return left == r.left && top == r.top && right == r.right && bottom == r.bottom;
   }
 };
+
+#pragma GCC visibility pop

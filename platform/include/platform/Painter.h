@@ -6,6 +6,8 @@
 #include "Font.h"
 #include "Types.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 inline constexpr UINT DT_LEFT = 0x0;
 inline constexpr UINT DT_CENTER = 0x1;
 inline constexpr UINT DT_RIGHT = 0x2;
@@ -13,7 +15,7 @@ inline constexpr UINT DT_VCENTER = 0x4;  // also for several lines
 inline constexpr UINT DT_BOTTOM = 0x8;
 inline constexpr UINT DT_WORDBREAK = 0x10;
 inline constexpr UINT DT_SINGLELINE = 0x20;
-inline constexpr UINT DT_NOPREFIX = 0x800;      // "&" is drawn, not a mnemonic mark
+inline constexpr UINT DT_NOPREFIX = 0x800;       // "&" is drawn, not a mnemonic mark
 inline constexpr UINT DT_END_ELLIPSIS = 0x8000;  // a line too long ends in an ellipsis
 inline constexpr UINT DT_RTLREADING = 0x20000;
 inline constexpr UINT DT_HIDEPREFIX = 0x100000;  // mnemonics are not underlined
@@ -61,6 +63,8 @@ class Painter {
  private:
   struct DeviceContext* Context() const;
 
-  HDC dc_;  // looked up by every operation: the painter may outlive it
+  HDC dc_;                  // looked up by every operation: the painter may outlive it
   std::size_t outerClips_;  // clips that were pushed before this painter came
 };
+
+#pragma GCC visibility pop

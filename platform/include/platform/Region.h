@@ -2,6 +2,8 @@
 
 #include "Types.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 inline constexpr int RGN_AND = 1;
 inline constexpr int RGN_OR = 2;
 inline constexpr int RGN_XOR = 3;
@@ -41,3 +43,5 @@ class CRgn {
  private:
   HRGN region_ = nullptr;
 };
+
+#pragma GCC visibility pop

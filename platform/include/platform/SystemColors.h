@@ -7,6 +7,8 @@
 
 #include "Types.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 inline constexpr int COLOR_SCROLLBAR = 0;
 inline constexpr int COLOR_BACKGROUND = 1;
 inline constexpr int COLOR_ACTIVECAPTION = 2;
@@ -40,3 +42,5 @@ SystemScheme GetSystemScheme();
 void SetSystemScheme(std::optional<SystemScheme> scheme);
 // What the desktop asks for from now on.
 void SetDesktopScheme(SystemScheme scheme);
+
+#pragma GCC visibility pop

@@ -7,6 +7,8 @@
 
 #include "Painter.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 // What a control paints with. A window is asked for its palette with WM_GETCONTROLPALETTE
 // (lParam = ControlPalette* to change); unanswered, the system colours stand.
 struct ControlPalette {
@@ -104,3 +106,5 @@ RECT CloseButtonRect(const RECT& caption);
 void DrawWindowFrame(Painter&, const RECT&, int thickness, bool active);
 
 }  // namespace Theme
+
+#pragma GCC visibility pop

@@ -13,6 +13,8 @@
 #include "WindowMessages.h"
 #include "WindowStyles.h"
 
+#pragma GCC visibility push(default)  // hosts may use all of this
+
 using WNDPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM);
 using SUBCLASSPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM, UINT_PTR id, DWORD_PTR data);
 
@@ -239,3 +241,5 @@ BOOL DragAcceptFiles(HWND window, BOOL accept);
 UINT DragQueryFileW(HDROP drop, UINT index, wchar_t* buffer, UINT count);
 BOOL DragQueryPoint(HDROP drop, POINT* point);
 void DragFinish(HDROP drop);
+
+#pragma GCC visibility pop
