@@ -28,6 +28,8 @@ class Button::impl : public BaseImplMFC {
   std::wstring GetText() { return Text(); }
   void SetChecked(bool checked);
   bool IsChecked();
+  // A toggle before there is a window, as its form says.
+  void BeginAsToggle(bool checked);
   void LoadPicture(const PictureRequest& request, bool redraw);
   void LoadPictureDisabled(const PictureRequest& request, bool redraw);
   void GeneratePictureDisabled(bool redraw);
@@ -66,6 +68,7 @@ class Button::impl : public BaseImplMFC {
   std::shared_ptr<CButton> window_;
   ButtonStyle style_ = ButtonStyle::Native;
   bool checkable_ = false;
+  bool beginsChecked_ = false;
   bool hasBorders_ = false;
   WidgetPictures pictures_;
   std::optional<std::array<RGBColor, 5>> faces_;  // normal, hovered, pressed, disabled, checked

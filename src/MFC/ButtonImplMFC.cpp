@@ -39,7 +39,9 @@ Button::impl::~impl() = default;
 
 bool Button::impl::CreateNative(CWnd* parent) {
   DWORD style = Creation().style | (checkable_ ? kToggleStyle : 0);
-  return CreateButton(ScaledRect(), style, parent);
+  if (!CreateButton(ScaledRect(), style, parent)) return false;
+  if (beginsChecked_) window_->SetCheck(BST_CHECKED);
+  return true;
 }
 
 bool Button::impl::CreateButton(const CRect& rect, DWORD style, CWnd* parent) {
@@ -99,7 +101,12 @@ void Button::impl::MakeCheckable() {
 }
 
 bool Button::impl::IsChecked() {
-  return GetHandle() && window_->GetCheck() == BST_CHECKED;
+  return GetHandle() ? window_->GetCheck() == BST_CHECKED : beginsChecked_;
+}
+
+void Button::impl::BeginAsToggle(bool checked) {
+  checkable_ = true;
+  beginsChecked_ = checked;
 }
 
 // -- Style and colours

@@ -2,14 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cwchar>
 #include <limits>
 #include <string_view>
 
 #include "CheckBox.h"
 #include "ComboBox.h"
+#include "DateEdit.h"
 #include "DoubleSpinEdit.h"
 #include "Edit.h"
 #include "GroupBox.h"
+#include "KvDateTime.h"
 #include "Label.h"
 #include "ListBox.h"
 #include "MFC/ButtonBoxImplMFC.h"
@@ -106,6 +109,15 @@ void Apply(Edit& edit, const FormNode& node) {
   if (const std::wstring* text = node.Extra(L"placeholderText")) edit.SetPlaceHolderText(*text);
 }
 
+// What a text area holds, which forms know under several names.
+std::wstring AreaTextOf(const FormNode& node) {
+  std::int32_t bold = 0;
+  if (const std::wstring* text = node.Extra(L"html")) return PlainTextOf(*text, bold);
+  if (const std::wstring* text = node.Extra(L"plainText")) return *text;
+  const std::wstring* text = node.Text(PropertyId::Text);
+  return text ? *text : L"";
+}
+
 void Apply(ComboBox& combo, const FormNode& node) {
   combo.SetItems(node.itemTexts);
   combo.SetCurrentIndex(ToInt(NumberOr(node, PropertyId::CurrentIndex, combo.GetCurrentIndex())));
@@ -131,6 +143,14 @@ void Apply(DoubleSpinEdit& spin, const FormNode& node) {
   spin.SetRange(NumberOr(node, PropertyId::Minimum, 0), NumberOr(node, PropertyId::Maximum, 99.99));
   spin.SetValue(NumberOr(node, PropertyId::Value, 0));
   ApplyFixes(spin, node);
+}
+
+// Kept as "year-month-day".
+void Apply(DateEdit& edit, const FormNode& node) {
+  const std::wstring* text = node.Extra(L"date");
+  KvDateTime date = edit.GetDate();
+  if (text && std::swscanf(text->c_str(), L"%hu-%hu-%hu", &date.year, &date.month, &date.day) == 3)
+    edit.SetDate(date);
 }
 
 void Apply(SpinEdit& spin, const FormNode& node) {
@@ -206,6 +226,7 @@ void Apply(Button& button, const FormNode& node) {
   auto* impl = static_cast<Button::impl*>(ImplOf(&button));
   const std::wstring* isDefault = node.Text(PropertyId::Default);
   impl->isDefault = isDefault && *isDefault == L"true";
+  if (IsExtraTrue(node, L"checkable")) impl->BeginAsToggle(IsExtraTrue(node, L"checked"));
 }
 
 void Apply(ButtonBox& box, const FormNode& node) {
@@ -239,6 +260,7 @@ void ApplyClassSettings(BaseGUIObject& widget, const FormNode& node) {
     case GuiType::Edit: return Apply(static_cast<Edit&>(widget), node);
     case GuiType::ComboBox:
     case GuiType::ComboBoxFS: return Apply(static_cast<ComboBox&>(widget), node);
+    case GuiType::DateEdit: return Apply(static_cast<DateEdit&>(widget), node);
     case GuiType::SpinEdit: return Apply(static_cast<SpinEdit&>(widget), node);
     case GuiType::DoubleSpinEdit: return Apply(static_cast<DoubleSpinEdit&>(widget), node);
     case GuiType::CheckBox: return Apply(static_cast<CheckBox&>(widget), node);
@@ -251,9 +273,8 @@ void ApplyClassSettings(BaseGUIObject& widget, const FormNode& node) {
     case GuiType::GroupBox: return Apply(static_cast<GroupBox&>(widget), node);
     case GuiType::ListBox: return static_cast<ListBox&>(widget).SetItems(node.itemTexts);
     case GuiType::MultiLineEdit:
-      return static_cast<MultiLineEdit&>(widget).SetText(ImplOf(&widget)->Creation().text);
-    case GuiType::RichEdit:
-      return static_cast<RichEdit&>(widget).SetText(ImplOf(&widget)->Creation().text);
+      return static_cast<MultiLineEdit&>(widget).SetText(AreaTextOf(node));
+    case GuiType::RichEdit: return static_cast<RichEdit&>(widget).SetText(AreaTextOf(node));
     case GuiType::ScrollArea: return Apply(static_cast<ScrollArea&>(widget), node);
     case GuiType::Splitter: return Apply(static_cast<Splitter&>(widget), node);
     case GuiType::TabView: return Apply(static_cast<TabView&>(widget), node);

@@ -2,11 +2,15 @@
 
 #include "ChildDialog.h"
 #include "ComboBox.h"
+#include "DateEdit.h"
 #include "Edit.h"
 #include "GroupBox.h"
+#include "KvDateTime.h"
 #include "Label.h"
 #include "MFC/DialogImplMFC.h"
+#include "MultiLineEdit.h"
 #include "RadioButton.h"
+#include "RichEdit.h"
 #include "Splitter.h"
 #include "StackedDialog.h"
 #include "TabView.h"
@@ -172,7 +176,7 @@ TEST_F(BuilderTest, TheTitleIsTheWindowsText) {
   EXPECT_EQ(dialog_->GetClientRect().GetSize(), Scale(300, 200));
 }
 
-TEST_F(BuilderTest, EditsAndLabelsTakeTheirSettings) {
+TEST_F(BuilderTest, WidgetsTakeTheirSettings) {
   const auto text = PropertyXml("text", "string", "a text of some words");
   Open(FormXml(
       "<layout class=\"QVBoxLayout\">" +
@@ -187,6 +191,14 @@ TEST_F(BuilderTest, EditsAndLabelsTakeTheirSettings) {
                             "<item><property name=\"text\"><string>one</string></property></item>"
                             "<item><property name=\"text\"><string>two</string></property></item>" +
                                 PropertyXml("currentIndex", "number", "1"))) +
+          ItemXml(WidgetXml(
+              "QDateEdit", "date",
+              PropertyXml("date", "date", "<year>2024</year><month>2</month><day>29</day>"))) +
+          ItemXml(WidgetXml("QPlainTextEdit", "plain",
+                            PropertyXml("plainText", "string", "&lt;b&gt;as it is"))) +
+          ItemXml(WidgetXml(
+              "QTextEdit", "rich",
+              PropertyXml("html", "string", "&lt;p&gt;&lt;b&gt;bold&lt;/b&gt;&lt;/p&gt;"))) +
           "</layout>",
       200, 200));
   const auto style = [&](const wchar_t* name) {
@@ -197,6 +209,9 @@ TEST_F(BuilderTest, EditsAndLabelsTakeTheirSettings) {
   EXPECT_TRUE(style(L"right") & ES_RIGHT);
   EXPECT_TRUE(ImplNamed(L"wrapped").HasHeightForWidth());
   EXPECT_EQ(Find<ComboBox>(L"combo").GetCurrentIndex(), 1);
+  EXPECT_EQ(Find<DateEdit>(L"date").GetDate(), (KvDateTime{2024, 2, 29}));
+  EXPECT_EQ(Find<MultiLineEdit>(L"plain").GetText(), L"<b>as it is");
+  EXPECT_EQ(Find<RichEdit>(L"rich").GetText(), L"bold");
 }
 
 TEST_F(BuilderTest, ChildrenOfContainersAreTheirs) {

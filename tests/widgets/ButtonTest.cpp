@@ -95,6 +95,19 @@ TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
   EXPECT_EQ(dialog_->GetFocusedCtrlPtr(), &Find<Button>(L"first")) << "its place in the tab order";
 }
 
+TEST_F(ButtonTest, AFormMayMakeAToggle) {
+  const auto flag = [](const char* name) { return PropertyXml(name, "bool", "true"); };
+  const std::string xml = WidgetXml("QPushButton", "toggle", flag("checkable") + flag("checked"));
+  EXPECT_TRUE(
+      static_cast<Button&>(*Make(ColumnForm(ItemXml(xml)))->GetElementByName(L"toggle")).GetCheck())
+      << "before it has a window";
+  Open(ColumnForm(ItemXml(xml)));
+  auto& toggle = Find<Button>(L"toggle");
+  EXPECT_TRUE(toggle.GetCheck());
+  robot_.ClickCentreOf(toggle.GetPlatformHandle());
+  EXPECT_FALSE(toggle.GetCheck());
+}
+
 TEST_F(ButtonTest, BorderColorsKeepTheirAlphaFromStyleFourOn) {
   Open(ColumnForm(ButtonXml("ok", "OK")));
   auto& button = Find<Button>(L"ok");
