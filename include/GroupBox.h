@@ -7,7 +7,7 @@
 
 namespace Wexa {
 
-// A titled frame around other widgets, whose parent it is.
+// A titled frame around other widgets, whose parent it is. They are disabled with it.
 class WEXA_API GroupBox : public BaseGUIObject {
  public:
   class impl;

@@ -83,8 +83,11 @@ class GroupBox::impl : public ContainerImpl {
   }
 
   void Enable(bool enable, bool remember) override {
+    const bool before = Window().IsWindowEnabled();
     ContainerImpl::Enable(enable, remember);
-    if (check_->GetSafeHwnd()) check_->EnableWindow(GetCWnd()->IsWindowEnabled());
+    if (before == static_cast<bool>(GetCWnd()->IsWindowEnabled())) return;
+    if (check_->GetSafeHwnd()) check_->EnableWindow(!before);
+    EnableChildren();
   }
 
   void RefreshSkinColors() override {
@@ -130,7 +133,8 @@ class GroupBox::impl : public ContainerImpl {
   }
 
  private:
-  bool IsOpen() const { return !isCheckable_ || isChecked_; }
+  // Whether what is in the box can be used.
+  bool IsOpen() { return (!isCheckable_ || isChecked_) && GetCWnd()->IsWindowEnabled(); }
 
   void FillCheckPalette(ControlPalette& palette) {
     Wexa::FillCheckPalette(palette, GetSkinManager());

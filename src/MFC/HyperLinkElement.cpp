@@ -16,7 +16,6 @@ namespace {
 constexpr UINT kFormat = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
 constexpr int kFocusGap = 2;  // around the text
 
-// The palette's faces carry the link's colours: text at rest, pressedText, hoverFace.
 class LinkWnd : public InteractiveWnd {
  public:
   std::function<void()> onUsed;
@@ -114,15 +113,8 @@ class HyperLinkElement::impl : public InteractiveImpl {
   Size MinimumIdealSize() override { return IdealSize(); }
 
   void FillPalette(ControlPalette& palette) override {
-    InteractiveImpl::FillPalette(palette);
-    palette.text = Readable(Slot::kLinkText, palette);
-    palette.pressedText = Readable(Slot::kLinkPressed, palette);
-    palette.hoverFace = Readable(Slot::kLinkHover, palette);
-    palette.disabledText = SlotColor(GetSkinManager(), Slot::kLinkDisabled);
-  }
-
-  COLORREF Readable(int slot, const ControlPalette& palette) {
-    return ReadableColor(GetSkinManager(), slot, Slot::kDialogText, palette.background);
+    FillLinkPalette(palette, GetSkinManager());
+    palette.background = BackgroundColor();
   }
 };
 

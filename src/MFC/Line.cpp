@@ -9,6 +9,7 @@ namespace Wexa {
 namespace {
 
 constexpr int kThickness = 3;
+constexpr double kVisible = 1.2;  // contrast to the dialog
 
 }  // namespace
 
@@ -22,7 +23,8 @@ class Line::impl : public BaseImplMFC {
 
   void FillPalette(ControlPalette& palette) override {
     BaseImplMFC::FillPalette(palette);
-    palette.border = SlotColor(GetSkinManager(), Slot::kSeparator);
+    palette.border = ReadableTint(GetSkinManager(), Slot::kSeparator, palette.border,
+                                  palette.background, kVisible);
   }
   void RefreshSkinColors() override {
     if (GetHandle()) window_.Invalidate();

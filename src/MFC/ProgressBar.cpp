@@ -67,7 +67,11 @@ class ProgressBar::impl : public PaintedImpl {
   void FillPalette(ControlPalette& palette) override {
     FillInputPalette(palette, GetSkinManager());
     palette.background = BackgroundColor();
-    if (!GetCWnd()->IsWindowEnabled()) palette.accent = palette.disabledBorder;
+    if (GetCWnd()->IsWindowEnabled()) return;
+    palette.accent = palette.disabledBorder;
+    palette.text = palette.disabledText;
+    const bool reads = Contrast(palette.text, palette.accent) >= kFaintlyReadable;
+    palette.accentText = reads ? palette.text : palette.face;
   }
 
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
@@ -108,12 +112,11 @@ class ProgressBar::impl : public PaintedImpl {
     constexpr UINT kFormat = DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX;
     CRect done = Theme::ProgressPart(client, 0, to, false);
     CRect rest = Theme::ProgressPart(client, to, 1, false);
-    bool enabled = GetCWnd()->IsWindowEnabled();
     painter.PushClip(done);
-    painter.Text(text, client, kFormat, Font(), enabled ? palette.accentText : palette.text);
+    painter.Text(text, client, kFormat, Font(), palette.accentText);
     painter.PopClip();
     painter.PushClip(rest);
-    painter.Text(text, client, kFormat, Font(), enabled ? palette.text : palette.disabledText);
+    painter.Text(text, client, kFormat, Font(), palette.text);
     painter.PopClip();
   }
 

@@ -17,10 +17,12 @@ void FillScrollPalette(ControlPalette& palette, const SkinManager& skin) {
   FillCommonPalette(palette, skin);
   palette.background = SlotColor(skin, Slot::kScrollFace);
   palette.text = SlotColor(skin, Slot::kScrollArrow);
-  palette.disabledText = SlotColor(skin, Slot::kSeparator);
   palette.border = SlotColor(skin, Slot::kScrollThumb);
   palette.hoverBorder = SlotColor(skin, Slot::kScrollHoverThumb);
   palette.accent = SlotColor(skin, Slot::kScrollPressedThumb);
+  const COLORREF faint = SlotColor(skin, Slot::kSeparator);
+  // High contrast draws lines like thumbs.
+  if (faint != palette.border) palette.disabledText = faint;
   palette.disabledBorder = palette.disabledText;
 }
 

@@ -122,6 +122,7 @@ class TabView::impl : public PagesImpl {
 
   bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&) override {
     if (message == WM_SETFONT) strip_->SendMessage(message, wParam, lParam);
+    if (message == WM_SETFOCUS) strip_->SetFocus();
     return false;
   }
 

@@ -25,11 +25,20 @@ double Linear(BYTE channel) {
   return levels[channel];
 }
 
-constexpr double kReadable = 4.5;
-
 double Luminance(COLORREF color) {
   return 0.2126 * Linear(GetRValue(color)) + 0.7152 * Linear(GetGValue(color)) +
          0.0722 * Linear(GetBValue(color));
+}
+
+// A palette without a face of its own for pressed buttons lends them the accent.
+void FillPressedButton(ControlPalette& palette, const SkinManager& skin) {
+  palette.pressedFace = SlotColor(skin, Slot::kButtonPressedFace);
+  palette.pressedText =
+      ReadableColor(skin, Slot::kButtonPressedText, Slot::kButtonText, palette.pressedFace);
+  if (skin.Slot(Slot::kButtonPressedFace).IsChanged() || palette.pressedFace != palette.face)
+    return;
+  palette.pressedFace = palette.accent;
+  palette.pressedText = palette.accentText;
 }
 
 }  // namespace
@@ -50,6 +59,16 @@ COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORRE
   if (skin.Slot(slot).IsChanged() || Contrast(color, face) >= kReadable) return color;
   const COLORREF other = SlotColor(skin, otherwise);
   return Contrast(other, face) > Contrast(color, face) ? other : color;
+}
+
+COLORREF ReadableTint(const SkinManager& skin, int slot, COLORREF text, COLORREF face,
+                      double least) {
+  const COLORREF color = SlotColor(skin, slot);
+  if (skin.Slot(slot).IsChanged()) return color;
+  COLORREF tint = color;
+  for (int percent = 10; percent <= 100 && Contrast(tint, face) < least; percent += 10)
+    tint = MixColors(color, text, percent);
+  return tint;
 }
 
 COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face) {
@@ -91,11 +110,9 @@ void FillButtonPalette(ControlPalette& palette, const SkinManager& skin) {
   FillCommonPalette(palette, skin);
   palette.face = SlotColor(skin, Slot::kButtonFace);
   palette.hoverFace = palette.face;
-  palette.pressedFace = SlotColor(skin, Slot::kButtonPressedFace);
   palette.disabledFace = SlotColor(skin, Slot::kButtonDisabledFace);
   palette.text = SlotColor(skin, Slot::kButtonText);
-  palette.pressedText =
-      ReadableColor(skin, Slot::kButtonPressedText, Slot::kButtonText, palette.pressedFace);
+  FillPressedButton(palette, skin);
   palette.disabledText = SlotColor(skin, Slot::kButtonDisabledText);
   palette.border = SlotColor(skin, Slot::kButtonBorder);
   palette.hoverBorder = SlotColor(skin, Slot::kButtonHoverBorder);
@@ -130,6 +147,17 @@ void FillInputPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.hoverBorder = SlotColor(skin, Slot::kInputHoverBorder);
   palette.disabledBorder = SlotColor(skin, Slot::kInputDisabledBorder);
   palette.accent = SlotColor(skin, Slot::kInputFocusBorder);
+}
+
+void FillLinkPalette(ControlPalette& palette, const SkinManager& skin) {
+  FillCommonPalette(palette, skin);
+  const COLORREF face = palette.background;
+  const COLORREF text = palette.text;
+  palette.text = ReadableColor(skin, Slot::kLinkText, Slot::kDialogText, face);
+  palette.pressedText = ReadableColor(skin, Slot::kLinkPressed, Slot::kDialogText, face);
+  palette.hoverFace = ReadableTint(skin, Slot::kLinkHover, text, face, kReadable);
+  palette.disabledText =
+      ReadableTint(skin, Slot::kLinkDisabled, palette.disabledText, face, kFaintlyReadable);
 }
 
 }  // namespace Wexa

@@ -1,5 +1,6 @@
 // Texts have to be read on what they are drawn on, in every palette.
 
+#include "MFC/ScrollBarWnd.h"
 #include "MFC/WidgetColors.h"
 #include "SkinManager.h"
 #include "platform/SystemColors.h"
@@ -16,20 +17,19 @@ struct Pair {
 
 using Fill = void (*)(ControlPalette&, const SkinManager&);
 
+ControlPalette PaletteOf(Fill fill, const SkinManager& skin) {
+  ControlPalette palette{};
+  fill(palette, skin);
+  return palette;
+}
+
 void AddPairs(std::vector<Pair>& pairs, const std::string& family, Fill fill,
               const SkinManager& skin) {
-  ControlPalette p{};
-  fill(p, skin);
+  const ControlPalette p = PaletteOf(fill, skin);
   pairs.push_back({family + " text on face", p.text, p.face});
   pairs.push_back({family + " text on hovered face", p.text, p.hoverFace});
   pairs.push_back({family + " text on pressed face", p.pressedText, p.pressedFace});
   pairs.push_back({family + " selected text", p.selectionText, p.selection});
-}
-
-ControlPalette InputPalette(const SkinManager& skin) {
-  ControlPalette palette{};
-  FillInputPalette(palette, skin);
-  return palette;
 }
 
 std::vector<Pair> EnabledPairs(const SkinManager& skin) {
@@ -37,11 +37,13 @@ std::vector<Pair> EnabledPairs(const SkinManager& skin) {
   AddPairs(pairs, "dialog", FillCommonPalette, skin);
   AddPairs(pairs, "button", FillButtonPalette, skin);
   AddPairs(pairs, "input", FillInputPalette, skin);
-  const ControlPalette input = InputPalette(skin);
+  const ControlPalette input = PaletteOf(FillInputPalette, skin);
   pairs.push_back({"placeholder", input.placeholder, input.face});
+  const ControlPalette link = PaletteOf(FillLinkPalette, skin);
+  for (COLORREF text : {link.text, link.hoverFace, link.pressedText})
+    pairs.push_back({"link", text, link.background});
   pairs.push_back({"tip", SlotColor(skin, Slot::kTipText), SlotColor(skin, Slot::kTipFace)});
-  ControlPalette check{};
-  FillCheckPalette(check, skin);
+  const ControlPalette check = PaletteOf(FillCheckPalette, skin);
   pairs.push_back({"check text", check.text, check.background});
   return pairs;
 }
@@ -49,11 +51,12 @@ std::vector<Pair> EnabledPairs(const SkinManager& skin) {
 std::vector<Pair> DisabledPairs(const SkinManager& skin) {
   std::vector<Pair> pairs;
   for (Fill fill : {FillCommonPalette, FillButtonPalette, FillCheckPalette, FillInputPalette}) {
-    ControlPalette p{};
-    fill(p, skin);
+    const ControlPalette p = PaletteOf(fill, skin);
     pairs.push_back({"disabled text", p.disabledText, p.disabledFace});
     pairs.push_back({"disabled text on dialog", p.disabledText, p.background});
   }
+  const ControlPalette link = PaletteOf(FillLinkPalette, skin);
+  pairs.push_back({"disabled link", link.disabledText, link.background});
   return pairs;
 }
 
@@ -85,15 +88,23 @@ TEST_P(ContrastTest, DisabledTextsCanBeMadeOut) {
 }
 
 TEST_P(ContrastTest, WhatIsNotEnteredDoesNotLookSo) {
-  const ControlPalette p = InputPalette(SkinManager(GetParam().mode));
+  const ControlPalette p = PaletteOf(FillInputPalette, SkinManager(GetParam().mode));
   EXPECT_GE(Contrast(p.placeholder, p.text), 1.4);
   EXPECT_GE(Contrast(p.disabledText, p.text), 1.4);
 }
 
-TEST_P(ContrastTest, MarksStandOutFromTheAccent) {
+TEST_P(ContrastTest, StatesLookDifferent) {
   const SkinManager skin(GetParam().mode);
-  ControlPalette p{};
-  FillCheckPalette(p, skin);
+  const ControlPalette button = PaletteOf(FillButtonPalette, skin);
+  EXPECT_NE(button.pressedFace, button.face);
+  const ControlPalette link = PaletteOf(FillLinkPalette, skin);
+  EXPECT_NE(link.hoverFace, link.text);
+  const ControlPalette bar = PaletteOf(FillScrollPalette, skin);
+  EXPECT_NE(bar.disabledBorder, bar.border);
+}
+
+TEST_P(ContrastTest, MarksStandOutFromTheAccent) {
+  const ControlPalette p = PaletteOf(FillCheckPalette, SkinManager(GetParam().mode));
   EXPECT_GE(Contrast(p.accentText, p.accent), 3.0);
 }
 
@@ -116,7 +127,7 @@ TEST(ReadableColors, ASlotThatWasSetIsTakenAsItIs) {
   SkinManager skin(SkinMode::Dark);
   skin.Slot(Slot::kSelectionText) = static_cast<unsigned long>(SlotColor(skin, Slot::kSelection));
   skin.Slot(Slot::kPlaceholder) = static_cast<unsigned long>(SlotColor(skin, Slot::kInputText));
-  const ControlPalette palette = InputPalette(skin);
+  const ControlPalette palette = PaletteOf(FillInputPalette, skin);
   EXPECT_EQ(palette.selectionText, palette.selection);
   EXPECT_EQ(palette.placeholder, palette.text);
 }

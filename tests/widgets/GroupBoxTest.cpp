@@ -47,6 +47,11 @@ TEST_F(GroupBoxTest, WhatTheHostDisabledStaysDisabled) {
   group.SetChecked(true);
   EXPECT_TRUE(IsEnabled(L"host"));
   EXPECT_FALSE(IsEnabled(L"port"));
+  group.Enable(false, true);
+  EXPECT_FALSE(IsEnabled(L"host")) << "with its box";
+  group.Enable(true, true);
+  EXPECT_TRUE(IsEnabled(L"host"));
+  EXPECT_FALSE(IsEnabled(L"port"));
 }
 
 TEST_F(GroupBoxTest, TheCheckBoxWorksByKeyboard) {

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "graphics/ThemeParts.h"
+#include "platform/SystemColors.h"
 
 namespace Theme {
 
@@ -45,6 +46,13 @@ COLORREF ThumbColor(const ControlState& state, const ControlPalette& palette) {
   return state.hovered ? palette.hoverBorder : palette.border;
 }
 
+// Lighter than a disabled text, except in high contrast, which knows the system's colours only.
+COLORREF FaintColor(const ControlPalette& palette) {
+  constexpr int kHalf = 50;
+  if (GetSystemScheme() == SystemScheme::HighContrast) return palette.disabledText;
+  return MixColors(palette.disabledText, palette.background, kHalf);
+}
+
 }  // namespace
 
 RECT ProgressPart(const RECT& rect, double from, double to, bool vertical) {
@@ -77,7 +85,7 @@ void DrawSlider(Painter& painter, const RECT& rect, double fraction, bool vertic
   int start = vertical ? room - Part(fraction, room) : Part(fraction, room);
   int middle = start + thumb / 2;
   CRect track = Band(rect, vertical, groove);
-  COLORREF accent = state.enabled ? palette.accent : palette.disabledText;
+  COLORREF accent = state.enabled ? palette.accent : FaintColor(palette);
   painter.FillRoundRect(track, groove / 2, state.enabled ? palette.border : palette.disabledBorder);
   CRect done = vertical ? Along(track, true, middle, length) : Along(track, false, 0, middle);
   painter.FillRoundRect(done, groove / 2, accent);
