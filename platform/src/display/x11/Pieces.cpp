@@ -6,7 +6,7 @@
 
 namespace display::x11 {
 
-void Pieces::Begin(xcb_window_t window, xcb_atom_t property, xcb_atom_t type, std::string bytes) {
+void Pieces::Begin(xcb_window_t window, xcb_atom_t property, xcb_atom_t type, std::string&& bytes) {
   Listen(window, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
   const auto length = static_cast<std::uint32_t>(bytes.size());
   xcb_change_property(connection_.Get(), XCB_PROP_MODE_REPLACE, window, property,

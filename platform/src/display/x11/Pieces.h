@@ -19,7 +19,7 @@ class Pieces {
 
   // Puts the bytes into a property of the other program's window, a piece each time that the one
   // before was taken.
-  void Begin(xcb_window_t window, xcb_atom_t property, xcb_atom_t type, std::string bytes);
+  void Begin(xcb_window_t window, xcb_atom_t property, xcb_atom_t type, std::string&& bytes);
 
   // Events about other windows are passed over.
   void PropertyChanged(const xcb_property_notify_event_t& event);
