@@ -20,7 +20,8 @@ Size ScrollArea::IdealSize() {
   return impl_->IdealSize();
 }
 void ScrollArea::SetContent(BaseGUIObject* content) {
-  impl_->SetContent(content);
+  const auto held = impl_;  // content that moves may have the area destroyed
+  held->SetContent(content);
 }
 
 }  // namespace Wexa

@@ -19,10 +19,12 @@ Size Splitter::IdealSize() {
   return impl_->IdealSize();
 }
 void Splitter::SetOrientation(bool vertical) {
-  impl_->SetOrientation(vertical);
+  const auto held = impl_;  // a view that moves may have the splitter destroyed; so below
+  held->SetOrientation(vertical);
 }
 void Splitter::AddView(BaseGUIObject* view) {
-  impl_->AddView(view);
+  const auto held = impl_;
+  held->AddView(view);
 }
 std::vector<BaseGUIObject*> Splitter::GetViews() {
   return impl_->Views();
@@ -34,13 +36,14 @@ bool Splitter::DynamicResizing() const {
   return impl_->isDynamic;
 }
 void Splitter::SetHandleWidth(int width) {
-  impl_->SetHandleWidth(width);
+  const auto held = impl_;
+  held->SetHandleWidth(width);
 }
 int Splitter::GetHandleWidth() const {
   return impl_->HandleWidth();
 }
 void Splitter::SetSizes(const std::list<int>& sizes) {
-  const auto held = impl_;  // a handler may destroy the splitter
+  const auto held = impl_;
   held->GiveSizes(sizes);
 }
 

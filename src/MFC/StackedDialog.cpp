@@ -42,8 +42,9 @@ int StackedDialog::GetCurrentIndex() {
 }
 
 void StackedDialog::SetCurrentIndex(int index) {
-  impl_->SetCurrentIndex(index, false);
-  impl_->InvalidateInParent();
+  const auto held = impl_;  // a handler may destroy the container
+  held->SetCurrentIndex(index, false);
+  held->InvalidateInParent();
 }
 
 void StackedDialog::EnablePage(int index, bool enable, bool remember) {

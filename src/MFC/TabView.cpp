@@ -239,7 +239,8 @@ void TabView::AddPage(ChildDialog* page, const std::wstring& caption) {
 }
 
 void TabView::SetTabPosition(TabPosition position) {
-  impl_->SetPosition(position);
+  const auto held = impl_;  // a page that moves may have the view destroyed; so below
+  held->SetPosition(position);
 }
 
 int TabView::GetCurrentIndex() {
@@ -250,7 +251,7 @@ int TabView::GetItemCount() {
 }
 
 void TabView::SetCurrentIndex(int index) {
-  const auto held = impl_;  // a handler may destroy the view
+  const auto held = impl_;
   held->SetCurrentIndex(index, true);
 }
 
@@ -265,7 +266,8 @@ void TabView::ActivatePreviousTab() {
 }
 
 void TabView::EnablePage(int index, bool enable, bool remember) {
-  impl_->EnablePage(index, enable, remember);
+  const auto held = impl_;
+  held->EnablePage(index, enable, remember);
 }
 
 void TabView::SetTabText(int index, const std::wstring& text) {

@@ -1,6 +1,9 @@
 #include "Splitter.h"
 
+#include <functional>
+
 #include "Event.h"
+#include "WexaConfig.h"
 #include "WexaUtils.h"
 #include "platform/VirtualKeys.h"
 #include "support/FormTest.h"
@@ -170,21 +173,38 @@ TEST_F(SplitterTest, ViewsAreGivenAsACopy) {
   EXPECT_TRUE(alone.GetViews().empty());
 }
 
+TEST_F(SplitterTest, FromRightToLeftHandlesFollowPointerAndArrows) {
+  SetLayoutRTL(true);
+  OpenThree();
+  SetLayoutRTL(false);
+  const int a = WidthOf(L"a");
+  const Rect b = Find<BaseGUIObject>(L"b").GetWindowRect();
+  const POINT handle{b.Right() + 3, b.Top() + 10};
+  EXPECT_GT(Find<BaseGUIObject>(L"a").GetWindowRect().Left(), b.Left());
+  robot_.Drag(handle, {handle.x - 30, handle.y});
+  EXPECT_EQ(WidthOf(L"a"), a + 30);
+  SetFocus(WindowFromPoint({handle.x - 30, handle.y}));
+  robot_.Key(VK_RIGHT);
+  EXPECT_LT(WidthOf(L"a"), a + 30);
+}
+
 TEST_F(SplitterTest, AViewThatMovesMayDestroyTheDialog) {
-  for (bool byKey : {false, true}) {
+  const std::vector<std::function<void()>> ways = {
+      [this] { DragHandle(L"a", 20); },
+      [this] {
+        SetFocus(WindowFromPoint(HandleAfter(L"a")));
+        robot_.Key(VK_RIGHT);
+      },
+      [this] { Split().SetHandleWidth(30); },
+      [this] { Split().SetOrientation(true); },
+  };
+  for (const auto& way : ways) {
     OpenThree();
-    HWND handle = WindowFromPoint(HandleAfter(L"a"));
-    POINT from = HandleAfter(L"a");
     Find<BaseGUIObject>(L"b").SetEventProcedure([this](BaseGUIObject*, Event* event) {
       if (event->GetType() == Event::Resize) dialog_.reset();
       return false;
     });
-    if (byKey) {
-      SetFocus(handle);
-      robot_.Key(VK_RIGHT);
-    } else {
-      robot_.Drag(from, {from.x + 20, from.y});
-    }
+    way();
     EXPECT_EQ(dialog_, nullptr);
   }
 }
