@@ -254,6 +254,7 @@ TEST_F(PreviewTest, ABrokenKeyMapIsRefusedWithItsLine) {
     EXPECT_THAT(outcome.errors, HasSubstr("keys.txt:2: "));
   }
   EXPECT_THAT(tool_.Run("--keymap none.txt rows.ui").errors, HasSubstr("Cannot read none.txt"));
+  EXPECT_THAT(tool_.Run("--keymap . rows.ui").errors, HasSubstr("Cannot read ."));
 }
 
 TEST_F(PreviewTest, HelpAndVersionSucceed) {

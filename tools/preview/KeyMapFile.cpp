@@ -48,6 +48,7 @@ std::map<std::wstring, Wexa::SkinManagerColor> ReadKeyMap(const std::string& fil
       throw std::runtime_error(file + ":" + std::to_string(number) + ": no 'Key = #RRGGBB'");
     colors[entry.key] = entry.color;
   }
+  if (in.bad()) throw std::runtime_error("Cannot read " + file);  // a folder, for one
   return colors;
 }
 
