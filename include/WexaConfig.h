@@ -66,10 +66,11 @@ WEXA_API void SetContextMenuRadius(int radius);
 // --------------------------------------------------------------------------
 
 WEXA_API SkinMode GetGlobalSkinMode();
-// Loads the global skin, its slots locked. False for modes other than Default to HCMDark.
+// Loads the global skin, its slots locked; open dialogs that follow it show it. False for modes
+// other than Default to HCMDark.
 WEXA_API bool SetGlobalSkinMode(SkinMode mode);
 WEXA_API bool SetGlobalCustomSkin(const SkinManager& skin);
-// Colours by key for the skin that dialogs in the mode XML take over.
+// Colours by key for the skin that dialogs in the mode XML take over, those that are open too.
 WEXA_API void InitSkinColorByMap(SkinMap map,
                                  const std::map<std::wstring, SkinManagerColor>& colors);
 

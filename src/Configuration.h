@@ -17,6 +17,9 @@ class WexaConfig {
 
   // Loads the palettes of the two skins again when the desktop's scheme is another than before.
   void FollowSystemColors();
+  // Dialogs below one of the two skins show its colours: all that are open are painted again.
+  // Defined beside the dialogs.
+  static void RepaintDialogs();
 
   std::wstring workingDirPath;
   std::wstring currentLanguage;

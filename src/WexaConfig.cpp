@@ -116,15 +116,20 @@ SkinMode GetGlobalSkinMode() {
 }
 
 bool SetGlobalSkinMode(SkinMode mode) {
-  return WexaConfig::Instance().globalSkin.LoadSkin(mode, true, false);
+  if (!WexaConfig::Instance().globalSkin.LoadSkin(mode, true, false)) return false;
+  WexaConfig::RepaintDialogs();
+  return true;
 }
 
 bool SetGlobalCustomSkin(const SkinManager& skin) {
-  return WexaConfig::Instance().globalSkin.SetCustomSkin(skin);
+  WexaConfig::Instance().globalSkin.SetCustomSkin(skin);
+  WexaConfig::RepaintDialogs();
+  return true;
 }
 
 void InitSkinColorByMap(SkinMap map, const std::map<std::wstring, SkinManagerColor>& colors) {
   WexaConfig::Instance().keyMapSkin.InitSkinColorByMap(map, colors);
+  WexaConfig::RepaintDialogs();
 }
 
 void WriteLogToFile(const std::string& path) {

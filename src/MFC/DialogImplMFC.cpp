@@ -215,6 +215,12 @@ void Dialog::impl::OnGetMinMaxInfo(MINMAXINFO& info) {
 
 // -- Skin
 
+void WexaConfig::RepaintDialogs() {
+  for (HWND window : GetTopLevelWindows())
+    RedrawWindow(window, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
 void Dialog::impl::InitSkin() {
   WexaConfig::Instance().FollowSystemColors();
   const SkinManager& global = WexaConfig::Instance().globalSkin;

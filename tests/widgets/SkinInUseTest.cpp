@@ -167,6 +167,16 @@ TEST_F(SkinInUseTest, AGlobalCustomSkinColorsAllWidgetsOfADialog) {
   EXPECT_EQ(FaceOf(L"a"), Pixel(0x102030));
 }
 
+TEST_F(SkinInUseTest, OpenDialogsFollowTheGlobalSkinAtOnce) {
+  Open(ColumnForm(EditXml("a")));
+  auto paints = CountPaints(Widget(L"a"));
+  EXPECT_TRUE(SetGlobalSkinMode(SkinMode::Dark));
+  Robot::PumpAll();
+  EXPECT_EQ(FaceOf(L"a"), 0x333333u);
+  EXPECT_EQ(DialogFace(), 0x4A4A4Au);
+  EXPECT_EQ(*paints, 1);
+}
+
 // -- Key maps
 
 class KeyMapTest : public SkinInUseTest {
@@ -193,6 +203,9 @@ TEST_F(KeyMapTest, BothMapsColorTheWidgetsOfADialog) {
     Robot::PumpAll();
     EXPECT_EQ(FaceOf(L"a"), Pixel(static_cast<COLORREF>(face)));
     EXPECT_EQ(DialogFace(), Pixel(static_cast<COLORREF>(face + 1)));
+    InitSkinColorByMap(map, {{L"input_bg", face + 2}});
+    Robot::PumpAll();
+    EXPECT_EQ(FaceOf(L"a"), Pixel(static_cast<COLORREF>(face + 2))) << "a map that came later";
   }
 }
 
