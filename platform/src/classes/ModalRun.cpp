@@ -35,9 +35,8 @@ std::intptr_t ModalRun::Run(const DLGTEMPLATE* dialogTemplate, CWnd* owner) {
 void ModalRun::Pump() {
   int exitCode = 0;
   const Pumped pumped = PumpOneMessage(exitCode);
-  if (pumped == Pumped::Message) return;
   if (pumped == Pumped::Quit) PostQuitMessage(exitCode);
-  End(IDCANCEL);
+  if (pumped != Pumped::Message) End(IDCANCEL);
 }
 
 // The owner takes input before the dialog hides, so that it is the one to be activated.
