@@ -96,10 +96,9 @@ class TabView::impl : public PagesImpl {
   }
 
   void FillPalette(ControlPalette& palette) override {
-    FillButtonPalette(palette, GetSkinManager());
-    palette.background = BackgroundColor();
+    PagesImpl::FillPalette(palette);
     palette.face = palette.background;
-    palette.border = SlotColor(GetSkinManager(), Slot::kGroupBorder);
+    palette.hoverBorder = SlotColor(GetSkinManager(), Slot::kButtonHoverBorder);
   }
 
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
