@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kTitleInset = 24;
 constexpr int kCheckIndent = 8;
+constexpr int kCheckGap = 3;  // to the frame on both sides
 
 // The check box that stands for a checkable box's title.
 class TitleCheck : public CButton, public std::enable_shared_from_this<TitleCheck> {
@@ -103,6 +104,8 @@ class GroupBox::impl : public ContainerImpl {
     CRect frame = client;
     if (isCheckable_) frame.top += TitleHeight() / 2;
     Theme::DrawGroupBox(painter, frame, isCheckable_ ? L"" : Title(), Font(), state, palette);
+    if (isCheckable_)
+      painter.FillRect(CheckRect().Shrunk(-Scale(kCheckGap), 0), palette.background);
   }
 
   bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&) override {
