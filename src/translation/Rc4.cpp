@@ -1,5 +1,6 @@
 #include "Rc4.h"
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <numeric>
@@ -8,16 +9,21 @@ namespace Wexa {
 
 namespace {
 
+using Word = std::uint64_t;
+
+// Where a word in memory has its n-th byte.
+constexpr unsigned ShiftOf(unsigned n) {
+  return 8 * (std::endian::native == std::endian::little ? n : sizeof(Word) - 1 - n);
+}
+
 // Changes eight bytes at once, so that the data is loaded and stored once for all of them.
 void CryptWord(unsigned char* bytes, Rc4Stream& stream) {
-  unsigned char key[sizeof(std::uint64_t)];
-  for (unsigned char& byte : key) byte = stream.Next();
-  std::uint64_t keyWord;
-  std::uint64_t dataWord;
-  std::memcpy(&keyWord, key, sizeof keyWord);
-  std::memcpy(&dataWord, bytes, sizeof dataWord);
-  dataWord ^= keyWord;
-  std::memcpy(bytes, &dataWord, sizeof dataWord);
+  Word key = 0;
+  for (unsigned n = 0; n < sizeof key; ++n) key |= Word{stream.Next()} << ShiftOf(n);
+  Word data;
+  std::memcpy(&data, bytes, sizeof data);
+  data ^= key;
+  std::memcpy(bytes, &data, sizeof data);
 }
 
 }  // namespace
@@ -37,7 +43,7 @@ void Rc4(std::vector<unsigned char>& data, std::string_view key) {
   Rc4Permutation permutation = ScheduleRc4Key(key);
   Rc4Stream stream(permutation);
   std::size_t at = 0;
-  for (; at + 8 <= data.size(); at += 8) CryptWord(&data[at], stream);
+  for (; at + sizeof(Word) <= data.size(); at += sizeof(Word)) CryptWord(&data[at], stream);
   for (; at < data.size(); ++at) data[at] ^= stream.Next();
 }
 
