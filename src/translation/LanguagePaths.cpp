@@ -23,12 +23,22 @@ std::wstring CodeInPaths(bool useDefault) {
   return code;
 }
 
+void AppendDirectory(std::wstring& path, const std::wstring& code) {
+  path.append(WexaConfig::Instance().workingDirPath).append(L"lang\\").append(code).append(L"\\");
+}
+
+// Every lookup of a text asks for a path, so they are put together in one piece of memory.
 std::wstring LanguageFile(const std::wstring& name, const wchar_t* kind, const wchar_t* extension,
                           bool useDefault) {
-  const std::wstring component = name.empty() ? name : name + L"_";
-  const wchar_t* encrypted = ExpectsEncryptedLanguageFiles() ? L".kv" : L"";
-  return GetTranslationDirPath(useDefault) + component + kind + CodeInPaths(useDefault) +
-         extension + encrypted;
+  constexpr std::size_t kFixedParts = 40;
+  const std::wstring code = CodeInPaths(useDefault);
+  std::wstring path;
+  path.reserve(WexaConfig::Instance().workingDirPath.size() + name.size() + kFixedParts);
+  AppendDirectory(path, code);
+  if (!name.empty()) path.append(name).append(L"_");
+  path.append(kind).append(code).append(extension);
+  if (ExpectsEncryptedLanguageFiles()) path += L".kv";
+  return path;
 }
 
 }  // namespace
@@ -58,7 +68,9 @@ bool ExpectsEncryptedLanguageFiles() {
 }
 
 std::wstring GetTranslationDirPath(bool useDefault) {
-  return GetWorkingDirPath() + L"lang\\" + CodeInPaths(useDefault) + L"\\";
+  std::wstring path;
+  AppendDirectory(path, CodeInPaths(useDefault));
+  return path;
 }
 
 std::wstring GetTranslationFilePath(const std::wstring& name) {
