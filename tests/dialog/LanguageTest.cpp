@@ -91,6 +91,8 @@ std::vector<std::string> WidgetsWithTexts() {
           WidgetXml("QLineEdit", "widget", Property("text", "@")),
           WidgetXml("QLineEdit", "widget", Property("placeholderText", "@")),
           WidgetXml("QSpinBox", "widget", Property("prefix", "@") + Property("suffix", "@")),
+          WidgetXml("QPlainTextEdit", "widget", Property("plainText", "@")),
+          WidgetXml("QTextEdit", "widget", Property("html", "@")),
           WidgetXml("QProgressBar", "widget", Property("format", "@")),
           WidgetXml("QGroupBox", "widget", Property("title", "@")),
           WidgetXml("QTabWidget", "widget", page),
