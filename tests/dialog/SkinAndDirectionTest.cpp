@@ -31,14 +31,6 @@ TEST_F(DialogSkinTest, TheDarkSkinReachesTheDialogAndAllWithinIt) {
   EXPECT_EQ(all(), light);
 }
 
-TEST_F(DialogSkinTest, TheModeXmlIsRefusedWithoutColours) {
-  Open(ColumnForm(LineEdit("edit")));
-  const auto before = DialogPixel();
-  EXPECT_FALSE(dialog_->SetSkinMode(SkinMode::XML, true));
-  EXPECT_EQ(dialog_->GetSkinManager().GetSkinMode(), SkinMode::Default);
-  EXPECT_EQ(DialogPixel(), before);
-}
-
 TEST_F(DialogSkinTest, ACustomSkinIsTakenOver) {
   Open(ColumnForm(LineEdit("edit")));
   const auto before = DialogPixel();

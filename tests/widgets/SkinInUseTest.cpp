@@ -1,3 +1,6 @@
+#include <map>
+#include <set>
+
 #include "Button.h"
 #include "ButtonBox.h"
 #include "Configuration.h"
@@ -64,12 +67,58 @@ TEST_F(SkinInUseTest, AChangedSlotIsPaintedOnceAndByItsWidgetOnly) {
   EXPECT_NE(FaceOf(L"b"), Pixel(0x102030));
 }
 
-TEST_F(SkinInUseTest, ASlotThatTheWidgetDoesNotPaintWithChangesNoPixel) {
-  Open(ColumnForm(EditXml("a")));
-  const auto before = FaceOf(L"a");
-  SlotOf(L"a", Slot::kButtonFace) = 0x102030UL;
+// All slots have colours of their own: those that a widget shows tell what it paints with. Lines
+// that are smoothed all along show none.
+TEST_F(SkinInUseTest, WidgetsPaintWithTheirSlotsAndNoOther) {
+  const std::string text = PropertyXml("text", "string", "HELLO");
+  const std::string off = text + PropertyXml("enabled", "bool", "false");
+  const std::string page =
+      "<widget class=\"QWidget\" name=\"page\"><attribute name=\"title\"><string>HELLO</string>"
+      "</attribute></widget>";
+  struct Painted {
+    std::string className;
+    std::string name;
+    std::string inner;
+    std::set<int> slots;
+  };
+  const Painted all[] = {
+      {"QLineEdit", "edit", text, {0, 2, 6, 95, 96}},
+      {"QLineEdit", "edit off", off, {1, 5, 74}},
+      {"QLineEdit", "field", text, {0, 2, 4}},
+      {"QPushButton", "button", text, {20, 24, 32}},
+      {"QPushButton", "button off", off, {21, 23, 25}},
+      {"QCheckBox", "check", text, {28, 33, 36, 74}},
+      {"QCheckBox", "check off", off, {34, 36, 42, 74}},
+      {"QRadioButton", "radio", text, {33, 36, 74}},
+      {"QLabel", "label", text, {74, 93}},
+      {"QLabel", "label off", off, {13, 74}},
+      {"QTabWidget", "tabs", page, {32, 74, 91, 93}},
+      {"QScrollArea", "area", "", {74, 91}},
+      {"QScrollBar", "bar", "", {45, 47}},
+      {"QSlider", "slider", "", {4, 6, 74, 96}},
+      {"Line", "line", "", {74, 87}},
+  };
+  std::string rows;
+  for (const Painted& w : all) rows += ItemXml(WidgetXml(w.className, w.name, w.inner));
+  Open(ColumnForm(rows, 100, 600));
+  std::map<std::uint32_t, int> slotOf;
+  for (int slot = 0; slot < SkinManager::kSlotCount; ++slot) {
+    const COLORREF color = (static_cast<COLORREF>(slot) + 1) * 0x9E3779 & 0xFFFFFF;
+    slotOf[Pixel(color)] = slot;
+    dialog_->GetSkinManager().Slot(slot) = static_cast<unsigned long>(color);
+  }
   Robot::PumpAll();
-  EXPECT_EQ(FaceOf(L"a"), before);
+  for (const Painted& w : all) {
+    auto& widget = Widget(std::wstring(w.name.begin(), w.name.end()).c_str());
+    const Rect client = widget.GetClientRect();
+    std::set<int> shown;
+    for (int y = 0; y < client.Height(); ++y)
+      for (int x = 0; x < client.Width(); ++x)
+        if (const auto slot = slotOf.find(Robot::PixelAt(widget.GetPlatformHandle(), x, y));
+            slot != slotOf.end())
+          shown.insert(slot->second);
+    EXPECT_EQ(shown, w.slots) << w.name;
+  }
 }
 
 TEST_F(SkinInUseTest, ASlotOfTheDialogReachesChildrenInContainers) {
@@ -187,11 +236,11 @@ class KeyMapTest : public SkinInUseTest {
 
 TEST_F(KeyMapTest, WithoutAKeyMapTheModeIsRefusedAndNothingChanges) {
   Open(ColumnForm(EditXml("a")));
-  const auto before = FaceOf(L"a");
+  const auto before = std::pair(FaceOf(L"a"), DialogFace());
   EXPECT_FALSE(dialog_->SetSkinMode(SkinMode::XML, true));
   Robot::PumpAll();
   EXPECT_EQ(dialog_->GetSkinManager().GetSkinMode(), SkinMode::Default);
-  EXPECT_EQ(FaceOf(L"a"), before);
+  EXPECT_EQ(std::pair(FaceOf(L"a"), DialogFace()), before);
 }
 
 TEST_F(KeyMapTest, BothMapsColorTheWidgetsOfADialog) {
