@@ -35,12 +35,13 @@ std::vector<Part> AllParts() {
       {"group",
        [](auto& p, auto& r, auto& s) { Theme::DrawGroupBox(p, r, L"Title", nullptr, s, palette); }},
       {"tab",
-       [](auto& p, auto& r, auto& s) { Theme::DrawTab(p, r, L"Tab", nullptr, true, Theme::TabEdge::Top, s, palette); }},
+       [](auto& p, auto& r, auto& s) {
+         Theme::DrawTab(p, r, L"Tab", nullptr, true, Theme::TabEdge::Top, s, palette);
+       }},
       {"line", [](auto& p, auto& r, auto&) { Theme::DrawLine(p, r, true, palette); }},
       {"bar", [](auto& p, auto& r, auto&) { Theme::DrawProgress(p, r, 0, 0.4, false, palette); }},
       {"slider", [](auto& p, auto& r, auto& s) { Theme::DrawSlider(p, r, 2, true, s, palette); }},
-      {"scroll",
-       [](auto& p, auto& r, auto& s) { Theme::DrawScrollThumb(p, r, true, s, palette); }},
+      {"scroll", [](auto& p, auto& r, auto& s) { Theme::DrawScrollThumb(p, r, true, s, palette); }},
       {"caption",
        [](auto& p, auto& r, auto&) {
          Theme::DrawCaption(p, r, L"T", true, true, FramePart::Close, FramePart::None);
