@@ -50,17 +50,8 @@ class ProgressBar::impl : public PaintedImpl {
     return text;
   }
 
-  // After a change of what is shown: the timer runs only while something moves.
   void Refresh() {
-    if (!GetHandle()) return;
-    if (moves_ != IsIndeterminate()) {
-      moves_ = !moves_;
-      if (moves_)
-        GetCWnd()->SetTimer(kMoveTimer, kFrameMilliseconds);
-      else
-        GetCWnd()->KillTimer(kMoveTimer);
-    }
-    GetCWnd()->Invalidate();
+    if (GetHandle()) GetCWnd()->Invalidate();
   }
   void RefreshSkinColors() override { Refresh(); }
 
@@ -74,13 +65,15 @@ class ProgressBar::impl : public PaintedImpl {
     palette.accentText = reads ? palette.text : palette.face;
   }
 
+  // Each picture of a moving bar asks for the next one: what is not seen does not move.
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
     double from = 0;
     double to = range.Fraction();
-    if (moves_) {
+    if (IsIndeterminate()) {
       double part = static_cast<double>(GetTickCount() % kRoundMilliseconds) / kRoundMilliseconds;
       from = part * (1 + kMovingPart) - kMovingPart;
       to = from + kMovingPart;
+      GetCWnd()->SetTimer(kMoveTimer, kFrameMilliseconds);
     }
     painter.FillRect(client, palette.background);
     Theme::DrawProgress(painter, client, from, to, IsVertical(), palette);
@@ -90,15 +83,8 @@ class ProgressBar::impl : public PaintedImpl {
   bool OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT&) override {
     if (message == WM_ENABLE) GetCWnd()->Invalidate();
     if (message != WM_TIMER || wParam != kMoveTimer) return false;
-    GetCWnd()->Invalidate();
-    return true;
-  }
-
- protected:
-  bool CreateNative(CWnd* parent) override {
-    moves_ = false;
-    if (!PaintedImpl::CreateNative(parent)) return false;
-    Refresh();
+    GetCWnd()->KillTimer(kMoveTimer);
+    if (IsIndeterminate()) GetCWnd()->Invalidate();
     return true;
   }
 
@@ -121,7 +107,6 @@ class ProgressBar::impl : public PaintedImpl {
   }
 
   bool told_ = false;
-  bool moves_ = false;
 };
 
 ProgressBar::ProgressBar()

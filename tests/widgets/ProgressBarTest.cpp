@@ -50,6 +50,11 @@ TEST_F(ProgressBarTest, MovesOnlyWhileItIsIndeterminate) {
   bar.SetIndeterminate(true);
   EXPECT_GT(Paints(500), 5);
   EXPECT_EQ(bar.GetText(), L"");
+  bar.Show(false, false);
+  robot_.AdvanceTime(500);
+  EXPECT_EQ(Paints(500), 0) << "nobody sees it";
+  bar.Show(true, false);
+  EXPECT_GT(Paints(500), 5);
   bar.SetIndeterminate(false);
   Robot::PumpAll();
   EXPECT_EQ(Paints(500), 0);
