@@ -1,4 +1,4 @@
-# Quick builds where the tools for it are installed: ccache for compiling, mold for linking.
+# Quick builds where the tools for it are installed: ccache for compiling, gold for linking.
 
 find_program(WEXA_CCACHE ccache)
 if(WEXA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
@@ -9,7 +9,7 @@ if(WEXA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 include(CheckLinkerFlag)
-check_linker_flag(CXX -fuse-ld=mold WEXA_HAS_MOLD)
-if(WEXA_HAS_MOLD)
-  add_link_options(-fuse-ld=mold)
+check_linker_flag(CXX -fuse-ld=gold WEXA_HAS_GOLD)
+if(WEXA_HAS_GOLD)
+  add_link_options(-fuse-ld=gold)
 endif()
