@@ -115,7 +115,6 @@ void WexaUtils::DeleteIcons(std::vector<HICON>& icons) {
 namespace {
 
 constexpr std::uint32_t kAlpha = 0xFF000000;
-constexpr std::uint32_t kColors = 0x00FFFFFF;
 
 struct IconBitmaps {
   explicit IconBitmaps(HICON icon) {
@@ -130,18 +129,6 @@ struct IconBitmaps {
   UniqueBitmap color;
   UniqueBitmap mask;
 };
-
-// The colours, opaque where the mask is black and invisible elsewhere.
-HBITMAP WithAlphaOfMask(HBITMAP color, HBITMAP mask) {
-  BITMAP size{};
-  GetBitmapDescription(color, &size);
-  const HBITMAP result = CreateBitmap(size.bmWidth, size.bmHeight, 32);
-  std::ranges::transform(BitmapPixels(color), BitmapPixels(mask), BitmapPixels(result).begin(),
-                         [](std::uint32_t pixel, std::uint32_t transparent) {
-                           return (pixel & kColors) | ((transparent & kColors) ? 0 : kAlpha);
-                         });
-  return result;
-}
 
 }  // namespace
 

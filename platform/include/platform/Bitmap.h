@@ -33,6 +33,8 @@ std::span<std::uint32_t> BitmapPixels(HBITMAP bitmap);
 // The first picture in the bytes of a BMP, GIF, JPEG, PNG, TIFF, icon or cursor file. Null when
 // they are damaged, incomplete or none of these.
 HBITMAP DecodeBitmap(std::span<const BYTE> bytes);
+// A copy of 32 bits: opaque where the mask, of the same size, is black, and invisible elsewhere.
+HBITMAP WithAlphaOfMask(HBITMAP color, HBITMAP mask);
 // A smooth copy of another size, in the same depth.
 HBITMAP StretchBitmap(HBITMAP bitmap, int width, int height);
 

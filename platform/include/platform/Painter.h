@@ -51,8 +51,9 @@ class Painter {
   // The line's left edge and the top of its font box at (x, y).
   void Text(const TextLine& line, int x, int y, COLORREF color);
 
-  // The bitmap in the size of the rectangle, never mirrored itself. Nothing for a stale handle.
-  void Picture(HBITMAP bitmap, const RECT& rect);
+  // The bitmap in the size of the rectangle, never mirrored itself, blended with what is there by
+  // its alpha channel and by `opacity`, which makes all of it fainter. Nothing for a stale handle.
+  void Picture(HBITMAP bitmap, const RECT& rect, BYTE opacity = 255);
 
   // Clips everything drawn until the matching PopClip.
   void PushClip(const RECT& rect);

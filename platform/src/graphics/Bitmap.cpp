@@ -84,6 +84,18 @@ HBITMAP CopyBitmap(HBITMAP bitmap) {
   return AddBitmap(std::move(copy));
 }
 
+HBITMAP WithAlphaOfMask(HBITMAP color, HBITMAP mask) {
+  constexpr std::uint32_t kAlpha = 0xFF000000;
+  BITMAP size{};
+  GetBitmapDescription(color, &size);
+  const HBITMAP result = CreateBitmap(size.bmWidth, size.bmHeight, 32);
+  std::ranges::transform(BitmapPixels(color), BitmapPixels(mask), BitmapPixels(result).begin(),
+                         [](std::uint32_t pixel, std::uint32_t transparent) {
+                           return (pixel & ~kAlpha) | ((transparent & ~kAlpha) ? 0 : kAlpha);
+                         });
+  return result;
+}
+
 BOOL DeleteBitmap(HBITMAP bitmap) {
   return Table().Remove(bitmap) != nullptr;
 }

@@ -8,7 +8,7 @@ namespace {
 
 // Fills the rectangle with the whole picture.
 void DrawPicture(cairo_t* cairo, cairo_surface_t* picture, const BitmapObject& size,
-                 const CRect& rect) {
+                 const CRect& rect, BYTE opacity = 255) {
   cairo_translate(cairo, rect.left, rect.top);
   const bool scaled = rect.Width() != size.Width() || rect.Height() != size.Height();
   cairo_rectangle(cairo, 0, 0, rect.Width(), rect.Height());
@@ -21,7 +21,7 @@ void DrawPicture(cairo_t* cairo, cairo_surface_t* picture, const BitmapObject& s
   cairo_pattern_t* pattern = cairo_get_source(cairo);
   cairo_pattern_set_filter(pattern, scaled ? CAIRO_FILTER_GOOD : CAIRO_FILTER_NEAREST);
   cairo_pattern_set_extend(pattern, CAIRO_EXTEND_PAD);  // the edges stay as opaque as they are
-  cairo_paint(cairo);
+  cairo_paint_with_alpha(cairo, opacity / 255.0);
 }
 
 std::uint32_t Straight(std::uint32_t pixel) {
@@ -46,7 +46,7 @@ void CopyStraight(cairo_surface_t* surface, BitmapObject& bitmap) {
 
 }  // namespace
 
-void Painter::Picture(HBITMAP bitmap, const RECT& rect) {
+void Painter::Picture(HBITMAP bitmap, const RECT& rect, BYTE opacity) {
   const DeviceContext* context = Context();
   BitmapObject* object = FindBitmap(bitmap);
   if (!context || !context->surface || !object || CRect(rect).IsEmpty()) return;
@@ -60,7 +60,7 @@ void Painter::Picture(HBITMAP bitmap, const RECT& rect) {
     cairo_rectangle(cairo, part.left, part.top, part.Width(), part.Height());
   }
   cairo_clip(cairo);
-  DrawPicture(cairo, picture, *object, place);
+  DrawPicture(cairo, picture, *object, place, opacity);
   cairo_restore(cairo);
 }
 

@@ -5,9 +5,8 @@
 namespace core {
 namespace {
 
-constexpr std::uint32_t kOpaque = 0xFF;
-
-std::uint32_t Multiplied(std::uint32_t color, std::uint32_t alpha) {
+std::uint32_t MultipliedWithAlpha(std::uint32_t color) {
+  const std::uint32_t alpha = color >> 24;
   const auto channel = [&](int shift) {
     return ((((color >> shift) & 0xFF) * alpha + 127) / 255) << shift;
   };
@@ -20,22 +19,18 @@ display::CursorPicture PictureOf(HCURSOR cursor) {
   ICONINFO info{};
   BITMAP bitmap{};
   GetIconInfo(cursor, &info);
-  const UniqueBitmap color(info.hbmColor);
+  UniqueBitmap picture(info.hbmColor);
   const UniqueBitmap mask(info.hbmMask);
-  GetBitmapDescription(info.hbmColor, &bitmap);
-  const bool hasAlpha = bitmap.bmBitsPixel == 32;
+  GetBitmapDescription(picture.get(), &bitmap);
+  if (bitmap.bmBitsPixel != 32) picture.reset(WithAlphaOfMask(picture.get(), mask.get()));
 
-  display::CursorPicture picture;
-  picture.size = {bitmap.bmWidth, bitmap.bmHeight};
-  picture.hotSpot = {std::min(static_cast<LONG>(info.xHotspot), bitmap.bmWidth - 1),
-                     std::min(static_cast<LONG>(info.yHotspot), bitmap.bmHeight - 1)};
-  std::ranges::transform(
-      BitmapPixels(info.hbmColor), BitmapPixels(info.hbmMask), std::back_inserter(picture.pixels),
-      [&](auto pixel, auto masked) {
-        const bool transparent = (masked & 0xFFFFFF) != 0;
-        return Multiplied(pixel, hasAlpha ? pixel >> 24 : transparent ? 0 : kOpaque);
-      });
-  return picture;
+  display::CursorPicture shown;
+  shown.size = {bitmap.bmWidth, bitmap.bmHeight};
+  shown.hotSpot = {std::min(static_cast<LONG>(info.xHotspot), bitmap.bmWidth - 1),
+                   std::min(static_cast<LONG>(info.yHotspot), bitmap.bmHeight - 1)};
+  std::ranges::transform(BitmapPixels(picture.get()), std::back_inserter(shown.pixels),
+                         MultipliedWithAlpha);
+  return shown;
 }
 
 }  // namespace core
