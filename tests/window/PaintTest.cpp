@@ -233,6 +233,7 @@ TEST_F(PaintTest, ChildShownAgainAfterBeingInvalidIsPainted) {
 TEST_F(PaintTest, RedrawTurnedOffPaintsNothing) {
   const HWND child = MakeChild(window_, {0, 0, 50, 50});
   Settle();
+  InvalidateRect(child, nullptr, TRUE);
   SendMessageW(child, WM_SETREDRAW, FALSE, 0);
   InvalidateRect(child, nullptr, TRUE);
   EXPECT_THAT(TakePainted(), IsEmpty());

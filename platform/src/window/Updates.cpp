@@ -31,14 +31,22 @@ PixelRegion ClientArea(const Window& window, HRGN region) {
   return area.Intersect(window.client);
 }
 
+// Whether the next pass comes by; one that went by while the window was not to be painted has left
+// it out.
+bool IsAwaited(const Window& window) {
+  for (const Window* w = &window; w; w = w->parent)
+    if (!w->subtreeDirty) return false;
+  return true;
+}
+
 // Whether the pass will paint all of the window anyway, because all of it is due, or all of an
 // ancestor that paints over its children.
 bool IsDue(const Window& window, UpdateOptions options) {
   if (window.allDue && (!options.deep || !window.ClipsChildren())) {
-    return !options.erase || window.eraseDue;
+    return (!options.erase || window.eraseDue) && IsAwaited(window);
   }
   for (const Window* w = window.parent; w && !w->ClipsChildren(); w = w->parent)
-    if (w->allDue) return true;
+    if (w->allDue) return IsAwaited(*w);
   return false;
 }
 
