@@ -1,0 +1,195 @@
+#include "MFC/ButtonImplMFC.h"
+
+#include <algorithm>
+
+#include "MFC/EventDispatch.h"
+#include "MFC/base/WidgetColors.h"
+#include "WexaException.h"
+#include "platform/ControlConstants.h"
+#include "platform/Painter.h"
+#include "platform/Theme.h"
+#include "platform/VirtualKeys.h"
+
+namespace Wexa {
+
+namespace {
+
+constexpr int kMinimumWidth = 75;
+constexpr DWORD kToggleStyle = BS_PUSHLIKE | BS_AUTOCHECKBOX;
+constexpr DWORD kPictureAndAlignment = 0x380;
+
+RGBColor Opaque(RGBColor color) {
+  return {color.GetR(), color.GetG(), color.GetB()};
+}
+COLORREF Word(const SkinManagerColor& color) {
+  return static_cast<COLORREF>(static_cast<unsigned long>(color));
+}
+
+}  // namespace
+
+Button::impl::impl(Button* owner)
+    : BaseImplMFC(owner), window_(std::make_shared<ButtonMFC<Button>>(*this)) {
+  Creation().style |= WS_TABSTOP | BS_PUSHBUTTON;
+}
+
+Button::impl::impl(Button* owner, std::shared_ptr<CButton> native)
+    : BaseImplMFC(owner), window_(std::move(native)) {}
+
+Button::impl::~impl() = default;
+
+bool Button::impl::CreateNative(CWnd* parent) {
+  DWORD style = Creation().style | (checkable_ ? kToggleStyle : 0);
+  if (!CreateButton(ScaledRect(), style, parent)) return false;
+  if (beginsChecked_) window_->SetCheck(BST_CHECKED);
+  return true;
+}
+
+bool Button::impl::CreateButton(const CRect& rect, DWORD style, CWnd* parent) {
+  return window_ && window_->Create(Creation().text, style, rect, parent, Creation().controlId);
+}
+
+Size Button::impl::IdealSize() {
+  CSize text = CaptionSize();
+  CSize content = ContentSize(pictures_.Size(), text);
+  SIZE padding = Theme::PushButtonPadding();
+  int height = content.cy + 2 * padding.cy;
+  if (text.cx == 0 && pictures_.normal) return {content.cx + 2 * padding.cy, height};
+  return {std::max(content.cx + 2 * padding.cx, Scale(kMinimumWidth)), height};
+}
+
+void Button::impl::Show(bool show, bool updateLayout) {
+  BaseImplMFC::Show(show, updateLayout);
+  TellButtonBox();
+}
+
+void Button::impl::SetText(const std::wstring& text) {
+  BaseImplMFC::SetText(text);
+  TellButtonBox();
+}
+
+void Button::impl::TellButtonBox() {
+  auto* parent = Owner() ? static_cast<BaseGUIObject*>(Owner()->GetParent()) : nullptr;
+  if (parent && parent->Type() == GuiType::ButtonBox) ImplOf(parent)->InvalidateLayout();
+}
+
+// -- Toggle
+
+void Button::impl::SetChecked(bool checked) {
+  if (!checkable_) MakeCheckable();
+  Window();
+  window_->SetCheck(checked ? BST_CHECKED : BST_UNCHECKED);
+  window_->Invalidate();
+}
+
+// A push button cannot become a check box in place: the window is made again where it was.
+void Button::impl::MakeCheckable() {
+  CWnd& old = Window();
+  CWnd* parent = old.GetParent();
+  HWND previous = GetWindow(old.GetSafeHwnd(), GW_HWNDPREV);
+  CRect rect = old.GetWindowRect();
+  parent->ScreenToClient(&rect);
+  DWORD style = old.GetStyle() | kToggleStyle;
+  Creation().text = old.GetWindowText();
+  HFONT font = old.GetFont();
+  window_ = std::make_shared<ButtonMFC<Button>>(*this);
+  if (!CreateButton(rect, style, parent))
+    throw WexaException("include/MFC/ButtonImplMFC", __LINE__, "SetChecked re-create error");
+  AttachWindowProcedure(*Owner(), GetHandle());
+  window_->SetFont(font);
+  window_->SetWindowPos(previous, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  checkable_ = true;
+}
+
+bool Button::impl::IsChecked() {
+  return GetHandle() ? window_->GetCheck() == BST_CHECKED : beginsChecked_;
+}
+
+void Button::impl::BeginAsToggle(bool checked) {
+  checkable_ = true;
+  beginsChecked_ = checked;
+}
+
+// -- Style and colours
+
+void Button::impl::SetStyle(ButtonStyle style) {
+  style_ = style;
+  if (GetHandle()) {
+    if (style != ButtonStyle::Native) window_->ModifyStyle(kPictureAndAlignment, BS_OWNERDRAW);
+    window_->SetButtonStyle(style == ButtonStyle::Native ? BS_PUSHBUTTON : BS_OWNERDRAW);
+  }
+  if (style == ButtonStyle::IconOnly) InvalidateLayout();
+}
+
+void Button::impl::SetFaces(const std::array<RGBColor, 5>& faces) {
+  faces_ = faces;
+  GetSkinManager().SetColorChangeFlag(true);
+}
+
+void Button::impl::SetBorders(RGBColor normal, RGBColor hovered, RGBColor pressed) {
+  if (!GetHandle()) return;
+  window_->SetButtonStyle(BS_OWNERDRAW);
+  bool keepsAlpha = style_ >= ButtonStyle::Flat;
+  SkinManager& skin = GetSkinManager();
+  skin.Slot(Slot::kButtonBorder) = Word(keepsAlpha ? normal : Opaque(normal));
+  skin.Slot(Slot::kButtonHoverBorder) = Word(keepsAlpha ? hovered : Opaque(hovered));
+  skin.Slot(Slot::kButtonAccent) = Word(keepsAlpha ? pressed : Opaque(pressed));
+  hasBorders_ = true;
+}
+
+void Button::impl::SetTextColors(std::optional<RGBColor> normal, std::optional<RGBColor> disabled) {
+  SkinManager& skin = GetSkinManager();
+  if (normal) skin.Slot(Slot::kButtonText) = Word(*normal);
+  if (disabled) skin.Slot(Slot::kButtonDisabledText) = Word(*disabled);
+  if (GetHandle()) Repaint();
+}
+
+void Button::impl::RefreshSkinColors() {
+  if (GetHandle()) window_->Invalidate();
+}
+
+void Button::impl::FillPalette(ControlPalette& palette) {
+  FillButtonPalette(palette, GetSkinManager());
+  palette.background = BackgroundColor();
+  if (!faces_) return;
+  bool isChecked = checkable_ && IsChecked();
+  palette.face = Word((*faces_)[isChecked ? 4 : 0]);
+  palette.hoverFace = Word((*faces_)[1]);
+  palette.pressedFace = Word((*faces_)[2]);
+  palette.disabledFace = Word((*faces_)[3]);
+}
+
+// -- Painting and input
+
+void Button::impl::PaintOwnerDrawn() {
+  CPaintDC dc(GetHandle());
+  Painter painter(dc);
+  ControlPalette palette = SystemPalette();
+  FillPalette(palette);
+  CRect client = window_->GetClientRect();
+  UINT state = window_->GetState();
+  ControlState look;
+  look.enabled = window_->IsWindowEnabled();
+  look.pressed = (state & BST_PUSHED) != 0 || (style_ == ButtonStyle::Native && IsChecked());
+  look.focused = (state & BST_FOCUS) != 0;
+  look.focusCue = look.focused && !focusRectDisabled;
+  look.hovered = IsMouseTracked();
+  look.isDefault = window_->GetButtonStyle() == BS_DEFPUSHBUTTON;
+  painter.FillRect(client, palette.background);
+  Theme::DrawPushButton(painter, client, look, palette, Scale(cornerRadius));
+  COLORREF color =
+      look.enabled ? (look.pressed ? palette.pressedText : palette.text) : palette.disabledText;
+  PaintContent(painter, client, look.enabled, color);
+}
+
+void Button::impl::OnClicked() {
+  if (Owner()) static_cast<Button*>(Owner())->Clicked();
+}
+
+bool Button::impl::OnPreTranslate(const MSG& message) {
+  bool isReturn = message.message == WM_KEYDOWN && message.wParam == VK_RETURN;
+  if (!isReturn || style_ == ButtonStyle::Native) return false;
+  OnClicked();
+  return true;
+}
+
+}  // namespace Wexa

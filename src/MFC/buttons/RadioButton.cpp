@@ -1,0 +1,188 @@
+#include "RadioButton.h"
+
+#include <algorithm>
+
+#include "MFC/RadioButtonImplMFC.h"
+#include "MFC/base/WidgetColors.h"
+#include "platform/ControlConstants.h"
+#include "platform/Painter.h"
+#include "platform/Theme.h"
+
+namespace Wexa {
+
+RadioButton::RadioButton()
+    : BaseGUIObject(GuiType::RadioButton), impl_(std::make_shared<impl>(this)) {}
+RadioButton::~RadioButton() {
+  ReleaseImpl();
+}
+
+bool RadioButton::Create(HWND parent) {
+  return impl_->Create(parent);
+}
+std::shared_ptr<BaseImpl> RadioButton::GetBaseImpl() const {
+  return impl_;
+}
+Size RadioButton::IdealSize() {
+  return impl_->IdealSize();
+}
+void RadioButton::SetCheck() {
+  impl_->SetCheck();
+}
+bool RadioButton::Checked() {
+  return impl_->IsChecked();
+}
+void RadioButton::LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                              WexaUtils::ScalePicture scale, int iconSize) {
+  impl_->LoadPicture({data, size, type, scale, iconSize});
+}
+void RadioButton::LoadPicture(const std::wstring& path, WexaUtils::ScalePicture scale,
+                              int iconSize) {
+  const PictureFile file(path);
+  LoadPicture(file.bytes.get(), file.size, file.type, scale, iconSize);
+}
+void RadioButton::SetText(const std::wstring& text) {
+  impl_->SetText(text);
+}
+std::wstring RadioButton::GetText() {
+  return impl_->Text();
+}
+void RadioButton::SetGroupInfo(std::shared_ptr<GroupInfo> group) {
+  impl_->group = std::move(group);
+}
+std::shared_ptr<GroupInfo> RadioButton::GetGroupInfo() {
+  return impl_->group;
+}
+
+// -- Implementation
+
+namespace {
+
+int MarkWidth() {
+  return Theme::CheckSize() + Theme::CheckGap();
+}
+
+CRect MarkRect(const CRect& client) {
+  int side = Theme::CheckSize();
+  int top = client.top + (client.Height() - side) / 2;
+  return {client.left, top, client.left + side, top + side};
+}
+
+CSize CaptionSize(HFONT font, const std::wstring& text) {
+  return GetTextExtent(font, text, INT32_MAX, DT_SINGLELINE);
+}
+
+}  // namespace
+
+RadioButton::impl::impl(RadioButton* owner) : BaseImplMFC(owner), window_(*this) {
+  Creation().style |= WS_TABSTOP | BS_AUTORADIOBUTTON;
+}
+
+bool RadioButton::impl::CreateNative(CWnd* parent) {
+  if (!window_.Create(Creation().text, Creation().style, ScaledRect(), parent,
+                      Creation().controlId))
+    return false;
+  if (checkedByForm) window_.SetCheck(BST_CHECKED);
+  return true;
+}
+
+Size RadioButton::impl::IdealSize() {
+  Size plain = CheckSizeFor(Font(), Text());
+  if (!pictures_.normal) return plain;
+  CSize content = ContentSize(pictures_.Size(), CaptionSize(Font(), Text()));
+  return {MarkWidth() + content.cx, std::max<int>(plain.Height(), content.cy)};
+}
+
+void RadioButton::impl::SetCheck() {
+  if (!GetHandle() || !group) return;
+  CheckRadioButton(window_.GetParent()->GetSafeHwnd(), static_cast<int>(group->firstId),
+                   static_cast<int>(group->lastId), window_.GetDlgCtrlID());
+}
+
+bool RadioButton::impl::IsChecked() {
+  return GetHandle() && window_.GetCheck() == BST_CHECKED;
+}
+
+void RadioButton::impl::FillPalette(ControlPalette& palette) {
+  FillCheckPalette(palette, GetSkinManager());
+  palette.background = BackgroundColor();
+}
+
+void RadioButton::impl::RefreshSkinColors() {
+  if (GetHandle()) window_.Invalidate();
+}
+
+unsigned RadioButton::impl::CheckedIdOfGroup() {
+  HWND parent = window_.GetParent()->GetSafeHwnd();
+  for (unsigned id = group->lastId; id >= group->firstId && id > 0; --id) {
+    HWND button = GetDlgItem(parent, static_cast<int>(id));
+    if (button && SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED) return id;
+  }
+  return 0;
+}
+
+void RadioButton::impl::KeepState() {
+  BaseImplMFC::KeepState();
+  checkedByForm = IsChecked();
+}
+
+// -- Pictures
+
+void RadioButton::impl::LoadPicture(const PictureRequest& request) {
+  CRect area = GetHandle() ? window_.GetClientRect() : ScaledRect();
+  area.left = std::min<int>(area.left + MarkWidth(), area.right);
+  UniqueBitmap loaded = LoadPictureInto(area, GetHandle() ? &window_ : nullptr, request);
+  if (!loaded) return;
+  pictures_.normal = std::move(loaded);
+  if (GetHandle()) window_.Invalidate();
+  InvalidateLayout();
+}
+
+ControlState RadioButton::impl::Look() const {
+  UINT state = window_.GetState();
+  ControlState look;
+  look.enabled = window_.IsWindowEnabled();
+  look.pressed = (state & BST_PUSHED) != 0;
+  look.focused = (state & BST_FOCUS) != 0;
+  look.check = window_.GetCheck();
+  return look;
+}
+
+void RadioButton::impl::PaintOwnerDrawn() {
+  CPaintDC dc(GetHandle());
+  Painter painter(dc);
+  ControlPalette palette = SystemPalette();
+  FillPalette(palette);
+  CRect area = window_.GetClientRect();
+  ControlState look = Look();
+  look.hovered = IsMouseTracked();
+  painter.FillRect(area, palette.background);
+  Theme::DrawRadioButton(painter, MarkRect(area), look, palette);
+  area.left += MarkWidth();
+  CSize text = CaptionSize(Font(), Text());
+  ContentPlaces places = PlaceContent(area, pictures_.Size(), text, ContentAlignment::Left);
+  painter.Picture(pictures_.For(look.enabled), places.picture);
+  COLORREF color = look.enabled ? palette.text : palette.disabledText;
+  painter.Text(Text(), places.text, DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_HIDEPREFIX,
+               Font(), color);
+  if (look.focused) painter.FocusRect(places.text, palette.text);
+}
+
+// -- Input
+
+// The buttons of a group need not follow one another in their parent, so that the native button
+// does not know them. Arrow keys and mnemonics click before they focus: only the focused and
+// checked button reports.
+void RadioButton::impl::OnClicked() {
+  HWND window = GetHandle();
+  if (IsChecked()) SetCheck();
+  if (!Owner() || GetFocus() != window || !IsChecked()) return;
+  auto* owner = static_cast<RadioButton*>(Owner());
+  owner->Clicked();
+  if (!IsWindow(window) || !group) return;
+  unsigned checked = CheckedIdOfGroup();
+  bool changed = checked != group->checkedId;
+  group->checkedId = checked;
+  if (changed) owner->GroupChanged();
+}
+
+}  // namespace Wexa

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <list>
+#include <memory>
+#include <vector>
+
+#include "MFC/ContainerImpl.h"
+#include "MFC/containers/SplitHandle.h"
+#include "MFC/containers/SplitSizes.h"
+#include "MFC/drawn/HolderView.h"
+#include "Splitter.h"
+
+namespace Wexa {
+
+// Each view stands in a pane, a window of its own; a handle follows each pane but the last.
+class Splitter::impl : public ContainerImpl {
+ public:
+  explicit impl(Splitter* owner) : ContainerImpl(owner) {}
+
+  Size IdealSize() override;
+  Size MinimumIdealSize() override;
+  void UpdateLayout() override;
+  void RefreshSkinColors() override;
+  HWND HolderOf(const BaseGUIObject& view) override;
+  void OnChildCreated(BaseGUIObject&) override { UpdateLayout(); }
+  bool OnPreTranslate(const MSG& message) override;
+
+  void SetOrientation(bool vertical);
+  void AddView(BaseGUIObject* view);
+  std::vector<BaseGUIObject*> Views() const;
+  void SetHandleWidth(int width);
+  int HandleWidth() const { return handleWidth_; }
+  void GiveSizes(const std::list<int>& sizes);
+
+  bool isDynamic = true;
+
+ protected:
+  bool CreateNative(CWnd* parent) override;
+
+ private:
+  struct Pane {
+    BaseGUIObject* view = nullptr;
+    std::unique_ptr<HolderView> window = std::make_unique<HolderView>();
+    std::shared_ptr<SplitHandle> handle = std::make_shared<SplitHandle>();
+  };
+
+  int Along(const Size& size) const { return isVertical_ ? size.Height() : size.Width(); }
+  int Across(const Size& size) const { return isVertical_ ? size.Width() : size.Height(); }
+  CRect PaneRect(int from, int length);
+  int HandleSize() const;
+  int HandlesSize() const;
+  Size Around(Size (*sizeOf)(BaseGUIObject&));
+  void CreatePane(std::size_t index);
+  void TieHandle(std::size_t index);
+  void ReadWishes();
+  void Place();
+  void PlacePane(std::size_t index, int from);
+
+  void DragTo(std::size_t index, int distance);
+  void Drop();
+  void CancelDrag();
+  void MoveBorder(std::size_t index, int distance);
+  void ShowTracker(std::size_t index);
+
+  std::vector<Pane> panes_;
+  SplitSizes sizes_;
+  SplitSizes sizesAtPress_;
+  bool isDragging_ = false;
+  std::shared_ptr<InteractiveWnd> tracker_;
+  bool isVertical_ = false;
+  int handleWidth_ = 6;
+};
+
+}  // namespace Wexa

@@ -1,0 +1,58 @@
+#include "StackedDialog.h"
+
+#include "ChildDialog.h"
+#include "MFC/containers/PagesImpl.h"
+
+namespace Wexa {
+
+class StackedDialog::impl : public PagesImpl {
+ public:
+  using PagesImpl::PagesImpl;
+
+  void InvalidateInParent() {
+    CWnd* parent = GetHandle() ? GetCWnd()->GetParent() : nullptr;
+    if (!parent) return;
+    CRect area = GetCWnd()->GetWindowRect();
+    parent->ScreenToClient(&area);
+    parent->InvalidateRect(&area, true);
+  }
+};
+
+StackedDialog::StackedDialog()
+    : BaseGUIObject(GuiType::StackedDialog), impl_(std::make_shared<impl>(this)) {}
+StackedDialog::~StackedDialog() {
+  ReleaseImpl();
+}
+
+bool StackedDialog::Create(HWND parent) {
+  return impl_->Create(parent);
+}
+std::shared_ptr<BaseImpl> StackedDialog::GetBaseImpl() const {
+  return impl_;
+}
+
+void StackedDialog::AddChildDialog(ChildDialog* page) {
+  impl_->AddPage(page);
+}
+ChildDialog* StackedDialog::GetPage(int index) {
+  return impl_->Page(index);
+}
+int StackedDialog::GetCurrentIndex() {
+  return impl_->CurrentIndex();
+}
+
+void StackedDialog::SetCurrentIndex(int index) {
+  const auto held = impl_;  // a handler may destroy the container
+  held->SetCurrentIndex(index, false);
+  held->InvalidateInParent();
+}
+
+void StackedDialog::EnablePage(int index, bool enable, bool remember) {
+  impl_->EnablePage(index, enable, remember);
+}
+
+int StackedDialog::InsertChildDialog(int, CWnd*) {
+  return 0;
+}
+
+}  // namespace Wexa

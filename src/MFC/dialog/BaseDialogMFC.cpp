@@ -1,0 +1,34 @@
+#include "MFC/dialog/BaseDialogMFC.h"
+
+#include "MFC/DialogImplMFC.h"
+
+namespace Wexa {
+
+BOOL BaseDialogMFC::PreTranslateMessage(MSG* message) {
+  BOOL result = FALSE;
+  if (impl_.OnPreTranslate(*message, result)) return result;
+  return CDialogEx::PreTranslateMessage(message);
+}
+
+LRESULT BaseDialogMFC::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SETCURSOR:
+      if (LOWORD(lParam) == HTCLIENT && impl_.OnSetCursor()) return TRUE;
+      break;
+    case WM_SIZE: impl_.Pages().Fit(); break;
+    case WM_GETMINMAXINFO: impl_.OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
+    default: break;
+  }
+  return CDialogEx::WindowProc(message, wParam, lParam);
+}
+
+BOOL BaseDialogMFC::OnInitDialog() {
+  CDialogEx::OnInitDialog();
+  return impl_.OnInitDialog();
+}
+
+void BaseDialogMFC::OnCancel() {
+  impl_.OnCloseRequest();
+}
+
+}  // namespace Wexa

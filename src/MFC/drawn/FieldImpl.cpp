@@ -1,0 +1,104 @@
+#include "MFC/FieldImpl.h"
+
+#include <algorithm>
+
+#include "MFC/base/WidgetColors.h"
+#include "platform/Painter.h"
+#include "platform/Theme.h"
+
+namespace Wexa {
+
+namespace {
+
+constexpr int kAreaWidth = 256;
+constexpr int kAreaHeight = 192;
+constexpr int kMinimumAreaSide = 72;
+constexpr int kMinimumLineWidth = 40;
+
+}  // namespace
+
+FieldImpl::FieldImpl(BaseGUIObject* owner) : PaintedImpl(owner) {}
+
+void FieldImpl::FillPalette(ControlPalette& palette) {
+  FillInputPalette(palette, GetSkinManager());
+  palette.background = BackgroundColor();
+}
+
+void FieldImpl::RefreshSkinColors() {
+  if (GetHandle()) GetCWnd()->Invalidate();
+}
+
+bool FieldImpl::IsShownEnabled() {
+  return GetCWnd()->IsWindowEnabled();
+}
+
+COLORREF FieldImpl::TextColor(const ControlPalette& palette) {
+  return IsShownEnabled() ? palette.text : palette.disabledText;
+}
+
+Size FieldImpl::LineSize(int textWidth) const {
+  SIZE padding = Theme::FieldPadding();
+  return {textWidth + 2 * padding.cx, GetFontMetrics(Font()).height + 2 * padding.cy};
+}
+
+void FieldImpl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
+  ControlState state;
+  state.enabled = IsShownEnabled();
+  painter.FillRect(client, palette.background);
+  Theme::DrawField(painter, client, state, palette, Scale(CornerRadius()));
+  SIZE padding = Theme::FieldPadding();
+  CRect inner = client.Shrunk(padding.cx, padding.cy);
+  if (inner.IsEmpty()) return;
+  painter.PushClip(inner);
+  PaintContent(painter, inner, palette);
+  painter.PopClip();
+}
+
+// -- One line
+
+Size LineFieldImpl::IdealSize() {
+  return LineSize(ContentWidth() + Theme::ArrowButtonWidth());
+}
+
+Size LineFieldImpl::MinimumIdealSize() {
+  int content = std::min(ContentWidth(), Scale(kMinimumLineWidth));
+  return LineSize(content + Theme::ArrowButtonWidth());
+}
+
+void LineFieldImpl::PaintContent(Painter& painter, const CRect& inner,
+                                 const ControlPalette& palette) {
+  SIZE padding = Theme::FieldPadding();
+  CRect text = inner;
+  CRect end = inner.Shrunk(-padding.cx, -padding.cy);
+  end.left = end.right - Theme::ArrowButtonWidth();
+  text.right = end.left;
+  painter.Text(ShownText(), text, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX, Font(),
+               TextColor(palette));
+  painter.PopClip();
+  painter.PushClip(end);
+  PaintEnd(painter, end, palette);
+}
+
+// -- Lines
+
+Size TextAreaImpl::IdealSize() {
+  return Scale(kAreaWidth, kAreaHeight);
+}
+Size TextAreaImpl::MinimumIdealSize() {
+  return Scale(kMinimumAreaSide, kMinimumAreaSide);
+}
+
+void TextAreaImpl::PaintContent(Painter& painter, const CRect& inner,
+                                const ControlPalette& palette) {
+  UINT format = DT_LEFT | DT_NOPREFIX | (wraps ? DT_WORDBREAK : DT_SINGLELINE);
+  CRect line = inner;
+  for (const std::wstring& text : lines) {
+    if (line.top >= inner.bottom) return;
+    SIZE extent = GetTextExtent(Font(), text, inner.Width(), format);
+    line.bottom = line.top + extent.cy;
+    painter.Text(text, line, format, Font(), TextColor(palette));
+    line.top = line.bottom;
+  }
+}
+
+}  // namespace Wexa

@@ -1,0 +1,252 @@
+#include "MFC/forms/DialogBuilder.h"
+
+#include <algorithm>
+#include <map>
+
+#include "ChildDialog.h"
+#include "Label.h"
+#include "MFC/RadioButtonImplMFC.h"
+#include "MFC/forms/LayoutSettings.h"
+#include "MFC/forms/WidgetSettings.h"
+#include "MFC/tips/ToolTips.h"
+#include "ScrollArea.h"
+#include "Splitter.h"
+#include "StackedDialog.h"
+#include "TabView.h"
+#include "Utf8.h"
+#include "WexaObjectFactory.h"
+#include "WexaUtils.h"
+#include "form/FormText.h"
+#include "form/RichText.h"
+#include "layout/BoxLayout.h"
+#include "layout/GridLayout.h"
+#include "layout/SpacerItem.h"
+#include "layout/WidgetItem.h"
+#include "platform/ControlConstants.h"
+
+namespace Wexa {
+
+namespace {
+
+using GuiType = BaseGUIObject::GuiType;
+
+Size ScaledSize(const FormNode& node, PropertyId width, PropertyId height) {
+  const std::wstring* w = node.Text(width);
+  const std::wstring* h = node.Text(height);
+  return {w ? Scale(FormInteger(*w)) : 0, h ? Scale(FormInteger(*h)) : 0};
+}
+
+bool IsVerticalSpacer(const FormNode& node, const FormNode* parentLayout) {
+  const std::wstring* orientation = node.Text(PropertyId::Orientation);
+  if (orientation && IsEnumWord(*orientation, L"Qt::Vertical")) return true;
+  return parentLayout && parentLayout->layoutKind == FormNode::LayoutKind::VBox;
+}
+
+// Below a custom skin any palette does: the dialog's colours show through.
+SkinMode ChildModeOf(const SkinManager& skin) {
+  const SkinMode mode = skin.GetRequestedMode();
+  return mode == SkinMode::Custom ? SkinMode::Default : mode;
+}
+
+Layout* MakeLayout(FormNode::LayoutKind kind, WexaObject* parent) {
+  switch (kind) {
+    case FormNode::LayoutKind::HBox: return new HBoxLayout(parent);
+    case FormNode::LayoutKind::VBox: return new VBoxLayout(parent);
+    default: return new GridLayout(parent);
+  }
+}
+
+}  // namespace
+
+void DialogBuilder::Build() {
+  const FormNode& root = *model_.root;
+  ConfigureDialog(root);
+  BuildChildren(root, {&dialog_});
+  FillWithCentralWidget(root);
+  ResolveBuddies();
+  impl_.tabOrder = model_.tabOrder;
+  GroupRadioButtons();
+}
+
+void DialogBuilder::ConfigureDialog(const FormNode& root) {
+  ApplySizeLimits(dialog_, root);
+  if (const std::wstring* title = root.Text(PropertyId::Title)) impl_.title = *title;
+  dialog_.SetName(root.name);
+  impl_.clientSize = ScaledSize(root, PropertyId::Width, PropertyId::Height);
+}
+
+// Main windows state no layout for their central widget: it fills them.
+void DialogBuilder::FillWithCentralWidget(const FormNode& root) {
+  if (root.className != L"QMainWindow" || impl_.Links().layout || impl_.Children().empty()) return;
+  auto* layout = new VBoxLayout(&dialog_);
+  layout->SetContentsMargins(0, 0, 0, 0);
+  layout->AddItem(new WidgetItemV2(layout, impl_.Children().front()));
+}
+
+void DialogBuilder::BuildChildren(const FormNode& node, const Place& place) {
+  for (const auto& child : node.children) {
+    switch (child->kind) {
+      case FormNode::Kind::Layout: BuildLayout(*child, place); break;
+      case FormNode::Kind::Spacer: BuildSpacer(*child, place); break;
+      case FormNode::Kind::Widget: BuildWidget(*child, place); break;
+    }
+  }
+}
+
+// -- Layouts and spacers
+
+void DialogBuilder::BuildLayout(const FormNode& node, const Place& place) {
+  bool isTopLevel = !place.layout;
+  Layout* layout = MakeLayout(node.layoutKind, isTopLevel ? place.widget : nullptr);
+  if (isTopLevel && ImplOf(place.widget)->Links().layout != layout) {
+    delete layout;  // a second layout in one widget has no area to share out
+    return;
+  }
+  if (!isTopLevel) AddToLayout(place.cellNode ? *place.cellNode : node, layout, place);
+  ApplyLayoutSettings(*layout, node);
+  BuildChildren(node, {place.widget, layout, &node});
+  ApplyLayoutLists(*layout, node);
+}
+
+void DialogBuilder::BuildSpacer(const FormNode& node, const Place& place) {
+  if (!place.layout || !node.Text(PropertyId::Width)) return;
+  const std::wstring* sizeType = node.Text(PropertyId::SizeType);
+  SizePolicy::Policy along = sizeType
+                                 ? WexaUtils::PropertyToSizePolicy(L"QSizePolicy::" + *sizeType)
+                                 : SizePolicy::Expanding;
+  bool isVertical = IsVerticalSpacer(node, place.layoutNode);
+  Size size = ScaledSize(node, PropertyId::Width, PropertyId::Height);
+  auto* spacer =
+      new SpacerItem(size.Width(), size.Height(), isVertical ? SizePolicy::Minimum : along,
+                     isVertical ? along : SizePolicy::Minimum);
+  AddToLayout(node, spacer, place);
+}
+
+void DialogBuilder::AddToLayout(const FormNode& node, LayoutItem* item, const Place& place) {
+  auto* grid = dynamic_cast<GridLayout*>(place.layout);
+  if (!grid) return place.layout->AddItem(item);
+  const FormNode::Cell& cell = node.cell;
+  grid->AddItem(item, cell.row, cell.column, cell.rowSpan, cell.columnSpan);
+}
+
+// -- Widgets
+
+std::shared_ptr<BaseGUIObject> DialogBuilder::MakeWidget(const FormNode& node,
+                                                         std::wstring& className) {
+  WexaObjectFactory& factory = WexaObjectFactory::Instance();
+  className = node.className;
+  auto widget = factory.Create(NarrowUtf8(className));
+  // A class of the form's own stands for the class it extends; chains are short, loops end.
+  for (std::size_t i = 0; !widget && i <= model_.customClasses.size(); ++i) {
+    auto base = model_.customClasses.find(className);
+    if (base == model_.customClasses.end()) break;
+    className = base->second;
+    widget = factory.Create(NarrowUtf8(className));
+  }
+  return widget;
+}
+
+void DialogBuilder::NoteUnknown(const std::wstring& className) {
+  auto& unknown = impl_.statistics.unknownClasses;
+  if (std::find(unknown.begin(), unknown.end(), className) == unknown.end())
+    unknown.push_back(className);
+}
+
+void DialogBuilder::BuildWidget(const FormNode& node, const Place& place) {
+  std::wstring className;
+  auto widget = MakeWidget(node, className);
+  if (!widget) {
+    NoteUnknown(node.className);
+    Place sameParent = place;
+    sameParent.cellNode = &node;
+    return BuildChildren(node, sameParent);
+  }
+  widget->SetName(node.name);
+  widget->SetParent(place.widget);
+  ImplOf(place.widget)->Children().push_back(widget.get());
+  widget->GetSkinManager().InitSkinManager(&impl_.GetSkinManager(),
+                                           ChildModeOf(impl_.GetSkinManager()));
+  ApplyWidgetSettings(*widget, node, className);
+  impl_.AddElement(node.name, widget);
+  AddToolTip(node, widget);
+  ++impl_.statistics.widgets;
+  PlaceWidget(node, *widget, place);
+  if (const std::wstring* buddy = node.Text(PropertyId::Buddy);
+      buddy && widget->Type() == GuiType::Label)
+    buddies_.emplace_back(widget.get(), *buddy);
+  BuildChildren(node, {widget.get()});
+}
+
+void DialogBuilder::AddToolTip(const FormNode& node, const std::shared_ptr<BaseGUIObject>& widget) {
+  const std::wstring* tip = node.Extra(L"toolTip");
+  if (!tip) return;
+  std::int32_t bold = 0;
+  impl_.Tips().Set(widget, {L"", IsRichText(*tip) ? PlainTextOf(*tip, bold) : *tip}, 0, nullptr);
+}
+
+void DialogBuilder::PlaceWidget(const FormNode& node, BaseGUIObject& widget, const Place& place) {
+  if (!place.layout) return AddToContainer(node, widget, *place.widget);
+  const FormNode& cell = place.cellNode ? *place.cellNode : node;
+  AddToLayout(cell, new WidgetItemV2(place.layout, &widget), place);
+}
+
+void DialogBuilder::AddToContainer(const FormNode& node, BaseGUIObject& widget,
+                                   BaseGUIObject& parent) {
+  bool isPage = widget.Type() == GuiType::ChildDialog;
+  switch (parent.Type()) {
+    case GuiType::Splitter: static_cast<Splitter&>(parent).AddView(&widget); break;
+    case GuiType::ScrollArea: static_cast<ScrollArea&>(parent).SetContent(&widget); break;
+    case GuiType::StackedDialog:
+      if (isPage)
+        static_cast<StackedDialog&>(parent).AddChildDialog(static_cast<ChildDialog*>(&widget));
+      break;
+    case GuiType::TabView:
+      if (isPage) {
+        const std::wstring* text = node.Text(PropertyId::Text);
+        static_cast<TabView&>(parent).AddPage(static_cast<ChildDialog*>(&widget),
+                                              text ? *text : node.titleAttribute);
+      }
+      break;
+    default: break;
+  }
+}
+
+// -- After the tree
+
+void DialogBuilder::ResolveBuddies() {
+  for (const auto& [label, name] : buddies_)
+    static_cast<Label*>(label)->SetBuddy(impl_.ElementByName(name).get());
+}
+
+// Radio buttons of one group name form a group; those without one, a group in each parent. A
+// group's ids follow one another, and the keyboard stays within it.
+void DialogBuilder::GroupRadioButtons() {
+  using Key = std::pair<std::wstring, WexaObject*>;
+  std::map<Key, std::vector<RadioButton::impl*>> groups;
+  std::map<WexaObject*, Key> previous;
+  for (const auto& element : impl_.Elements()) {
+    BaseGUIObject* widget = element.widget.get();
+    WexaObject* parent = widget->GetParent();
+    Key key;
+    if (widget->Type() == GuiType::RadioButton) {
+      auto* radio = static_cast<RadioButton::impl*>(ImplOf(widget));
+      key = {radio->groupName, radio->groupName.empty() ? parent : nullptr};
+      groups[key].push_back(radio);
+    }
+    auto [place, isFirst] = previous.try_emplace(parent, key);
+    if (isFirst ? key != Key() : place->second != key) ImplOf(widget)->Creation().style |= WS_GROUP;
+    place->second = key;
+  }
+  for (auto& [key, radios] : groups) {
+    auto group = std::make_shared<GroupInfo>();
+    for (RadioButton::impl* radio : radios) {
+      radio->Creation().controlId = NextControlId();
+      if (radio->checkedByForm) group->checkedId = radio->Creation().controlId;
+      radio->group = group;
+    }
+    group->firstId = radios.front()->Creation().controlId;
+    group->lastId = radios.back()->Creation().controlId;
+  }
+}
+
+}  // namespace Wexa

@@ -1,0 +1,116 @@
+#include "MFC/forms/WidgetSettings.h"
+
+#include <string_view>
+
+#include "MFC/BaseImplMFC.h"
+#include "MFC/DialogImplMFC.h"
+#include "MFC/forms/ClassSettings.h"
+#include "MFC/forms/DefaultPolicy.h"
+#include "WexaUtils.h"
+#include "form/FormModel.h"
+#include "form/FormText.h"
+#include "platform/ControlConstants.h"
+
+namespace Wexa {
+
+namespace {
+
+bool Has(const FormNode& node, PropertyId id, std::wstring_view word) {
+  const std::wstring* text = node.Text(id);
+  return text && HasEnumWord(*text, word);
+}
+
+int NumberOr(const FormNode& node, PropertyId id, int absent) {
+  const std::wstring* text = node.Text(id);
+  return text ? FormInteger(*text) : absent;
+}
+
+// The extent of a node without geometry is its parent's.
+int ExtentOf(const FormNode& node, PropertyId id) {
+  if (node.Text(id)) return NumberOr(node, id, 0);
+  return node.parent ? NumberOr(*node.parent, id, 0) : 0;
+}
+
+CRect RectOf(const FormNode& node) {
+  int x = NumberOr(node, PropertyId::X, 0);
+  int y = NumberOr(node, PropertyId::Y, 0);
+  Rect rect(x, y, ExtentOf(node, PropertyId::Width), ExtentOf(node, PropertyId::Height));
+  return rect.PlatformRect();
+}
+
+DWORD ClassStyle(const FormNode& node, std::wstring_view className) {
+  bool isVertical = Has(node, PropertyId::Orientation, L"Qt::Vertical");
+  if (className == L"QTableWidget" || className == L"QListWidget") {
+    const std::wstring* sorted = node.Text(PropertyId::SortingEnabled);
+    return sorted && *sorted == L"true" ? LVS_SORTASCENDING : 0;
+  }
+  if (className == L"QSlider") return isVertical ? TBS_VERT : 0;
+  if (className == L"QScrollBar") return isVertical ? SBS_VERT : 0;
+  if (className == L"QProgressBar") return isVertical ? PBS_VERTICAL : 0;
+  if (className == L"Line" && isVertical) return SS_ETCHEDVERT;
+  if (className == L"Line" && Has(node, PropertyId::Orientation, L"Qt::Horizontal"))
+    return SS_ETCHEDHORZ;
+  return 0;
+}
+
+void ApplyStyle(CreationRecord& record, const FormNode& node, std::wstring_view className) {
+  record.style |= ClassStyle(node, className);
+  const std::wstring* frame = node.Text(PropertyId::FrameShape);
+  if (frame && IsEnumWord(*frame, L"QFrame::Box")) record.style |= WS_BORDER;
+  if (Has(node, PropertyId::FocusPolicy, L"Qt::NoFocus")) record.style &= ~WS_TABSTOP;
+  if (Has(node, PropertyId::FrameShape, L"QFrame::NoFrame")) record.style &= ~WS_BORDER;
+}
+
+void ApplySizePolicy(BaseGUIObject& widget, const FormNode& node, const std::wstring& className) {
+  const std::wstring* horizontal = node.Text(PropertyId::HSizeType);
+  const std::wstring* vertical = node.Text(PropertyId::VSizeType);
+  const std::wstring* across = node.Text(PropertyId::HorStretch);
+  const std::wstring* down = node.Text(PropertyId::VerStretch);
+  if (!horizontal || !vertical || !across || !down) {
+    bool isVertical = Has(node, PropertyId::Orientation, L"Qt::Vertical");
+    return widget.SetSizePolicy(DefaultPolicyOf(className, isVertical));
+  }
+  SizePolicy policy(WexaUtils::PropertyToSizePolicy(*horizontal),
+                    WexaUtils::PropertyToSizePolicy(*vertical));
+  policy.SetHorizontalStretch(FormInteger(*across));
+  policy.SetVerticalStretch(FormInteger(*down));
+  widget.SetSizePolicy(policy);
+}
+
+}  // namespace
+
+void ApplySizeLimits(BaseGUIObject& widget, const FormNode& node) {
+  BaseImplMFC& impl = *ImplOf(&widget);
+  LayoutLinks& links = impl.Links();
+  Size least = impl.MinimumSize();
+  Size most = impl.MaximumSize();
+  auto read = [&](PropertyId id, bool& isExplicit, auto set) {
+    const std::wstring* text = node.Text(id);
+    if (!text) return;
+    set(Scale(FormInteger(*text)));
+    isExplicit = true;
+  };
+  read(PropertyId::MinWidth, links.explicitMinimum.width, [&](int v) { least.SetWidth(v); });
+  read(PropertyId::MinHeight, links.explicitMinimum.height, [&](int v) { least.SetHeight(v); });
+  read(PropertyId::MaxWidth, links.explicitMaximum.width, [&](int v) { most.SetWidth(v); });
+  read(PropertyId::MaxHeight, links.explicitMaximum.height, [&](int v) { most.SetHeight(v); });
+  impl.SetMinimumSize(least);
+  impl.SetMaximumSize(most);
+}
+
+void ApplyWidgetSettings(BaseGUIObject& widget, const FormNode& node,
+                         const std::wstring& className) {
+  CreationRecord& record = ImplOf(&widget)->Creation();
+  const std::wstring* text = node.Text(PropertyId::Text);
+  record.text = text && !text->empty() ? *text : node.titleAttribute;
+  if (const std::wstring* title = node.Text(PropertyId::Title)) record.title = *title;
+  if (const std::wstring* enabled = node.Extra(L"enabled")) record.enabled = *enabled != L"false";
+  record.rect = RectOf(node);
+  record.controlId = NextControlId();
+  ApplyStyle(record, node, className);
+  ApplySizeLimits(widget, node);
+  ApplySizePolicy(widget, node, className);
+  ApplyClassSettings(widget, node);
+}
+
+}  // namespace Wexa

@@ -1,0 +1,52 @@
+#include "Slider.h"
+
+#include <algorithm>
+
+#include "MFC/base/WidgetColors.h"
+#include "MFC/ranges/RangeImpl.h"
+#include "MFC/ranges/SliderWnd.h"
+#include "platform/ControlConstants.h"
+
+namespace Wexa {
+
+namespace {
+
+constexpr int kIdealLength = 100;
+constexpr int kSmallestLength = 48;
+constexpr int kThickness = 24;
+
+class SliderImpl : public RangeControl::impl {
+ public:
+  explicit SliderImpl(RangeControl* owner) : impl(owner, std::make_shared<SliderWnd>()) {}
+
+  void FillPalette(ControlPalette& palette) override {
+    FillInputPalette(palette, GetSkinManager());
+    palette.background = BackgroundColor();
+  }
+
+ protected:
+  bool IsVertical() const override { return (Creation().style & TBS_VERT) != 0; }
+  Size LyingIdealSize() const override { return Scale(kIdealLength, kThickness); }
+  Size LyingMinimumSize() const override { return Scale(kSmallestLength, kThickness); }
+};
+
+SliderWnd& WindowOf(RangeControl::impl& impl) {
+  return static_cast<SliderWnd&>(impl.Bar());
+}
+
+}  // namespace
+
+Slider::Slider()
+    : RangeControl(GuiType::Slider, [](RangeControl* owner) -> std::shared_ptr<impl> {
+        return std::make_shared<SliderImpl>(owner);
+      }) {}
+
+void Slider::SetTickInterval(int interval) {
+  WindowOf(*impl_).tickInterval = std::max(interval, 0);
+  impl_->RefreshSkinColors();
+}
+int Slider::GetTickInterval() const {
+  return WindowOf(*impl_).tickInterval;
+}
+
+}  // namespace Wexa

@@ -1,0 +1,193 @@
+#include "Label.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "MFC/BaseImplMFC.h"
+#include "MFC/EventDispatch.h"
+#include "MFC/base/WidgetColors.h"
+#include "MFC/texts/LabelPicture.h"
+#include "layout/WidgetLink.h"
+#include "platform/ControlConstants.h"
+#include "platform/Painter.h"
+#include "platform/Theme.h"
+
+namespace Wexa {
+
+namespace {
+
+// A wrapped text asks for lines of about this width.
+constexpr int kWrappedWidth = 320;
+
+// The native text, or what is painted in its place.
+class LabelWnd : public CStatic {
+ public:
+  std::function<void()> paint;  // null for the text
+
+ protected:
+  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_PAINT || lParam == kPostPaint || !paint)
+      return CStatic::WindowProc(message, wParam, lParam);
+    paint();
+    return 0;
+  }
+};
+
+}  // namespace
+
+class Label::impl : public BaseImplMFC {
+ public:
+  explicit impl(Label* owner) : BaseImplMFC(owner) {
+    Creation().style |= SS_LEFTNOWORDWRAP | SS_ENDELLIPSIS | SS_CENTERIMAGE | SS_NOPREFIX;
+  }
+
+  CWnd* GetCWnd() override { return &window_; }
+
+  Size IdealSize() override {
+    if (picture_) return {picture_.IdealSize().cx, picture_.IdealSize().cy};
+    SIZE line = Extent(INT32_MAX);
+    if (!wraps_ || line.cx <= Scale(kWrappedWidth)) return {line.cx, line.cy};
+    SIZE block = Extent(Scale(kWrappedWidth));
+    return {block.cx, block.cy};
+  }
+
+  Size MinimumIdealSize() override {
+    if (picture_) return picture_.IsFitted() ? Size(0, 0) : IdealSize();
+    if (!wraps_) return IdealSize();
+    SIZE block = Extent(1);
+    return {std::min(static_cast<int>(block.cx), Scale(kWrappedWidth)), Extent(INT32_MAX).cy};
+  }
+
+  bool HasHeightForWidth() override { return wraps_ && !picture_; }
+  int HeightForWidth(int width) override {
+    return HasHeightForWidth() ? Extent(std::max(width, 1)).cy : -1;
+  }
+
+  void FillPalette(ControlPalette& palette) override {
+    FillCommonPalette(palette, GetSkinManager());
+    palette.background = BackgroundColor();
+  }
+  void RefreshSkinColors() override {
+    if (GetHandle()) window_.Invalidate();
+  }
+
+  using BaseImplMFC::SetText;
+  using BaseImplMFC::Text;
+
+  void SetWordWrap(bool wrap) {
+    wraps_ = wrap;
+    SetHorizontalStyle();
+  }
+
+  bool LoadPicture(const PictureRequest& request) {
+    if (!picture_.Load(request)) return false;
+    window_.paint = [this] { PaintPicture(); };
+    if (GetHandle()) window_.Invalidate();
+    InvalidateLayout();
+    return true;
+  }
+
+  void SetAlignment(Alignment alignment) {
+    alignment_ = alignment;
+    SetHorizontalStyle();
+  }
+
+  void ChangeStyle(DWORD remove, DWORD add) {
+    Creation().style = (Creation().style & ~remove) | add;
+    if (GetHandle()) {
+      window_.ModifyStyle(remove, add);
+      window_.Invalidate();
+    }
+    InvalidateLayout();
+  }
+
+  WidgetLink buddy;
+
+ protected:
+  bool CreateNative(CWnd* parent) override {
+    return window_.Create(Creation().text, Creation().style, ScaledRect(), parent,
+                          Creation().controlId);
+  }
+
+ private:
+  SIZE Extent(int width) {
+    UINT format = wraps_ ? DT_WORDBREAK : 0;
+    if (Creation().style & SS_NOPREFIX) format |= DT_NOPREFIX;
+    return GetTextExtent(Font(), Text(), width, format);
+  }
+
+  // Unwrapped left-aligned texts have a style of their own.
+  void SetHorizontalStyle() {
+    DWORD style = SS_LEFT;
+    if (alignment_ == Alignment::Center) style = SS_CENTER;
+    if (alignment_ == Alignment::Right) style = SS_RIGHT;
+    if (alignment_ == Alignment::Left && !wraps_) style = SS_LEFTNOWORDWRAP;
+    if (!wraps_) style |= SS_ENDELLIPSIS;
+    ChangeStyle(SS_TYPEMASK | SS_ENDELLIPSIS, style);
+  }
+
+  void PaintPicture() {
+    CPaintDC dc(GetHandle());
+    Painter painter(dc);
+    CRect client = window_.GetClientRect();
+    painter.FillRect(client, BackgroundColor());
+    int across = static_cast<int>(alignment_);
+    int down = Creation().style & SS_CENTERIMAGE ? 1 : 0;
+    picture_.Paint(painter, client, across, down, window_.IsWindowEnabled());
+  }
+
+  LabelWnd window_;
+  LabelPicture picture_;
+  Alignment alignment_ = Alignment::Left;
+  bool wraps_ = false;
+};
+
+Label::Label() : BaseGUIObject(GuiType::Label), impl_(std::make_shared<impl>(this)) {}
+Label::~Label() {
+  ReleaseImpl();
+}
+
+bool Label::Create(HWND parent) {
+  return impl_->Create(parent);
+}
+std::shared_ptr<BaseImpl> Label::GetBaseImpl() const {
+  return impl_;
+}
+Size Label::IdealSize() {
+  return impl_->IdealSize();
+}
+void Label::SetText(const std::wstring& text) {
+  impl_->SetText(text);
+}
+std::wstring Label::GetText() {
+  return impl_->Text();
+}
+void Label::SetAlignment(Alignment alignment) {
+  impl_->SetAlignment(alignment);
+}
+void Label::SetVerticallyCentered(bool centered) {
+  impl_->ChangeStyle(SS_CENTERIMAGE, centered ? SS_CENTERIMAGE : 0);
+}
+void Label::SetWordWrap(bool wrap) {
+  impl_->SetWordWrap(wrap);
+}
+bool Label::LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
+                        WexaUtils::ScalePicture scale, int iconSize) {
+  return impl_->LoadPicture({data, size, type, scale, iconSize});
+}
+bool Label::LoadPicture(const std::wstring& path, WexaUtils::ScalePicture scale, int iconSize) {
+  const PictureFile file(path);
+  return LoadPicture(file.bytes.get(), file.size, file.type, scale, iconSize);
+}
+void Label::SetFont(const FontData& font) {
+  impl_->SetFont(font);
+}
+void Label::SetBuddy(BaseGUIObject* buddy) {
+  impl_->buddy = WidgetLink(buddy);
+  impl_->ChangeStyle(SS_NOPREFIX, buddy ? 0 : SS_NOPREFIX);
+}
+BaseGUIObject* Label::GetBuddy() const {
+  return impl_->buddy.Widget();
+}
+
+}  // namespace Wexa

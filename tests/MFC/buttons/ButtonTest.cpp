@@ -1,0 +1,215 @@
+#include "Button.h"
+
+#include "ButtonBox.h"
+#include "CheckBox.h"
+#include "MFC/ButtonImplMFC.h"
+#include "MFC/base/WidgetColors.h"
+#include "RadioButton.h"
+#include "WexaException.h"
+#include "platform/VirtualKeys.h"
+#include "support/FormTest.h"
+
+namespace Wexa {
+namespace {
+
+std::string ButtonXml(const std::string& name, const std::string& text) {
+  return ItemXml(WidgetXml("QPushButton", name, PropertyXml("text", "string", text)));
+}
+
+std::string RadioXml(const std::string& name, const std::string& group) {
+  return ItemXml(WidgetXml("QRadioButton", name,
+                           PropertyXml("text", "string", name) +
+                               "<attribute name=\"buttonGroup\"><string>" + group +
+                               "</string></attribute>"));
+}
+
+class ButtonTest : public FormTest {};
+
+TEST_F(ButtonTest, AClickReachesClickedOnceOnRelease) {
+  Open(ColumnForm(ButtonXml("ok", "OK") + ButtonXml("other", "Other")));
+  int clicks = 0;
+  Find<Button>(L"ok").Clicked.Connect([&] { ++clicks; });
+  HWND window = Find<Button>(L"ok").GetPlatformHandle();
+  robot_.Press(window);
+  EXPECT_EQ(clicks, 0);
+  robot_.Release();
+  EXPECT_EQ(clicks, 1);
+  robot_.Press(window);
+  robot_.MoveTo(Find<Button>(L"other").GetPlatformHandle());
+  robot_.Release();
+  EXPECT_EQ(clicks, 1) << "released outside";
+}
+
+TEST_F(ButtonTest, QueuedConnectionsRunInOrderAfterTheHandler) {
+  Dialog& dialog = Open(ColumnForm(ButtonXml("ok", "OK")));
+  std::string order;
+  auto& clicked = Find<Button>(L"ok").Clicked;
+  clicked.Connect(&dialog, [&] { order += 'a'; });
+  clicked.Connect([&] { order += 'd'; });
+  clicked.Connect(&dialog, [&] { order += 'b'; });
+  clicked();
+  EXPECT_EQ(order, "d");
+  Robot::PumpAll();
+  EXPECT_EQ(order, "dab");
+}
+
+TEST_F(ButtonTest, CallsOnTheirWayDieWithTheirList) {
+  Dialog& dialog = Open(ColumnForm(ButtonXml("ok", "OK")));
+  int calls = 0;
+  {
+    CallbackList<int> list;
+    list.Connect(&dialog, [&](int n) { calls += n; });
+    list(1);
+  }
+  Robot::PumpAll();
+  EXPECT_EQ(calls, 0);
+}
+
+TEST_F(ButtonTest, AHandlerMayDestroyItsDialog) {
+  Open(ColumnForm(ButtonXml("ok", "OK")));
+  Find<Button>(L"ok").Clicked.Connect([this] { dialog_.reset(); });
+  int later = 0;
+  Find<Button>(L"ok").Clicked.Connect([&] { ++later; });
+  robot_.ClickCentreOf(Find<Button>(L"ok").GetPlatformHandle());
+  EXPECT_EQ(dialog_, nullptr);
+  EXPECT_EQ(later, 0) << "the list died while it fired";
+}
+
+TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
+  Open(ColumnForm(ButtonXml("first", "First") + ButtonXml("toggle", "Toggle")));
+  auto& toggle = Find<Button>(L"toggle");
+  Rect before = toggle.GetWindowRect();
+  toggle.SetChecked(true);
+  HWND window = toggle.GetPlatformHandle();
+  toggle.SetChecked(true);
+  EXPECT_EQ(toggle.GetPlatformHandle(), window);
+  EXPECT_TRUE(toggle.GetCheck());
+  EXPECT_EQ(toggle.GetWindowRect(), before);
+  EXPECT_EQ(toggle.GetText(), L"Toggle");
+  int clicks = 0;
+  toggle.Clicked.Connect([&] { ++clicks; });
+  robot_.ClickCentreOf(window);
+  EXPECT_FALSE(toggle.GetCheck());
+  EXPECT_EQ(clicks, 1);
+  robot_.Key(VK_TAB);
+  EXPECT_EQ(dialog_->GetFocusedCtrlPtr(), &Find<Button>(L"first")) << "its place in the tab order";
+}
+
+TEST_F(ButtonTest, AFormMayMakeAToggle) {
+  const auto flag = [](const char* name) { return PropertyXml(name, "bool", "true"); };
+  const std::string xml = WidgetXml("QPushButton", "toggle", flag("checkable") + flag("checked"));
+  EXPECT_TRUE(
+      static_cast<Button&>(*Make(ColumnForm(ItemXml(xml)))->GetElementByName(L"toggle")).GetCheck())
+      << "before it has a window";
+  Open(ColumnForm(ItemXml(xml)));
+  auto& toggle = Find<Button>(L"toggle");
+  EXPECT_TRUE(toggle.GetCheck());
+  robot_.ClickCentreOf(toggle.GetPlatformHandle());
+  EXPECT_FALSE(toggle.GetCheck());
+}
+
+TEST_F(ButtonTest, BorderColorsKeepTheirAlphaFromStyleFourOn) {
+  Open(ColumnForm(ButtonXml("ok", "OK")));
+  auto& button = Find<Button>(L"ok");
+  RGBColor half(10, 20, 30, 128);
+  button.SetStyle(Button::ButtonStyle::Framed);
+  button.SetBorderColor(half, half, half);
+  EXPECT_EQ(RGBColor(button.GetSkinManager().Slot(Slot::kButtonBorder)).GetA(), 255);
+  button.SetStyle(Button::ButtonStyle::IconAndText);
+  button.SetBorderColor(half, half, half);
+  EXPECT_EQ(RGBColor(button.GetSkinManager().Slot(Slot::kButtonBorder)).GetA(), 128);
+}
+
+TEST_F(ButtonTest, ReturnOnALibraryDrawnButtonClicksIt) {
+  Open(ColumnForm(ButtonXml("first", "First") + ButtonXml("drawn", "Drawn")));
+  auto& drawn = Find<Button>(L"drawn");
+  drawn.SetStyle(Button::ButtonStyle::Framed);
+  drawn.SetBackgroundColor(0x1E1EC8u, true);
+  int clicks = 0;
+  drawn.Clicked.Connect([&] { ++clicks; });
+  dialog_->SetFocusToCtrl(&drawn);
+  robot_.Key(VK_RETURN);
+  EXPECT_EQ(clicks, 1);
+  Size size = drawn.GetClientRect().GetSize();
+  EXPECT_EQ(Robot::PixelAt(drawn.GetPlatformHandle(), 5, size.Height() / 2), 0xC81E1Eu);
+}
+
+TEST_F(ButtonTest, ABoxHasItsButtonsInTheFixedOrder) {
+  Open(ColumnForm(ItemXml(WidgetXml(
+      "QDialogButtonBox", "box",
+      PropertyXml("standardButtons", "set", "QDialogButtonBox::Cancel|QDialogButtonBox::Ok")))));
+  auto& box = Find<ButtonBox>(L"box");
+  auto ok = box.GetButton(StandardButton::OK);
+  auto cancel = box.GetButton(StandardButton::Cancel);
+  ASSERT_TRUE(ok && cancel);
+  EXPECT_EQ(box.GetButton(StandardButton::Yes), nullptr);
+  EXPECT_LT(ok->GetWindowRect().Right(), cancel->GetWindowRect().Left());
+  EXPECT_EQ(cancel->GetWindowRect().Right(), box.GetWindowRect().Right());
+  EXPECT_EQ(ok->GetText(), L"OK");
+  ok->SetText(L"A much longer caption than before");
+  Robot::PumpAll();
+  EXPECT_GT(ok->GetWindowRect().Width(), 150) << "the box lays out again";
+}
+
+TEST_F(ButtonTest, CheckBoxesKeepTheirStateThroughTheDialogsEnd) {
+  Open(ColumnForm(ItemXml(WidgetXml("QCheckBox", "check", PropertyXml("text", "string", "On")))));
+  auto& check = Find<CheckBox>(L"check");
+  robot_.ClickCentreOf(check.GetPlatformHandle());
+  EXPECT_EQ(check.GetCheck(), WexaUtils::Checked);
+  check.SetBorderRadius(4);
+  check.SetBorderRadius(-1);
+  EXPECT_EQ(check.GetBorderRadius(), 4);
+  check.SetTristate(true);
+  robot_.ClickCentreOf(check.GetPlatformHandle());
+  EXPECT_EQ(check.GetCheck(), WexaUtils::PartiallyChecked);
+  dialog_->Done(Dialog::Accepted);
+  EXPECT_EQ(check.GetPlatformHandle(), nullptr);
+  EXPECT_EQ(check.GetCheck(), WexaUtils::PartiallyChecked);
+  EXPECT_EQ(check.GetText(), L"On");
+}
+
+TEST_F(ButtonTest, RadioGroupsChangeApartFromEachOther) {
+  Open(ColumnForm(RadioXml("a1", "a") + RadioXml("a2", "a") + RadioXml("b1", "b") +
+                  RadioXml("b2", "b")));
+  int clicked = 0;
+  int changed = 0;
+  Find<RadioButton>(L"a2").Clicked.Connect([&] { ++clicked; });
+  Find<RadioButton>(L"a2").GroupChanged.Connect([&] { ++changed; });
+  HWND a2 = Find<RadioButton>(L"a2").GetPlatformHandle();
+  robot_.ClickCentreOf(Find<RadioButton>(L"b1").GetPlatformHandle());
+  robot_.ClickCentreOf(Find<RadioButton>(L"a1").GetPlatformHandle());
+  robot_.ClickCentreOf(a2);
+  EXPECT_EQ(clicked, 1);
+  EXPECT_EQ(changed, 1);
+  EXPECT_FALSE(Find<RadioButton>(L"a1").Checked());
+  EXPECT_TRUE(Find<RadioButton>(L"b1").Checked()) << "another group";
+  robot_.ClickCentreOf(a2);
+  EXPECT_EQ(clicked, 2);
+  EXPECT_EQ(changed, 1) << "it was the checked one already";
+  Find<RadioButton>(L"a1").SetCheck();
+  EXPECT_TRUE(Find<RadioButton>(L"a1").Checked());
+  EXPECT_FALSE(Find<RadioButton>(L"a2").Checked());
+}
+
+TEST_F(ButtonTest, OperationsWithoutAWindowSayThatTheControlIsNotValid) {
+  Button button;
+  EXPECT_EQ(button.Type(), BaseGUIObject::GuiType::Button);
+  auto expectInvalid = [](auto operation) {
+    try {
+      operation();
+      ADD_FAILURE() << "nothing was thrown";
+    } catch (const std::exception& error) {
+      EXPECT_STREQ(error.what(), "Control is not valid.");
+    }
+  };
+  expectInvalid([&] { button.Show(true, false); });
+  expectInvalid([&] { button.Enable(true, true); });
+  expectInvalid([&] { button.GetClientRect(); });
+  expectInvalid([&] { button.SetChecked(true); });
+  button.SetText(L"Kept");
+  EXPECT_EQ(button.GetText(), L"Kept");
+  EXPECT_FALSE(button.Create(nullptr));
+}
+
+}  // namespace
+}  // namespace Wexa

@@ -1,0 +1,259 @@
+// How dialogs are shown and ended, modal and modeless.
+
+#include <stdexcept>
+
+#include "ButtonBox.h"
+#include "Edit.h"
+#include "WexaException.h"
+#include "support/DialogTest.h"
+
+namespace Wexa {
+namespace {
+
+constexpr unsigned long kNoSystemMenu = 0x10C40000;
+constexpr auto kOwnState = static_cast<Dialog::DoneState>(42);
+
+TEST_F(DialogTest, DoModalReturnsTheStateItWasEndedWith) {
+  auto& dialog = Scripted(ColumnForm(LineEdit("edit")));
+  dialog.step = [&] {
+    EXPECT_TRUE(dialog.IsModalMode());
+    EXPECT_TRUE(dialog.IsInitialized());
+    EXPECT_TRUE(dialog.IsVisible());
+    dialog.Done(kOwnState);
+  };
+  EXPECT_EQ(dialog.DoModal(), kOwnState);
+  EXPECT_EQ(dialog.GetHandle(), nullptr);
+  EXPECT_EQ(dialog.GetWndPtr(), nullptr);
+  dialog.step = [&] { dialog.Done(Dialog::Accepted); };
+  EXPECT_EQ(dialog.DoModal(), Dialog::Accepted) << "it can be shown again";
+}
+
+TEST_F(DialogTest, AFilterKeepsTheDialogOpenButDoesNotChangeTheState) {
+  auto& dialog = Scripted(ColumnForm(LineEdit("edit")));
+  std::vector<int> asked;
+  dialog.filter = [&](int state) {
+    asked.push_back(state);
+    return asked.size() == 1 ? -1 : 7;
+  };
+  dialog.step = [&] {
+    dialog.Done(Dialog::Accepted);
+    EXPECT_TRUE(dialog.IsVisible());
+    dialog.Done(kOwnState);
+  };
+  EXPECT_EQ(dialog.DoModal(), kOwnState);
+  EXPECT_EQ(asked, (std::vector<int>{Dialog::Accepted, kOwnState}));
+}
+
+TEST_F(DialogTest, EscapeAndTheCloseButtonEndADialogWithASystemMenu) {
+  for (bool byKey : {true, false}) {
+    auto& dialog = Scripted(ColumnForm(LineEdit("edit")));
+    dialog.step = [&] {
+      if (byKey) return robot_.Key(VK_ESCAPE);
+      dialog.GetWndPtr()->PostMessage(WM_SYSCOMMAND, SC_CLOSE);
+      Robot::PumpAll();
+    };
+    EXPECT_EQ(dialog.DoModal(), Dialog::Rejected);
+  }
+}
+
+TEST_F(DialogTest, WithoutASystemMenuOnlyDoneEndsIt) {
+  auto& dialog = Scripted(ColumnForm(LineEdit("edit")), kNoSystemMenu);
+  dialog.step = [&] {
+    robot_.Key(VK_ESCAPE);
+    dialog.GetWndPtr()->PostMessage(WM_CLOSE);
+    Robot::PumpAll();
+    ASSERT_TRUE(dialog.GetHandle());
+    EXPECT_TRUE(dialog.IsVisible());
+    dialog.Done(kOwnState);
+  };
+  EXPECT_EQ(dialog.DoModal(), kOwnState);
+}
+
+TEST_F(DialogTest, DoneWithoutAWindowThrows) {
+  dialog_ = Make(ColumnForm(LineEdit("edit")));
+  const auto end = [&] {
+    try {
+      dialog_->Done(Dialog::Accepted);
+    } catch (const WexaException& error) {
+      return std::string(error.what());
+    }
+    return std::string();
+  };
+  EXPECT_THAT(end(), ::testing::HasSubstr("Invalid Control!"));
+  dialog_->DoModeless(true);
+  EXPECT_EQ(end(), "");
+  EXPECT_THAT(end(), ::testing::HasSubstr("Invalid Control!")) << "ended, too";
+}
+
+TEST_F(DialogTest, AModelessDialogCanBeShownAgain) {
+  Open(ColumnForm(LineEdit("edit") + PushButton("button")));
+  const Rect place = PlaceOf(L"button");
+  Find<Edit>(L"edit").SetText(L"entered");
+  dialog_->Done(Dialog::Accepted);
+  EXPECT_FALSE(dialog_->IsModalMode());
+  EXPECT_EQ(dialog_->GetHandle(), nullptr);
+  EXPECT_EQ(Find<Edit>(L"edit").GetText(), L"entered") << "what was entered stays readable";
+  dialog_->DoModeless(true);
+  EXPECT_EQ(Find<Edit>(L"edit").GetText(), L"entered");
+  EXPECT_EQ(PlaceOf(L"button"), place);
+  dialog_->DoModeless(true);
+  EXPECT_EQ(GetTopLevelWindows().size(), 1u) << "the second takes the place of the first";
+}
+
+TEST_F(DialogTest, AHiddenModelessDialogIsShownLater) {
+  dialog_ = Make(ColumnForm(LineEdit("edit") + PushButton("button")));
+  dialog_->DoModeless(false);
+  EXPECT_TRUE(dialog_->IsInitialized());
+  EXPECT_FALSE(dialog_->IsVisible());
+  Find<Button>(L"button").Show(false, true);
+  dialog_->ShowButKeepHiddenChildren(true);
+  EXPECT_TRUE(dialog_->IsVisible());
+  EXPECT_FALSE(Find<Button>(L"button").IsVisible());
+}
+
+TEST_F(DialogTest, ADialogThatRefusesInitialisationIsNotShown) {
+  auto& dialog = Scripted(ColumnForm(LineEdit("edit")));
+  dialog.initialize = [] { return false; };
+  EXPECT_EQ(dialog.DoModal(), Dialog::Rejected);
+  EXPECT_TRUE(GetTopLevelWindows().empty());
+  dialog.initialize = [&] {
+    dialog.Done(kOwnState);
+    return true;
+  };
+  EXPECT_EQ(dialog.DoModal(), kOwnState) << "ended while it was initialised";
+}
+
+TEST_F(DialogTest, ANestedModalDialogDisablesItsOwnerOnly) {
+  auto& outer = Scripted(ColumnForm(LineEdit("edit")));
+  int innerResult = -1;
+  outer.step = [&] {
+    auto inner = MakeScripted(ColumnForm(PushButton("ok")), 0, outer.GetHandle());
+    inner->step = [&] {
+      EXPECT_FALSE(IsWindowEnabled(outer.GetHandle()));
+      EXPECT_EQ(GetActiveWindow(), inner->GetHandle());
+      inner->Done(kOwnState);
+    };
+    innerResult = inner->DoModal();
+    EXPECT_TRUE(IsWindowEnabled(outer.GetHandle()));
+    EXPECT_EQ(FocusedName(), L"edit");
+    outer.Done(Dialog::Accepted);
+  };
+  EXPECT_EQ(outer.DoModal(), Dialog::Accepted);
+  EXPECT_EQ(innerResult, kOwnState);
+}
+
+TEST_F(DialogTest, AnExceptionOfAHandlerLeavesNothingBehind) {
+  Open(ColumnForm(LineEdit("edit")));
+  auto modal = MakeScripted(ColumnForm(PushButton("fails")), 0, dialog_->GetHandle());
+  auto& button = static_cast<Button&>(*modal->GetElementByName(L"fails"));
+  button.Clicked.Connect([] { throw std::runtime_error("of the host"); });
+  modal->step = [&] {
+    robot_.Press(Robot::CentreOf(button.GetPlatformHandle()));
+    EXPECT_NE(GetCapture(), nullptr);
+    robot_.Release();
+  };
+  EXPECT_THROW(modal->DoModal(), std::runtime_error);
+  EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_EQ(modal->GetHandle(), nullptr);
+  EXPECT_TRUE(IsWindowEnabled(dialog_->GetHandle()));
+  EXPECT_EQ(FocusedName(), L"edit");
+  modal->step = [&] { modal->Done(kOwnState); };
+  EXPECT_EQ(modal->DoModal(), kOwnState) << "it can be shown again";
+}
+
+TEST_F(DialogTest, AHandlerMayDestroyItsDialog) {
+  auto& dialog = Scripted(ColumnForm(PushButton("bye")));
+  auto& button = Find<Button>(L"bye");
+  button.Clicked.Connect([&] { dialog_.reset(); });
+  dialog.step = [&] { robot_.ClickCentreOf(button.GetPlatformHandle()); };
+  dialog.DoModal();
+  EXPECT_EQ(dialog_, nullptr);
+  EXPECT_TRUE(GetTopLevelWindows().empty());
+}
+
+TEST_F(DialogTest, AStepMayDestroyItsModelessDialog) {
+  auto& dialog = Scripted(ColumnForm(PushButton("bye")));
+  dialog.step = [&] { dialog_.reset(); };
+  dialog.DoModeless(true);
+  Robot::PumpAll();
+  EXPECT_EQ(dialog_, nullptr);
+  EXPECT_TRUE(GetTopLevelWindows().empty());
+}
+
+TEST_F(DialogTest, QueuedCallsArriveInOrderAfterTheHandler) {
+  Open(ColumnForm(PushButton("button")));
+  auto& button = Find<Button>(L"button");
+  std::string calls;
+  button.Clicked.Connect(&button, [&] { calls += "1"; });
+  button.Clicked.Connect(dialog_.get(), [&] { calls += "2"; });
+  button.Clicked.Connect([&] { calls += "direct "; });
+  button.Clicked.Connect(&button, [&] { calls += "3"; });
+  robot_.ClickCentreOf(button.GetPlatformHandle());
+  EXPECT_EQ(calls, "direct 123");
+}
+
+TEST_F(DialogTest, PostedMessagesArriveInOrder) {
+  Open(ColumnForm(LineEdit("edit")));
+  std::vector<WPARAM> seen;
+  dialog_->SetPreTranslateMessage([&](void* message) {
+    const auto& posted = *static_cast<MSG*>(message);
+    if (posted.message == WM_APP + 7) seen.push_back(posted.wParam);
+    return 2;
+  });
+  for (WPARAM i = 0; i < 3; ++i) dialog_->GetWndPtr()->PostMessage(WM_APP + 7, i);
+  EXPECT_TRUE(seen.empty());
+  Robot::PumpAll();
+  EXPECT_EQ(seen, (std::vector<WPARAM>{0, 1, 2}));
+}
+
+TEST_F(DialogTest, TheFirstOfTwoElementsWithOneNameIsFound) {
+  Open(ColumnForm(LineEdit("same") + PushButton("same") + LineEdit("Same")));
+  EXPECT_EQ(dialog_->GetElementByName(L"same")->Type(), BaseGUIObject::GuiType::Edit);
+  EXPECT_NE(dialog_->GetElementByName(L"same"), dialog_->GetElementByName(L"Same"));
+  EXPECT_EQ(dialog_->GetElementByName(L"other"), nullptr);
+  EXPECT_EQ(dialog_->GetElementByName(L"root"), nullptr);
+}
+
+TEST_F(DialogTest, ADialogWithoutAFormHasNothingAndHoldsStill) {
+  Dialog dialog;
+  EXPECT_EQ(dialog.GetElementByName(L"x"), nullptr);
+  EXPECT_EQ(dialog.GetFocusedCtrlPtr(), nullptr);
+  EXPECT_EQ(dialog.GetHandle(), nullptr);
+  dialog.SetWindowTitle(L"title");
+  dialog.UpdateWindow();
+  dialog.SetFocusToCtrl(nullptr);
+  dialog.SetDefaultButton(nullptr);
+  EXPECT_THROW(dialog.Done(Dialog::Accepted), WexaException);
+}
+
+TEST_F(DialogTest, ElementsOutliveTheirDialogInTheHandsOfAHost) {
+  Open(ColumnForm(LineEdit("edit") + PushButton("button")));
+  auto edit = dialog_->GetElementByName(L"edit");
+  auto button = dialog_->GetElementByName(L"button");
+  dialog_.reset();
+  EXPECT_EQ(edit->GetPlatformHandle(), nullptr);
+  EXPECT_EQ(static_cast<Edit&>(*edit).GetText(), L"edit");
+  EXPECT_EQ(static_cast<Button&>(*button).GetText(), L"button");
+  EXPECT_THROW(button->Enable(true, true), WexaException);
+}
+
+// A fresh process: the ids of controls start where they always do.
+int FirstAndSecondId(const std::wstring& form) {
+  Dialog dialog(form, nullptr, 0, 1.0);
+  dialog.DoModeless(true);
+  const auto idOf = [&](const wchar_t* name) {
+    return GetDlgCtrlID(dialog.GetElementByName(name)->GetPlatformHandle());
+  };
+  return idOf(L"a") == 3000 && idOf(L"b") == 3001 ? 0 : 1;
+}
+
+using DialogDeathTest = DialogTest;
+
+TEST_F(DialogDeathTest, TheFirstControlOfAProcessHasTheId3000) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto form = FileOf(ColumnForm(LineEdit("a") + LineEdit("b")));
+  EXPECT_EXIT(std::exit(FirstAndSecondId(form)), ::testing::ExitedWithCode(0), "");
+}
+
+}  // namespace
+}  // namespace Wexa

@@ -1,0 +1,348 @@
+// What becomes of the parts of a form: widgets, their settings, and containers.
+
+#include "ChildDialog.h"
+#include "ComboBox.h"
+#include "DateEdit.h"
+#include "Edit.h"
+#include "GroupBox.h"
+#include "KvDateTime.h"
+#include "Label.h"
+#include "MFC/DialogImplMFC.h"
+#include "MultiLineEdit.h"
+#include "RadioButton.h"
+#include "RichEdit.h"
+#include "Splitter.h"
+#include "StackedDialog.h"
+#include "TabView.h"
+#include "WexaException.h"
+#include "layout/SizeLimits.h"
+#include "platform/ControlConstants.h"
+#include "support/DialogTest.h"
+
+namespace Wexa {
+namespace {
+
+using GuiType = BaseGUIObject::GuiType;
+
+std::string Enum(const std::string& name, const std::string& value) {
+  return PropertyXml(name, "enum", value);
+}
+
+std::string SizeXml(const std::string& name, int width, int height) {
+  return PropertyXml(name, "size",
+                     "<width>" + std::to_string(width) + "</width><height>" +
+                         std::to_string(height) + "</height>");
+}
+
+std::string GeometryXml(int x, int y, int width, int height) {
+  return PropertyXml("geometry", "rect",
+                     "<x>" + std::to_string(x) + "</x><y>" + std::to_string(y) + "</y><width>" +
+                         std::to_string(width) + "</width><height>" + std::to_string(height) +
+                         "</height>");
+}
+
+std::string Column(const std::string& items) {
+  return "<layout class=\"QVBoxLayout\">" + items + "</layout>";
+}
+
+class BuilderTest : public DialogTest {
+ protected:
+  template <typename Widget>
+  Widget& Build(const std::string& content, const wchar_t* name = L"w") {
+    dialog_ = Make(FormXml(content, 300, 200));
+    return Find<Widget>(name);
+  }
+  BaseImplMFC& ImplNamed(const wchar_t* name) { return *ImplOf(&Find<BaseGUIObject>(name)); }
+  DWORD StyleOf(const std::string& className, const std::string& properties) {
+    Build<BaseGUIObject>(WidgetXml(className, "w", properties));
+    return ImplNamed(L"w").Creation().style;
+  }
+  SizePolicy PolicyOf(const std::string& className, const std::string& properties = "") {
+    return Build<BaseGUIObject>(WidgetXml(className, "w", properties)).GetSizePolicy();
+  }
+  std::string ErrorOf(const std::string& form) {
+    try {
+      Make(form);
+    } catch (const WexaException& error) {
+      const std::string text = error.what();  // where, and what after a quotation mark
+      EXPECT_EQ(error.GetFile(), "src/MFC/DialogImplMFC");
+      return text.substr(text.rfind('"') + 1);
+    } catch (const std::exception& error) {
+      return error.what();
+    }
+    return "";
+  }
+};
+
+TEST_F(BuilderTest, AWidgetHasThePolicyOfItsFormClass) {
+  struct Case {
+    const char* className;
+    SizePolicy::Policy horizontal;
+    SizePolicy::Policy vertical;
+  };
+  using enum SizePolicy::Policy;
+  constexpr Case kCases[] = {{"QScrollArea", Expanding, Expanding},
+                             {"QPlainTextEdit", Expanding, Expanding},
+                             {"QTextEdit", Expanding, Expanding},
+                             {"QTableWidget", Expanding, Expanding},
+                             {"QListWidget", Expanding, Expanding},
+                             {"QTreeView", Expanding, Expanding},
+                             {"QTabWidget", Expanding, Expanding},
+                             {"DrawElement", Expanding, Expanding},
+                             {"QLineEdit", Expanding, Fixed},
+                             {"QDialogButtonBox", Expanding, Fixed},
+                             {"QProgressBar", Expanding, Fixed},
+                             {"QSlider", Expanding, Fixed},
+                             {"QSplitter", Expanding, Preferred},
+                             {"QPushButton", Minimum, Fixed},
+                             {"QCheckBox", Minimum, Fixed},
+                             {"QRadioButton", Minimum, Fixed},
+                             {"QSpinBox", Minimum, Fixed},
+                             {"QDoubleSpinBox", Minimum, Fixed},
+                             {"QDateEdit", Minimum, Fixed},
+                             {"Line", Minimum, Fixed},
+                             {"QScrollBar", Minimum, Fixed},
+                             {"QComboBox", Preferred, Fixed},
+                             {"QComboBoxFS", Preferred, Fixed},
+                             {"QLabel", Preferred, Preferred},
+                             {"QGroupBox", Preferred, Preferred},
+                             {"QWidget", Preferred, Preferred},
+                             {"QStackedWidget", Preferred, Preferred},
+                             {"HyperLinkElement", Preferred, Preferred}};
+  for (const Case& c : kCases)
+    EXPECT_EQ(PolicyOf(c.className), SizePolicy(c.horizontal, c.vertical)) << c.className;
+  for (const char* name : {"QDialogButtonBox", "QProgressBar", "QSlider"})
+    EXPECT_EQ(PolicyOf(name, Enum("orientation", "Qt::Vertical")), SizePolicy(Fixed, Expanding));
+  EXPECT_EQ(PolicyOf("QSplitter", Enum("orientation", "Qt::Orientation::Vertical")),
+            SizePolicy(Preferred, Expanding));
+}
+
+TEST_F(BuilderTest, AStatedPolicyReplacesIt) {
+  const auto policy = [&](const char* stretch) {
+    return PolicyOf("QPushButton",
+                    "<property name=\"sizePolicy\"><sizepolicy hsizetype=\"Expanding\" "
+                    "vsizetype=\"QSizePolicy::Ignored\"><horstretch>" +
+                        std::string(stretch) +
+                        "</horstretch><verstretch>3</verstretch></sizepolicy></property>");
+  };
+  EXPECT_EQ(policy("2").GetHorizontalPolicy(), SizePolicy::Expanding);
+  EXPECT_EQ(policy("2").GetHorizontalStretch(), 2);
+  EXPECT_EQ(policy("2").GetVerticalStretch(), 3);
+  EXPECT_EQ(policy("1000").GetHorizontalStretch(), 255);
+  EXPECT_EQ(policy("-4").GetHorizontalStretch(), 0);
+}
+
+TEST_F(BuilderTest, LimitsAreMarkedPerAxis) {
+  const auto& least = Build<BaseGUIObject>(
+      WidgetXml("QLineEdit", "w", SizeXml("minimumSize", 40, 0) + SizeXml("maximumSize", 90, 50)));
+  const LayoutLinks& links = ImplOf(&least)->Links();
+  EXPECT_TRUE(links.explicitMinimum.width && links.explicitMinimum.height);
+  EXPECT_TRUE(links.explicitMaximum.width && links.explicitMaximum.height);
+  EXPECT_EQ(ImplOf(&least)->MinimumSize(), Scale(40, 0));
+  EXPECT_EQ(ImplOf(&least)->MaximumSize(), Scale(90, 50));
+  Build<BaseGUIObject>(WidgetXml("QLineEdit", "w"));
+  EXPECT_FALSE(ImplNamed(L"w").Links().explicitMinimum.width);
+  EXPECT_EQ(ImplNamed(L"w").MaximumSize(), Size(WidgetSizeLimit(), WidgetSizeLimit()));
+  dialog_ = Make(FormXml(SizeXml("minimumSize", 200, 100), 300, 200));
+  EXPECT_EQ(dialog_->MinimumSize(), Scale(200, 100));
+  EXPECT_TRUE(dialog_->GetImpl()->Links().explicitMinimum.width);
+}
+
+TEST_F(BuilderTest, ClassesAddTheirStyleBits) {
+  EXPECT_TRUE(StyleOf("QListWidget", PropertyXml("sortingEnabled", "bool", "true")) & 0x10);
+  EXPECT_TRUE(StyleOf("QSlider", Enum("orientation", "Qt::Orientation::Vertical")) & 0x2);
+  EXPECT_TRUE(StyleOf("QScrollBar", Enum("orientation", "Qt::Vertical")) & 0x1);
+  EXPECT_EQ(StyleOf("Line", Enum("orientation", "Qt::Vertical")) & 0x1F, 0x11u);
+  EXPECT_EQ(StyleOf("Line", Enum("orientation", "Qt::Horizontal")) & 0x1F, 0x10u);
+  EXPECT_TRUE(StyleOf("QLabel", Enum("frameShape", "QFrame::Box")) & WS_BORDER);
+  EXPECT_FALSE(StyleOf("QLabel", Enum("frameShape", "QFrame::Boxed")) & WS_BORDER);
+  EXPECT_FALSE(StyleOf("QTreeView", Enum("frameShape", "QFrame::Shape::NoFrame")) & WS_BORDER);
+  EXPECT_TRUE(StyleOf("QLineEdit", "") & WS_TABSTOP);
+  EXPECT_FALSE(StyleOf("QLineEdit", Enum("focusPolicy", "Qt::FocusPolicy::NoFocus")) & WS_TABSTOP);
+}
+
+TEST_F(BuilderTest, DialogStyleBitsMoveToTheExtendedStyle) {
+  dialog_ = Make(ColumnForm(""), 0x10CC0000 | 0x400 | 0x8 | 0x80 | 0x1);
+  dialog_->DoModeless(true);
+  const DWORD extended = dialog_->GetWndPtr()->GetExStyle();
+  EXPECT_EQ(extended & 0x489, 0x489u);
+  EXPECT_FALSE(dialog_->GetWndPtr()->GetStyle() & 0x400);
+  EXPECT_FALSE(extended & WS_EX_LAYOUTRTL);
+}
+
+TEST_F(BuilderTest, TheTitleIsTheWindowsText) {
+  Open(FormXml(PropertyXml("windowTitle", "string", "Ein Tit\xC3\xA4l &amp; mehr"), 300, 200));
+  EXPECT_EQ(dialog_->GetWndPtr()->GetWindowText(), L"Ein Titäl & mehr");
+  EXPECT_EQ(dialog_->GetClientRect().GetSize(), Scale(300, 200));
+}
+
+TEST_F(BuilderTest, WidgetsTakeTheirSettings) {
+  const auto text = PropertyXml("text", "string", "a text of some words");
+  Open(FormXml(
+      "<layout class=\"QVBoxLayout\">" +
+          ItemXml(WidgetXml("QLineEdit", "secret",
+                            text + Enum("echoMode", "QLineEdit::EchoMode::Password"))) +
+          ItemXml(WidgetXml("QLineEdit", "fixed", text + PropertyXml("readOnly", "bool", "true"))) +
+          ItemXml(WidgetXml("QLineEdit", "right",
+                            text + PropertyXml("alignment", "set",
+                                               "Qt::AlignmentFlag::AlignRight|Qt::AlignTop"))) +
+          ItemXml(WidgetXml("QLabel", "wrapped", text + PropertyXml("wordWrap", "bool", "true"))) +
+          ItemXml(WidgetXml("QComboBox", "combo",
+                            "<item><property name=\"text\"><string>one</string></property></item>"
+                            "<item><property name=\"text\"><string>two</string></property></item>" +
+                                PropertyXml("currentIndex", "number", "1"))) +
+          ItemXml(WidgetXml(
+              "QDateEdit", "date",
+              PropertyXml("date", "date", "<year>2024</year><month>2</month><day>29</day>"))) +
+          ItemXml(WidgetXml("QPlainTextEdit", "plain",
+                            PropertyXml("plainText", "string", "&lt;b&gt;as it is"))) +
+          ItemXml(WidgetXml(
+              "QTextEdit", "rich",
+              PropertyXml("html", "string", "&lt;p&gt;&lt;b&gt;bold&lt;/b&gt;&lt;/p&gt;"))) +
+          "</layout>",
+      200, 200));
+  const auto style = [&](const wchar_t* name) {
+    return Find<BaseGUIObject>(name).GetPlatformWindow()->GetStyle();
+  };
+  EXPECT_EQ(Find<Edit>(L"secret").GetPasswordMode(), Edit::PasswordMode::Password);
+  EXPECT_TRUE(style(L"fixed") & ES_READONLY);
+  EXPECT_TRUE(style(L"right") & ES_RIGHT);
+  EXPECT_TRUE(ImplNamed(L"wrapped").HasHeightForWidth());
+  EXPECT_EQ(Find<ComboBox>(L"combo").GetCurrentIndex(), 1);
+  EXPECT_EQ(Find<DateEdit>(L"date").GetDate(), (KvDateTime{2024, 2, 29}));
+  EXPECT_EQ(Find<MultiLineEdit>(L"plain").GetText(), L"<b>as it is");
+  EXPECT_EQ(Find<RichEdit>(L"rich").GetText(), L"bold");
+}
+
+TEST_F(BuilderTest, ChildrenOfContainersAreTheirs) {
+  const std::string inner = WidgetXml("QLineEdit", "inner");
+  Open(FormXml(WidgetXml("QGroupBox", "group",
+                         PropertyXml("title", "string", "Group") + GeometryXml(10, 20, 150, 100) +
+                             Column(ItemXml(inner))) +
+                   WidgetXml("QLineEdit", "outer", GeometryXml(10, 130, 90, 22)),
+               300, 200));
+  EXPECT_EQ(Find<GroupBox>(L"group").GetTitle(), L"Group");
+  EXPECT_EQ(GetParent(Find<Edit>(L"inner").GetPlatformHandle()),
+            Find<GroupBox>(L"group").GetPlatformHandle());
+  EXPECT_EQ(Find<Edit>(L"inner").GetParent(), &Find<GroupBox>(L"group"));
+  EXPECT_EQ(PlaceOf(L"group").GetSize(), Scale(150, 100));
+  EXPECT_EQ(PlaceOf(L"outer"), Rect(Scale(10), Scale(130), Scale(90), Scale(22)));
+  EXPECT_GT(PlaceOf(L"inner").Top(), PlaceOf(L"group").Top());
+}
+
+TEST_F(BuilderTest, ChildrenPlacedByGeometryCountFromTheirParent) {
+  Open(FormXml(WidgetXml("QGroupBox", "group",
+                         GeometryXml(30, 40, 150, 100) +
+                             WidgetXml("QLineEdit", "inner", GeometryXml(7, 21, 90, 22))),
+               300, 200));
+  EXPECT_EQ(PlaceOf(L"inner"),
+            Rect(Scale(30) + Scale(7), Scale(40) + Scale(21), Scale(90), Scale(22)));
+}
+
+TEST_F(BuilderTest, PagesOfTabsHaveCaptionsAndShowOneAtATime) {
+  const auto page = [](const std::string& name, const std::string& caption) {
+    return WidgetXml("QWidget", name,
+                     "<attribute name=\"title\"><string>" + caption + "</string></attribute>" +
+                         Column(LineEdit("edit of " + name)));
+  };
+  Open(ColumnForm(ItemXml(WidgetXml(
+      "QTabWidget", "tabs",
+      PropertyXml("currentIndex", "number", "1") + page("a", "First") + page("b", "Second")))));
+  auto& tabs = Find<TabView>(L"tabs");
+  EXPECT_EQ(tabs.GetItemCount(), 2);
+  EXPECT_EQ(tabs.GetTabText(0), L"First");
+  EXPECT_EQ(tabs.GetCurrentIndex(), 1);
+  EXPECT_FALSE(IsWindowVisible(Find<Edit>(L"edit of a").GetPlatformHandle()));
+  EXPECT_TRUE(IsWindowVisible(Find<Edit>(L"edit of b").GetPlatformHandle()));
+  const Rect second = PlaceOf(L"edit of b");
+  tabs.SetCurrentIndex(0);
+  EXPECT_EQ(PlaceOf(L"edit of a"), second);
+}
+
+TEST_F(BuilderTest, StackedPagesAndSplitterPanesAreAdded) {
+  Open(ColumnForm(
+      ItemXml(WidgetXml("QStackedWidget", "stack",
+                        PropertyXml("currentIndex", "number", "7") + WidgetXml("QWidget", "p") +
+                            WidgetXml("QWidget", "q"))) +
+      ItemXml(WidgetXml("QSplitter", "split",
+                        Enum("orientation", "Qt::Horizontal") + WidgetXml("QListWidget", "left") +
+                            WidgetXml("QWidget", "right", Column(LineEdit("edit")))))));
+  auto& stack = Find<StackedDialog>(L"stack");
+  EXPECT_EQ(stack.GetCurrentIndex(), 0) << "an index out of range gives way to the first";
+  EXPECT_EQ(static_cast<BaseGUIObject*>(stack.GetPage(1)), &Find<BaseGUIObject>(L"q"));
+  EXPECT_EQ(Find<Splitter>(L"split").GetViews().size(), 2u);
+  EXPECT_GE(PlaceOf(L"right").Left(), PlaceOf(L"left").Right());
+  EXPECT_EQ(PlaceOf(L"right").Height(), PlaceOf(L"left").Height());
+}
+
+TEST_F(BuilderTest, RadioButtonsOfOneGroupNameShareTheirGroup) {
+  const auto radio = [](const std::string& name, const std::string& group, const char* checked) {
+    return ItemXml(WidgetXml("QRadioButton", name,
+                             PropertyXml("checked", "bool", checked) +
+                                 "<attribute name=\"buttonGroup\"><string>" + group +
+                                 "</string></attribute>"));
+  };
+  Open(ColumnForm(radio("a", "one", "true") + radio("b", "two", "true") +
+                  radio("c", "one", "false") + radio("d", "two", "false")));
+  EXPECT_EQ(Find<RadioButton>(L"a").GetGroupInfo(), Find<RadioButton>(L"c").GetGroupInfo());
+  EXPECT_NE(Find<RadioButton>(L"a").GetGroupInfo(), Find<RadioButton>(L"b").GetGroupInfo());
+  robot_.ClickCentreOf(Find<RadioButton>(L"c").GetPlatformHandle());
+  EXPECT_FALSE(Find<RadioButton>(L"a").Checked());
+  EXPECT_TRUE(Find<RadioButton>(L"b").Checked()) << "of the other group";
+  EXPECT_TRUE(Find<RadioButton>(L"c").Checked());
+}
+
+TEST_F(BuilderTest, ChildrenOfUnknownClassesAreBuiltInTheirPlace) {
+  Open(FormXml("<layout class=\"QGridLayout\">" +
+                   ItemXml(WidgetXml("QToolBox", "unknown", Column(LineEdit("a") + LineEdit("b"))),
+                           "row=\"0\" column=\"1\"") +
+                   ItemXml(WidgetXml("QLabel", "label", PropertyXml("text", "string", "Name")),
+                           "row=\"0\" column=\"0\"") +
+                   "</layout>",
+               300, 200));
+  EXPECT_EQ(dialog_->GetElementByName(L"unknown"), nullptr);
+  EXPECT_EQ(Find<Edit>(L"a").GetParent(), dialog_.get());
+  EXPECT_GE(PlaceOf(L"a").Left(), PlaceOf(L"label").Right());
+  EXPECT_GE(PlaceOf(L"b").Top(), PlaceOf(L"a").Bottom());
+  EXPECT_EQ(dialog_->GetImpl()->statistics.unknownClasses, std::vector<std::wstring>{L"QToolBox"});
+}
+
+TEST_F(BuilderTest, CustomClassesStandForTheirBase) {
+  std::string form =
+      ColumnForm(ItemXml(WidgetXml("FancyEdit", "a")) + ItemXml(WidgetXml("FancierEdit", "b")) +
+                 ItemXml(WidgetXml("Loop", "c")));
+  const auto custom = [](const std::string& name, const std::string& base) {
+    return "<customwidget><class>" + name + "</class><extends>" + base +
+           "</extends></customwidget>";
+  };
+  form.replace(form.rfind("</ui>"), 5,
+               "<customwidgets>" + custom("FancyEdit", "QLineEdit") +
+                   custom("FancierEdit", "FancyEdit") + custom("Loop", "Loop") +
+                   "</customwidgets></ui>");
+  Open(form);
+  EXPECT_EQ(Find<BaseGUIObject>(L"a").Type(), GuiType::Edit);
+  EXPECT_EQ(Find<BaseGUIObject>(L"b").GetSizePolicy(),
+            SizePolicy(SizePolicy::Expanding, SizePolicy::Fixed));
+  EXPECT_EQ(dialog_->GetElementByName(L"c"), nullptr);
+}
+
+TEST_F(BuilderTest, FailuresSayWhatIsWrong) {
+  EXPECT_EQ(ErrorOf(""), "Could not load and parse UI file");
+  EXPECT_EQ(ErrorOf("no form at all"), "Could not load and parse UI file");
+  EXPECT_EQ(ErrorOf("<root/>"), "Could not load and parse UI file");
+  EXPECT_EQ(ErrorOf("<ui/>"), "Could not load and parse UI file");
+  const auto geometry = PropertyXml("geometry", "rect", "<x>0</x><y>0</y><height>9</height>");
+  EXPECT_EQ(ErrorOf("<ui>" + WidgetXml("QDialog", "root", geometry) + "</ui>"),
+            "Cannot build UI model of dialog.");
+  EXPECT_EQ(ErrorOf(ColumnForm("").replace(0, 1, "x<")), "Could not load and parse UI file");
+  EXPECT_EQ(ErrorOf("<ui/>text"), "expected <");
+  EXPECT_EQ(ErrorOf(FormXml("<layout class=\"QGridLayout\" rowstretch=\"0,x\"/>", 9, 9)),
+            "invalid stoi argument");
+  EXPECT_EQ(ErrorOf(FormXml("<layout class=\"QVBoxLayout\" stretch=\"99999999999\"/>", 9, 9)),
+            "stoi argument out of range");
+  EXPECT_THROW(Dialog(L"/nowhere/at/all.ui", nullptr, 0, 1.0), WexaException);
+  EXPECT_TRUE(GetTopLevelWindows().empty());
+}
+
+}  // namespace
+}  // namespace Wexa

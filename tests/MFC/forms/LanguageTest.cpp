@@ -1,0 +1,231 @@
+// Dialogs in other languages: forms and the translations that belong to them.
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "ButtonBox.h"
+#include "FileText.h"
+#include "Translator.h"
+#include "Utf8.h"
+#include "WexaConfig.h"
+#include "support/AbsoluteLines.h"
+#include "support/DialogTest.h"
+#include "support/FormTest.h"
+#include "translation/EncrypterAccess.h"
+
+namespace Wexa {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kForms = WEXA_SHARED_DIR "/forms/";
+
+std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// A folder with a host's forms and language files, which are plain.
+class LanguageTest : public FormTest {
+ protected:
+  LanguageTest() : folder_(testing::TempDir() + "/language_test/"), oldFont_(*GetFontInfo()) {
+    fs::remove_all(folder_);
+    SetWorkingDirPath(*WidenUtf8(folder_));
+  }
+  ~LanguageTest() override {
+    SetCurrentLanguage(L"", true);
+    SetWorkingDirPath(oldFolder_);
+    SetLayoutRTL(false);
+    *GetFontInfo() = oldFont_;
+    fs::remove_all(folder_);
+  }
+
+  void Write(const std::wstring& path, const std::string& bytes) {
+    const fs::path native = NativePath(path);
+    fs::create_directories(native.parent_path());
+    std::ofstream(native, std::ios::binary) << bytes;
+  }
+  // Takes a TS file as the program's, in the language it is written for.
+  void Load(const std::string& tsFile, const std::wstring& language) {
+    LoadBytes(BytesOf(kForms + tsFile), language);
+  }
+  void LoadBytes(const std::string& ts, const std::wstring& language) {
+    SetCurrentLanguage(language, false);
+    Write(GetTranslationFilePath(L"program"), ts);
+    Translator::GetInstance().ResetStringsTable();
+    Translator::GetInstance().LoadStrings(L"program");
+  }
+  std::wstring Title(const std::string& path) {
+    dialog_.reset();
+    dialog_ = std::make_unique<Dialog>(*WidenUtf8(path), nullptr, 0, 1.0);
+    dialog_->DoModeless(true);
+    Robot::PumpAll();
+    return GetWindowTextString(dialog_->GetHandle());
+  }
+  std::string Path(const std::string& name) const { return folder_ + name; }
+
+ private:
+  std::string folder_;
+  std::wstring oldFolder_ = GetWorkingDirPath();
+  logFont oldFont_;
+};
+
+std::string String(const std::string& text) {
+  return "\n<string>" + text + "</string>\n";
+}
+
+std::string Property(const std::string& name, const std::string& text) {
+  return "<property name=\"" + name + "\">" + String(text) + "</property>";
+}
+
+// Widgets with texts, each "@", on lines of their own as form files are written.
+std::vector<std::string> WidgetsWithTexts() {
+  const std::string item = "<item>" + Property("text", "@") + "</item>";
+  const std::string page =
+      WidgetXml("QWidget", "page", "<attribute name=\"title\">" + String("@") + "</attribute>");
+  return {WidgetXml("QLabel", "widget", Property("text", "@\nlong")),
+          WidgetXml("QPushButton", "widget", Property("text", "@")),
+          WidgetXml("QCheckBox", "widget", Property("text", "@")),
+          WidgetXml("QRadioButton", "widget", Property("text", "@")),
+          WidgetXml("QLineEdit", "widget", Property("text", "@")),
+          WidgetXml("QLineEdit", "widget", Property("placeholderText", "@")),
+          WidgetXml("QSpinBox", "widget", Property("prefix", "@") + Property("suffix", "@")),
+          WidgetXml("QPlainTextEdit", "widget", Property("plainText", "@")),
+          WidgetXml("QTextEdit", "widget", Property("html", "@")),
+          WidgetXml("QProgressBar", "widget", Property("format", "@")),
+          WidgetXml("QGroupBox", "widget", Property("title", "@")),
+          WidgetXml("QTabWidget", "widget", page),
+          WidgetXml("QComboBox", "widget", item + item),
+          WidgetXml("QListWidget", "widget", item + item),
+          WidgetXml("QPushButton", "widget", Property("toolTip", "@"))};
+}
+
+// A form with such a widget, which does not have the focus.
+std::string FormWith(std::string widget, const std::string& text) {
+  for (auto at = widget.find('@'); at != widget.npos; at = widget.find('@'))
+    widget.replace(at, 1, text);
+  return ColumnForm(ItemXml(WidgetXml("QPushButton", "first")) + ItemXml(widget), 150, 80);
+}
+
+// A TS file that puts "*" before each text of the form.
+std::string StarsFor(const std::string& form, const std::string& name) {
+  std::string ts = "<TS language=\"de\"><context>";
+  long line = 1;
+  for (std::size_t at = 0; at < form.size(); ++at) {
+    if (form.compare(at, 8, "<string>") == 0) {
+      const auto text = form.substr(at + 8, form.find('<', at + 8) - at - 8);
+      ts += "<message><location filename=\"" + name + "\" line=\"" + std::to_string(line) +
+            "\"/><translation>*" + text + "</translation></message>";
+    }
+    if (form[at] == '\n') ++line;
+  }
+  return ts + "</context></TS>";
+}
+
+// What a person sees of a form with the pointer over its widget.
+class TranslatedTexts : public LanguageTest {
+ protected:
+  using Picture = std::vector<std::uint32_t>;
+
+  Picture PictureOf(const std::string& file, const std::string& form) {
+    Write(*WidenUtf8(Path(file)), form);
+    Title(Path(file));
+    robot_.MoveTo(Find<BaseGUIObject>(L"widget").GetPlatformHandle());
+    robot_.AdvanceTime(1000);
+    Picture picture;
+    for (HWND window : GetTopLevelWindows()) Append(picture, window);
+    return picture;
+  }
+
+ private:
+  static void Append(Picture& picture, HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    for (int y = 0; y < area.bottom; ++y)
+      for (int x = 0; x < area.right; ++x) picture.push_back(Robot::PixelAt(window, x, y));
+  }
+};
+
+TEST_F(TranslatedTexts, LookAsIfTheFormWereWrittenInTheLanguage) {
+  for (const std::string& widget : WidgetsWithTexts()) {
+    const std::string form = FormWith(widget, "word");
+    const auto packed = EncrypterAccess::Pack(form);
+    LoadBytes(StarsFor(form, "form.ui"), L"de");
+    const Picture written = PictureOf("written.ui", FormWith(widget, "*word"));
+    EXPECT_TRUE(PictureOf("other.ui", form) != written) << widget;
+    EXPECT_TRUE(PictureOf("form.ui", form) == written) << widget;
+    EXPECT_TRUE(PictureOf("form.ui.kv", {packed.begin(), packed.end()}) == written) << widget;
+  }
+}
+
+TEST_F(LanguageTest, StandardButtonsTakeTheirTextsFromTheCommonStrings) {
+  SetCurrentLanguage(L"de", false);
+  Write(GetStringsFilePath(L"", false),
+        "<r language='de'><StringTable><string id='Wexa::BBoxCancel'>Abbrechen</string>"
+        "</StringTable></r>");
+  Translator::GetInstance().LoadStrings(L"");
+  Write(
+      GetWorkingDirPath() + L"f.ui",
+      ColumnForm(ItemXml(WidgetXml("QDialogButtonBox", "box",
+                                   PropertyXml("standardButtons", "set",
+                                               "QDialogButtonBox::Cancel|QDialogButtonBox::Ok")))));
+  Title(Path("f.ui"));
+  auto& box = Find<ButtonBox>(L"box");
+  EXPECT_EQ(box.GetButton(StandardButton::Cancel)->GetText(), L"Abbrechen");
+  EXPECT_EQ(box.GetButton(StandardButton::OK)->GetText(), L"OK");
+}
+
+TEST_F(LanguageTest, RealFormsOpenTranslated) {
+  Load("savvycan/SavvyCAN_pt_BR.ts", L"pt_BR");
+  const std::string forms = std::string(kForms) + "savvycan/";
+  EXPECT_EQ(Title(forms + "bisectwindow.ui"), L"Janela Bissetriz");
+  EXPECT_EQ(Title(forms + "newconnectiondialog.ui"), L"Nova conexão");
+  EXPECT_EQ(Title(forms + "mainsettingsdialog.ui"), L"Configurações principais");
+  Load("pybitmessage/bitmessage_ja.ts", L"ja");
+  EXPECT_EQ(Title(std::string(kForms) + "pybitmessage/newaddressdialog.ui"),
+            L"新しいアドレスを作成");
+  EXPECT_TRUE(Translator::GetInstance().GetDiagnostics().empty());
+}
+
+TEST_F(LanguageTest, RealFormsOfTheSameRevisionAreTranslatedToTheEnd) {
+  LoadBytes(WithAbsoluteLines(BytesOf(std::string(kForms) + "gridcoin/bitcoin_de.ts")), L"de");
+  EXPECT_EQ(Title(std::string(kForms) + "gridcoin/optionsdialog.ui"), L"Konfiguration");
+  EXPECT_EQ(Find<Button>(L"cancelButton").GetText(), L"A&bbrechen");
+  EXPECT_EQ(Find<Button>(L"applyButton").GetText(), L"&Anwenden");
+}
+
+TEST_F(LanguageTest, FilesWithRelativeLinesGiveTheFirstTextAndAReason) {
+  SetLayoutRTL(true);
+  Load("gridcoin/bitcoin_ar.ts", L"ar");
+  EXPECT_EQ(Title(std::string(kForms) + "gridcoin/optionsdialog.ui"), L"خيارات ...");
+  EXPECT_EQ(Translator::GetInstance().GetDiagnostics().size(), 1u);
+}
+
+TEST_F(LanguageTest, EveryRealFormOpensInAnyLanguage) {
+  for (const auto& [file, language] : {std::pair("gridcoin/bitcoin_de.ts", L"de"),
+                                       std::pair("savvycan/SavvyCAN_pt_BR.ts", L"pt_BR")}) {
+    Load(file, language);
+    for (const auto& entry : fs::recursive_directory_iterator(kForms)) {
+      if (entry.path().extension() != ".ui") continue;
+      EXPECT_NO_THROW(Title(entry.path().string()));
+    }
+  }
+}
+
+TEST_F(LanguageTest, AFontOfTheStringsFileIsTheDialogs) {
+  const std::string form = ColumnForm(
+      ItemXml(WidgetXml("QLabel", "label", PropertyXml("text", "string", "A text to measure"))));
+  Write(GetWorkingDirPath() + L"f.ui", form);
+  Title(Path("f.ui"));
+  const int height = Find<BaseGUIObject>(L"label").IdealSize().Height();
+  SetCurrentLanguage(L"de", false);
+  Write(GetStringsFilePath(L"", false),
+        "<r language='de'><Font><PreFont FaceName='DejaVu Sans' Height='200'/></Font></r>");
+  Translator::GetInstance().LoadStrings(L"");
+  Title(Path("f.ui"));
+  EXPECT_GT(Find<BaseGUIObject>(L"label").IdealSize().Height(), height * 3 / 2);
+}
+
+}  // namespace
+}  // namespace Wexa

@@ -1,0 +1,155 @@
+// Layouts of forms, in the resolution that the program runs with: metrics of forms are scaled and
+// cut to whole pixels.
+
+#include "MFC/DialogImplMFC.h"
+#include "WexaUtils.h"
+#include "layout/GridLayout.h"
+#include "support/DialogTest.h"
+
+namespace Wexa {
+namespace {
+
+// What 6, 9, 11, 30 and 40 units are on the screen.
+struct Metrics {
+  int six;
+  int nine;
+  int eleven;
+  int thirty;
+  int forty;
+};
+
+Metrics Expected() {
+  if (WexaUtils::GetScaleFactor() == 1.0) return {6, 9, 11, 30, 40};
+  if (WexaUtils::GetScaleFactor() == 1.5) return {9, 13, 16, 45, 60};
+  throw std::runtime_error("run with a scale of 1 or 1.5");
+}
+
+std::string Number(const std::string& name, int value) {
+  return PropertyXml(name, "number", std::to_string(value));
+}
+
+std::string Spacer(const std::string& properties) {
+  return ItemXml("<spacer>" + properties + "</spacer>");
+}
+
+std::string SizeHint(const std::string& size) {
+  return PropertyXml("sizeHint", "size", size);
+}
+
+class ScaledLayoutTest : public DialogTest {
+ protected:
+  Layout& LayoutFor(const std::string& layout) {
+    dialog_ = Make(FormXml(layout, 300, 200));
+    return *dialog_->GetImpl()->Links().layout;
+  }
+  static Margins MarginsOf(const Layout& layout) {
+    Margins margins;
+    layout.GetContentsMargins(&margins.left, &margins.top, &margins.right, &margins.bottom);
+    return margins;
+  }
+  const Metrics scaled_ = Expected();
+};
+
+TEST_F(ScaledLayoutTest, SpacingAndMarginsAreScaledAndCut) {
+  Layout& layout = LayoutFor("<layout class=\"QVBoxLayout\">" + Number("spacing", 6) +
+                             Number("leftMargin", 11) + Number("topMargin", 0) + "</layout>");
+  EXPECT_EQ(layout.Spacing(), scaled_.six);
+  EXPECT_EQ(MarginsOf(layout), (Margins{scaled_.eleven, 0, scaled_.eleven, scaled_.eleven}));
+}
+
+TEST_F(ScaledLayoutTest, DefaultsDependOnTheWidgetAround) {
+  const std::string inner = "<layout class=\"QHBoxLayout\">" + LineEdit("edit") + "</layout>";
+  Layout& layout =
+      LayoutFor("<layout class=\"QVBoxLayout\">" + ItemXml(WidgetXml("QGroupBox", "group", inner)) +
+                ItemXml(inner) + "</layout>");
+  EXPECT_EQ(layout.Spacing(), scaled_.six);
+  EXPECT_EQ(MarginsOf(layout).top, scaled_.eleven) << "of a dialog";
+  EXPECT_EQ(MarginsOf(*ImplOf(&Find<BaseGUIObject>(L"group"))->Links().layout).right, scaled_.nine)
+      << "of another widget";
+  EXPECT_EQ(MarginsOf(*layout.ItemAt(1)->AsLayout()).left, 0) << "nested";
+}
+
+TEST_F(ScaledLayoutTest, GridsHaveTwoSpacingsAndLeastSizes) {
+  const auto cell = [](const char* name, int row, int column) {
+    return ItemXml(WidgetXml("QWidget", name),
+                   "row=\"" + std::to_string(row) + "\" column=\"" + std::to_string(column) + "\"");
+  };
+  dialog_.reset();
+  Open(
+      FormXml("<layout class=\"QGridLayout\" rowminimumheight=\"0,30\" "
+              "columnminimumwidth=\"40,0\" rowstretch=\"1,0\" columnstretch=\"0,1\">" +
+                  Number("horizontalSpacing", 6) + Number("verticalSpacing", 11) + cell("a", 0, 0) +
+                  cell("b", 0, 1) + cell("c", 1, 0) + "</layout>",
+              300, 200));
+  EXPECT_EQ(PlaceOf(L"c").Height(), scaled_.thirty);
+  EXPECT_EQ(PlaceOf(L"a").Width(), scaled_.forty);
+  EXPECT_EQ(PlaceOf(L"b").Left() - PlaceOf(L"a").Right(), scaled_.six);
+  EXPECT_EQ(PlaceOf(L"c").Top() - PlaceOf(L"a").Bottom(), scaled_.eleven);
+}
+
+TEST_F(ScaledLayoutTest, SpacersHaveTheirScaledSizeAndPolicy) {
+  const std::string fixed = PropertyXml("sizeType", "enum", "QSizePolicy::Fixed");
+  const std::string hint = SizeHint("<width>40</width><height>30</height>");
+  const std::string horizontal = PropertyXml("orientation", "enum", "Qt::Horizontal");
+  Layout& row = LayoutFor("<layout class=\"QHBoxLayout\">" + Spacer(fixed + hint + horizontal) +
+                          Spacer(hint + horizontal) + Spacer(horizontal) +
+                          Spacer(hint + PropertyXml("sizeType", "enum", "QSizePolicy::Expanding")) +
+                          "</layout>");
+  ASSERT_EQ(row.Count(), 3) << "a spacer without a size is none";
+  EXPECT_EQ(row.ItemAt(0)->SizeHint(), Size(scaled_.forty, scaled_.thirty));
+  EXPECT_EQ(row.ItemAt(0)->ExpandingDirections(), Orientation::None);
+  EXPECT_EQ(row.ItemAt(0)->MaximumSize().Width(), scaled_.forty);
+  EXPECT_EQ(row.ItemAt(1)->ExpandingDirections(), Orientation::Horizontal);
+  EXPECT_EQ(row.ItemAt(2)->ExpandingDirections(), Orientation::Horizontal);
+  Layout& column = LayoutFor("<layout class=\"QVBoxLayout\">" + Spacer(hint) + "</layout>");
+  EXPECT_EQ(column.ItemAt(0)->ExpandingDirections(), Orientation::Vertical);
+}
+
+TEST_F(ScaledLayoutTest, FormLayoutsGiveTheFieldsTheExtraWidth) {
+  const auto item = [](const std::string& widget, const std::string& cell) {
+    return ItemXml(widget, cell);
+  };
+  Open(FormXml("<layout class=\"QFormLayout\">" +
+                   item(WidgetXml("QLabel", "label", PropertyXml("text", "string", "Name")),
+                        "row=\"0\" column=\"0\"") +
+                   item(WidgetXml("QPushButton", "field"), "row=\"0\" column=\"1\"") +
+                   item(WidgetXml("QLineEdit", "whole"), "row=\"1\" column=\"0\" colspan=\"2\"") +
+                   "</layout>",
+               300, 200));
+  const Rect label = PlaceOf(L"label");
+  EXPECT_EQ(label.Width(), Find<BaseGUIObject>(L"label").IdealSize().Width());
+  EXPECT_EQ(PlaceOf(L"field").Left() - label.Right(), scaled_.six);
+  EXPECT_EQ(PlaceOf(L"whole").Left(), label.Left());
+  EXPECT_EQ(PlaceOf(L"whole").Right(), PlaceOf(L"field").Right());
+}
+
+TEST_F(ScaledLayoutTest, AFixedConstraintMakesTheDialogItsIdealSize) {
+  Open(FormXml("<layout class=\"QVBoxLayout\">" +
+                   PropertyXml("sizeConstraint", "enum", "QLayout::SizeConstraint::SetFixedSize") +
+                   LineEdit("edit") + PushButton("button") + "</layout>",
+               700, 500));
+  const Size ideal = dialog_->GetImpl()->Links().layout->TotalSizeHint();
+  EXPECT_EQ(dialog_->GetClientRect().GetSize(), ideal);
+  dialog_->GetImpl()->ResizeClient(500, 500);
+  Robot::PumpAll();
+  EXPECT_EQ(dialog_->GetClientRect().GetSize(), ideal);
+  Find<Button>(L"button").SetText(L"a text that is a good deal longer than before, and longer");
+  Robot::PumpAll();
+  EXPECT_EQ(dialog_->GetClientRect().GetSize(),
+            dialog_->GetImpl()->Links().layout->TotalSizeHint());
+  EXPECT_GT(dialog_->GetClientRect().Width(), ideal.Width());
+}
+
+TEST_F(ScaledLayoutTest, TheMinimumOfTheLayoutIsTheDialogs) {
+  Open(FormXml(
+      "<layout class=\"QVBoxLayout\">" + LineEdit("edit") + PushButton("button") + "</layout>", 1,
+      1));
+  const Size least = dialog_->GetImpl()->Links().layout->TotalMinimumSize();
+  EXPECT_EQ(dialog_->GetClientRect().GetSize(), least);
+  Find<Button>(L"button").Show(false, true);
+  Robot::PumpAll();
+  EXPECT_LT(dialog_->MinimumSize().Height(), least.Height());
+}
+
+}  // namespace
+}  // namespace Wexa
