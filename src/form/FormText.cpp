@@ -41,6 +41,7 @@ std::optional<std::wstring> PlainFormText(std::string_view bytes) {
 
 bool HasEnumWord(std::wstring_view text, std::wstring_view word) {
   const auto [scope, name] = SplitWord(word);
+  if (scope.empty()) return text.find(name) != text.npos;
   for (auto at = text.find(scope); at != text.npos; at = text.find(scope, at + 1)) {
     const auto rest = text.substr(at + scope.size());
     if (rest.starts_with(name) || WithoutInnerScope(rest).starts_with(name)) return true;

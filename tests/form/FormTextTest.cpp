@@ -41,6 +41,13 @@ TEST(FormText, OtherScopesAndNamesDoNotMatch) {
   EXPECT_FALSE(IsEnumWord(L"QFrame::Shape::Boxed", L"QFrame::Box"));
 }
 
+TEST(FormText, LongWordsAreReadOnce) {
+  const std::wstring letters(1'000'000, L'f');
+  EXPECT_FALSE(HasEnumWord(letters, L"true"));
+  EXPECT_TRUE(HasEnumWord(letters + L"true", L"true"));
+  EXPECT_FALSE(HasEnumWord(L"Qt::" + letters, L"Qt::Vertical"));
+}
+
 TEST(FormText, PlainFormsStartWithAnElement) {
   EXPECT_EQ(PlainFormText("<ui/>"), L"<ui/>");
   EXPECT_EQ(PlainFormText("\xEF\xBB\xBF \t\r\n<a>\xD0\x96\xF0\x9F\x98\x80"),
