@@ -1,25 +1,25 @@
 #include "form/RichText.h"
 
-#include <array>
+#include <algorithm>
+#include <cwchar>
 #include <cwctype>
+#include <string>
 #include <utility>
+
+#include "form/HtmlEntities.h"
 
 namespace Wexa {
 
 namespace {
 
-constexpr std::array<std::pair<std::wstring_view, wchar_t>, 9> kEntities{{
-    {L"&amp;", L'&'},
-    {L"&lt;", L'<'},
-    {L"&gt;", L'>'},
-    {L"&quot;", L'"'},
-    {L"&apos;", L'\''},
-    {L"&nbsp;", L'\u00A0'},
-    {L"&copy;", L'\u00A9'},
-    {L"&ndash;", L'\u2013'},
-    {L"&hellip;", L'\u2026'},
-}};
 constexpr int kBoldWeight = 600;
+constexpr std::wstring_view kFontWeight = L"font-weight:";
+constexpr std::size_t kMostDigits = 8;
+
+// What mark-up takes for space; a space of another kind is a character.
+bool IsSpace(wchar_t c) {
+  return c == L' ' || (c >= L'\t' && c <= L'\r');
+}
 
 bool IsTagName(std::wstring_view tag, std::wstring_view name) {
   return tag.substr(0, name.size()) == name &&
@@ -28,9 +28,10 @@ bool IsTagName(std::wstring_view tag, std::wstring_view name) {
 
 bool IsBoldTag(std::wstring_view tag) {
   if (IsTagName(tag, L"b") || IsTagName(tag, L"strong")) return true;
-  auto weight = tag.find(L"font-weight:");
-  if (weight == std::wstring_view::npos) return false;
-  return std::wcstol(tag.data() + weight + 12, nullptr, 10) >= kBoldWeight;
+  const auto weight = tag.find(kFontWeight);
+  if (weight == tag.npos) return false;
+  const std::wstring number(tag.substr(weight + kFontWeight.size(), kMostDigits));
+  return std::wcstol(number.c_str(), nullptr, 10) >= kBoldWeight;
 }
 
 // Reads the text tag by tag.
@@ -46,7 +47,7 @@ class Reader {
         ReadCharacter();
       }
     }
-    while (!text_.empty() && std::iswspace(static_cast<wint_t>(text_.back()))) text_.pop_back();
+    while (!text_.empty() && IsSpace(text_.back())) text_.pop_back();
     return std::move(text_);
   }
 
@@ -73,29 +74,31 @@ class Reader {
     if (boldDepth_ > 0 && name == boldElement_) --boldDepth_;
   }
 
+  // One that is never closed takes all that follows.
   void SkipElement(std::wstring_view tag) {
-    if (tag.substr(tag.size() - 1) == L"/") return;
-    std::size_t end = source_.find(tag == L"head" ? L"</head>" : L"</style>", at_);
-    if (end != std::wstring_view::npos) at_ = end;
+    if (tag.ends_with(L'/')) return;
+    const auto* closing = IsTagName(tag, L"head") ? L"</head>" : L"</style>";
+    at_ = std::min(source_.find(closing, at_), source_.size());
   }
 
   void ReadCharacter() {
-    for (const auto& [entity, character] : kEntities) {
-      if (source_.substr(at_, entity.size()) != entity) continue;
-      at_ += entity.size();
-      return Append(character);
+    if (const auto entity = HtmlEntityAt(source_.substr(at_))) {
+      at_ += entity->length;
+      return Append(entity->character);
     }
-    Append(source_[at_++]);
+    const wchar_t character = source_[at_++];
+    IsSpace(character) ? AppendSpace() : Append(character);
+  }
+
+  void Append(wchar_t character) {
+    text_.push_back(character);
+    hasText_ = true;
+    if (boldDepth_ == 0) hasPlainText_ = true;
   }
 
   // White space of the file runs together, as in any mark-up.
-  void Append(wchar_t character) {
-    bool isSpace = character != L'\u00A0' && std::iswspace(static_cast<wint_t>(character));
-    if (isSpace && (text_.empty() || std::iswspace(static_cast<wint_t>(text_.back())))) return;
-    text_.push_back(isSpace ? L' ' : character);
-    if (isSpace) return;
-    hasText_ = true;
-    if (boldDepth_ == 0) hasPlainText_ = true;
+  void AppendSpace() {
+    if (!text_.empty() && !IsSpace(text_.back())) text_.push_back(L' ');
   }
 
   void Break() {
