@@ -47,6 +47,10 @@ class WEXA_API Translator {
   // The text of an encrypted form file with its strings in the current language and without its
   // line ends; empty on failure.
   std::wstring TranslateUIFile(const std::wstring& path);
+  // Whether an empty translation, which unfinished ones have, makes a string of an encrypted form
+  // empty. Off at first: the string stays as the form has it, as it always does in plain forms.
+  void SetEmptyTranslationsApplied(bool applied) { emptyTranslationsApplied_ = applied; }
+  bool AreEmptyTranslationsApplied() const { return emptyTranslationsApplied_; }
   // The same for the text of a plain form file read from `path`, which keeps its lines.
   std::wstring TranslateUIText(const std::wstring& path, const std::wstring& text) const;
 
@@ -71,6 +75,7 @@ class WEXA_API Translator {
   TSTranslationUnit unit_;
   std::set<std::wstring> loadedTsFiles_;
   std::vector<LanguageDiagnostic> diagnostics_;
+  bool emptyTranslationsApplied_ = false;
 };
 
 }  // namespace Wexa

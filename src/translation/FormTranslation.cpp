@@ -69,14 +69,38 @@ std::optional<Span> FindString(std::wstring_view text, std::wstring_view line) {
   return Span{tagEnd + 1, end + 1};
 }
 
-using Entry = FormLines::const_iterator;
+// The translations that count, in the order of their lines.
+class Entries {
+ public:
+  Entries(const FormLines& translations, EmptyTranslations empty)
+      : at_(translations.begin()), end_(translations.end()), empty_(empty) {
+    PassEmpty();
+  }
 
-// The translation for the string that ends on `line`. The new element stands on that line, which
-// may have a translation of its own.
-const std::wstring& TakeTranslation(Entry& entry, Entry end, unsigned int line) {
-  const std::wstring& translation = (entry++)->second;
-  return entry != end && entry->first == line ? (entry++)->second : translation;
-}
+  bool IsDue(unsigned int line) const { return at_ != end_ && at_->first <= line; }
+  bool IsFor(unsigned int line) const { return at_ != end_ && at_->first == line; }
+  void DropAll() { at_ = end_; }
+  // The translation for the string that ends on `line`. The new element stands on that line, which
+  // may have a translation of its own.
+  const std::wstring& Take(unsigned int line) {
+    const std::wstring& translation = Next();
+    return IsFor(line) ? Next() : translation;
+  }
+
+ private:
+  const std::wstring& Next() {
+    const std::wstring& translation = (at_++)->second;
+    PassEmpty();
+    return translation;
+  }
+  void PassEmpty() {
+    while (empty_ == EmptyTranslations::KeepString && at_ != end_ && at_->second.empty()) ++at_;
+  }
+
+  FormLines::const_iterator at_;
+  FormLines::const_iterator end_;
+  EmptyTranslations empty_;
+};
 
 std::size_t LongestText(std::string_view text, const FormLines& translations) {
   std::size_t length = text.size();
@@ -86,21 +110,21 @@ std::size_t LongestText(std::string_view text, const FormLines& translations) {
 
 }  // namespace
 
-std::wstring TranslateForm(std::string_view text, const FormLines& translations) {
+std::wstring TranslateForm(std::string_view text, const FormLines& translations,
+                           EmptyTranslations empty) {
   std::wstring joined(LongestText(text, translations), L'\0');
   wchar_t* to = joined.data();
   const auto put = [&to](std::wstring_view part) { to = std::ranges::copy(part, to).out; };
-  auto entry = translations.begin();
-  const auto end = translations.end();
+  Entries entries(translations, empty);
   for (LineReader lines(text); lines.Next();) {
-    const bool due = entry != end && entry->first <= lines.Number();
-    if (due && entry->first == lines.Number() && lines.Has(kStartTag)) {
+    const bool isDue = entries.IsDue(lines.Number());
+    if (isDue && entries.IsFor(lines.Number()) && lines.Has(kStartTag)) {
       lines.SkipTo(kEndTag);
       put(L"<string>");
-      put(TakeTranslation(entry, end, lines.Number()));
+      put(entries.Take(lines.Number()));
       put(L"</string>");
     } else {
-      if (due) entry = end;
+      if (isDue) entries.DropAll();
       to = WidenUtf8(lines.Line(), to);
     }
   }
@@ -114,6 +138,7 @@ std::wstring TranslateFormInPlace(const std::wstring& text, const FormLines& tra
   std::size_t copied = 0;
   LineReader lines(std::wstring_view{text});
   for (const auto& [number, translation] : translations) {
+    if (translation.empty()) continue;
     while (lines.Number() < number && lines.Next()) continue;
     const auto string = lines.Number() == number ? FindString(text, lines.Line()) : std::nullopt;
     if (!string || string->start < copied) break;

@@ -183,7 +183,9 @@ std::wstring Translator::GetDefaultText(const std::wstring& name, const std::wst
 std::wstring Translator::TranslateUIFile(const std::wstring& path) {
   const std::string form = Encrypter::ReadAndDecryptBytes(path);
   if (!IsUtf8(form)) return {};
-  return TranslateForm(form, TranslationsOf(unit_, FormName(path)));
+  const auto empty =
+      emptyTranslationsApplied_ ? EmptyTranslations::EmptyString : EmptyTranslations::KeepString;
+  return TranslateForm(form, TranslationsOf(unit_, FormName(path)), empty);
 }
 
 std::wstring Translator::TranslateUIText(const std::wstring& path, const std::wstring& text) const {

@@ -213,6 +213,17 @@ TEST(FormTranslation, TheLastLineOfALongStringMayHaveATranslationOfItsOwn) {
             L"<string>u</string><string>v</string>");
 }
 
+TEST(FormTranslation, StringsWithoutATranslationStayUnlessAskedFor) {
+  const std::string form = "<string>1</string>\nno string\n<string>3</string>\n<string>4</string>";
+  const FormLines lines{{1, L""}, {2, L""}, {3, L"t"}, {4, L""}};
+  EXPECT_EQ(TranslateForm(form, lines),
+            L"<string>1</string>no string<string>t</string><string>4</string>");
+  EXPECT_EQ(TranslateForm(form, lines, EmptyTranslations::EmptyString),
+            L"<string></string>no string<string>3</string><string>4</string>");
+  EXPECT_EQ(TranslateFormInPlace(*WidenUtf8(form), lines),
+            L"<string>1</string>\nno string\n<string>t</string>\n<string>4</string>");
+}
+
 TEST(FormTranslation, InPlaceKeepsWhatIsAroundAString) {
   const std::wstring form =
       L"<a x='1\n2'>\n  <b><string notr=\"true\">1\n2</string></b>\r\n<string>3</string>\n";

@@ -128,6 +128,15 @@ TEST_F(TranslatorTest, FormsWithoutTranslationsKeepTheirStrings) {
   EXPECT_EQ(TranslateForm(), L"<ui> <string>old</string></ui>");
 }
 
+TEST_F(TranslatorTest, EmptyTranslationsAreAppliedOnRequest) {
+  WriteTs(L"c", "");
+  translator_.LoadStrings(L"c");
+  EXPECT_EQ(TranslateForm(), L"<ui> <string>old</string></ui>");
+  translator_.SetEmptyTranslationsApplied(true);
+  EXPECT_EQ(TranslateForm(), L"<ui><string></string></ui>");
+  translator_.SetEmptyTranslationsApplied(false);
+}
+
 TEST_F(TranslatorTest, TheDefaultLanguageReadsFormTranslationsOnlyWhenAppended) {
   SetCurrentLanguage(L"en-US", false);
   WriteTs(L"c", "new");
