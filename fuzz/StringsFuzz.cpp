@@ -5,7 +5,7 @@
 #include <rapidxml/rapidxml.hpp>
 #include <string_view>
 
-#include "Utf8.h"
+#include "Utf8Decoding.h"
 #include "translation/StringsLoader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "Utf8.h"
+#include "Utf8Decoding.h"
 #include "translation/TsLoader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

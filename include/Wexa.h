@@ -56,6 +56,7 @@
 #include "TrString.h"
 #include "Translator.h"
 #include "TreeView.h"
+#include "Utf8.h"
 #include "WexaConfig.h"
 #include "WexaException.h"
 #include "WexaExport.h"

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "Utf8Decoding.h"
+
 namespace Wexa {
 
 namespace {
@@ -25,11 +27,9 @@ bool IsAscii(const char* block) {
 }
 
 // Reads the bytes: whole blocks of plain ASCII, and what is between them character by character.
-// Throws utf8::exception where they are not well-formed.
+// Throws utf8::exception where they are not well-formed, and leaves `from` there.
 template <typename TakeBlock, typename TakeCharacter>
-void Decode(std::string_view bytes, TakeBlock takeBlock, TakeCharacter takeCharacter) {
-  const char* from = bytes.data();
-  const char* const end = from + bytes.size();
+void Decode(const char*& from, const char* end, TakeBlock takeBlock, TakeCharacter takeCharacter) {
   while (from < end) {
     const auto left = static_cast<std::size_t>(end - from);
     if (left >= kBlock && IsAscii(from)) {
@@ -49,7 +49,9 @@ wchar_t* WidenUtf8(std::string_view bytes, wchar_t* to) {
     for (std::size_t i = 0; i < kBlock; ++i) to[i] = static_cast<wchar_t>(block[i]);
     to += kBlock;
   };
-  Decode(bytes, takeBlock, [&to](auto character) { *to++ = static_cast<wchar_t>(character); });
+  const char* from = bytes.data();
+  Decode(from, from + bytes.size(), takeBlock,
+         [&to](auto character) { *to++ = static_cast<wchar_t>(character); });
   return to;
 }
 
@@ -62,12 +64,15 @@ std::optional<std::wstring> WidenUtf8(std::string_view bytes) try {
   return std::nullopt;
 }
 
-bool IsUtf8(std::string_view bytes) try {
-  Decode(
-      bytes, [](const char*) {}, [](auto) {});
-  return true;
-} catch (const utf8::exception&) {
-  return false;
+std::optional<std::size_t> FindBadUtf8(std::string_view bytes) {
+  const char* from = bytes.data();
+  try {
+    Decode(
+        from, from + bytes.size(), [](const char*) {}, [](auto) {});
+    return std::nullopt;
+  } catch (const utf8::exception&) {
+    return static_cast<std::size_t>(from - bytes.data());
+  }
 }
 
 std::string NarrowUtf8(std::wstring_view text) {

@@ -3,6 +3,7 @@
 
 #include "FileText.h"
 #include "Utf8.h"
+#include "Utf8Decoding.h"
 #include "WexaUtils.h"
 #include "XmlDocument.h"
 

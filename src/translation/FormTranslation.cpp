@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "Utf8.h"
+#include "Utf8Decoding.h"
 
 namespace Wexa {
 

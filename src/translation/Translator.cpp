@@ -12,6 +12,7 @@
 #include "StringsLoader.h"
 #include "TsLoader.h"
 #include "Utf8.h"
+#include "Utf8Decoding.h"
 #include "WexaConfig.h"
 #include "XmlDocument.h"
 

@@ -7,6 +7,7 @@
 
 #include "RealFiles.h"
 #include "Utf8.h"
+#include "Utf8Decoding.h"
 #include "WexaUtils.h"
 #include "translation/EncrypterAccess.h"
 #include "translation/FormTranslation.h"

@@ -1,8 +1,10 @@
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "FileText.h"
 #include "Utf8.h"
+#include "Utf8Decoding.h"
 #include "WexaException.h"
 #include "WexaLogger.h"
 #include "WexaObject.h"
@@ -111,8 +113,9 @@ TEST(Utf8, WidensCharactersAtEveryPlaceOfALongText) {
 
 TEST(Utf8, RefusesWhatIsNotWellFormed) {
   for (const char* bytes :
-       {"\x80", "\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "a\xFF"}) {
+       {"\x80", "\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF"}) {
     EXPECT_EQ(WidenUtf8(bytes), std::nullopt) << testing::PrintToString(std::string(bytes));
+    EXPECT_EQ(FindBadUtf8(std::string(20, 'a') + "\xC3\xA9" + bytes), 22u);
   }
 }
 
@@ -131,6 +134,12 @@ TEST(ReadFile, TakesBothSeparators) {
 }
 
 TEST(ReadFile, GivesNothingForWhatIsNoFile) {
+  const std::string huge = testing::TempDir() + "/read_file_huge";
+  std::ofstream(huge).close();
+  std::filesystem::resize_file(huge, kLargestFile + 1);
+  EXPECT_EQ(ReadFile(*WidenUtf8(huge)), std::nullopt);
+  EXPECT_TRUE(IsFileTooLarge(*WidenUtf8(huge)));
+  std::filesystem::remove(huge);
   EXPECT_EQ(ReadFile(L"/no/such/file"), std::nullopt);
   EXPECT_EQ(ReadFile(*WidenUtf8(testing::TempDir())), std::nullopt);
   EXPECT_EQ(ReadFile(L""), std::nullopt);

@@ -10,6 +10,7 @@
 #include <stdexcept>
 
 #include "Utf8.h"
+#include "Utf8Decoding.h"
 #include "translation/EncrypterAccess.h"
 
 namespace pack {
