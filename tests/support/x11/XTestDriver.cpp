@@ -23,6 +23,12 @@ std::unique_ptr<T, FreeDeleter> Own(T* memory) {
 
 using Clock = std::chrono::steady_clock;
 
+// The pixel of a screen with 10 bits a colour.
+std::uint32_t FromTenBits(std::uint32_t pixel) {
+  const auto channel = [pixel](int shift) { return (pixel >> shift & 0x3FF) >> 2; };
+  return channel(20) << 16 | channel(10) << 8 | channel(0);
+}
+
 }  // namespace
 
 XTestDriver::XTestDriver() : connection_(xcb_connect(nullptr, nullptr)) {
@@ -229,7 +235,7 @@ std::vector<std::uint32_t> XTestDriver::Screenshot(xcb_window_t window, const RE
   std::vector<std::uint32_t> pixels(
       static_cast<std::size_t>(xcb_get_image_data_length(reply.get())) / 4);
   std::memcpy(pixels.data(), xcb_get_image_data(reply.get()), pixels.size() * 4);
-  for (auto& pixel : pixels) pixel &= 0xFFFFFF;
+  for (auto& pixel : pixels) pixel = reply->depth == 30 ? FromTenBits(pixel) : pixel & 0xFFFFFF;
   return pixels;
 }
 

@@ -8,8 +8,6 @@
 namespace display::x11 {
 namespace {
 
-constexpr std::uint8_t kDepth = 24;
-
 RECT Clip(const RECT& area, SIZE size) {
   return {std::max(area.left, 0), std::max(area.top, 0), std::min(area.right, size.cx),
           std::min(area.bottom, size.cy)};
@@ -40,11 +38,11 @@ Pixels Canvas::Lock() {
 }
 
 // Memory is kept while it suffices, and grows with room to spare: a window being resized by hand
-// changes its size with every motion.
+// changes its size with every motion. A deep screen gets converted copies.
 void Canvas::Allocate() {
   const std::size_t bytes = ByteCount();
   const bool tooSmall = !shared_ || shared_->Size() < bytes;
-  if (tooSmall && copied_.empty()) {
+  if (tooSmall && copied_.empty() && !connection_.Format().IsDeep()) {
     const std::size_t spare = shared_ ? bytes / 4 : 0;
     shared_ = SharedMemory::Create(connection_, bytes + spare);
   }
@@ -66,14 +64,14 @@ void Canvas::Present(xcb_window_t window, const RECT& area) {
 void Canvas::PresentShared(xcb_window_t window, const RECT& area) {
   const auto x = static_cast<std::int16_t>(area.left);
   const auto y = static_cast<std::int16_t>(area.top);
-  reading_ =
-      xcb_shm_put_image(connection_.Get(), window, connection_.DrawingContext(),
-                        static_cast<std::uint16_t>(size_.cx), static_cast<std::uint16_t>(size_.cy),
-                        static_cast<std::uint16_t>(x), static_cast<std::uint16_t>(y),
-                        static_cast<std::uint16_t>(area.right - area.left),
-                        static_cast<std::uint16_t>(area.bottom - area.top), x, y, kDepth,
-                        XCB_IMAGE_FORMAT_Z_PIXMAP, 0, shared_->Segment(), 0)
-          .sequence;
+  reading_ = xcb_shm_put_image(
+                 connection_.Get(), window, connection_.DrawingContext(),
+                 static_cast<std::uint16_t>(size_.cx), static_cast<std::uint16_t>(size_.cy),
+                 static_cast<std::uint16_t>(x), static_cast<std::uint16_t>(y),
+                 static_cast<std::uint16_t>(area.right - area.left),
+                 static_cast<std::uint16_t>(area.bottom - area.top), x, y,
+                 connection_.Format().depth, XCB_IMAGE_FORMAT_Z_PIXMAP, 0, shared_->Segment(), 0)
+                 .sequence;
 }
 
 // One request holds only so many bytes: the area goes over in bands of rows.
@@ -90,14 +88,15 @@ void Canvas::SendRows(xcb_window_t window, const RECT& rows) {
   const LONG width = rows.right - rows.left;
   const LONG height = rows.bottom - rows.top;
   request_.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+  const PixelFormat& format = connection_.Format();
   auto* target = request_.data();
   for (LONG y = rows.top; y < rows.bottom; ++y, target += width) {
-    std::copy_n(data_ + std::ptrdiff_t{y} * size_.cx + rows.left, width, target);
+    format.Write(data_ + std::ptrdiff_t{y} * size_.cx + rows.left, width, target);
   }
   xcb_put_image(connection_.Get(), XCB_IMAGE_FORMAT_Z_PIXMAP, window, connection_.DrawingContext(),
                 static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height),
                 static_cast<std::int16_t>(rows.left), static_cast<std::int16_t>(rows.top), 0,
-                kDepth, static_cast<std::uint32_t>(request_.size() * 4),
+                format.depth, static_cast<std::uint32_t>(request_.size() * 4),
                 reinterpret_cast<const std::uint8_t*>(request_.data()));
 }
 

@@ -2,7 +2,6 @@
 
 #include <xcb/shm.h>
 
-#include <bit>
 #include <cstring>
 #include <stdexcept>
 
@@ -10,8 +9,6 @@
 
 namespace display::x11 {
 namespace {
-
-constexpr std::uint8_t kDepth = 24;
 
 std::string DisplayName() {
   const char* name = std::getenv("DISPLAY");
@@ -26,35 +23,8 @@ const xcb_screen_t* ScreenAt(const xcb_setup_t* setup, int number) {
   return screens.data;
 }
 
-bool IsUsable(const xcb_visualtype_t& visual) {
-  return visual._class == XCB_VISUAL_CLASS_TRUE_COLOR && visual.red_mask == 0xFF0000 &&
-         visual.green_mask == 0xFF00 && visual.blue_mask == 0xFF;
-}
-
-// The root's own visual where it will do, else the first that will; 0 if none.
-xcb_visualid_t FindVisual(const xcb_screen_t& screen) {
-  xcb_visualid_t found = 0;
-  for (auto depths = xcb_screen_allowed_depths_iterator(&screen); depths.rem;
-       xcb_depth_next(&depths)) {
-    if (depths.data->depth != kDepth) continue;
-    for (auto it = xcb_depth_visuals_iterator(depths.data); it.rem; xcb_visualtype_next(&it)) {
-      if (!IsUsable(*it.data)) continue;
-      if (!found || it.data->visual_id == screen.root_visual) found = it.data->visual_id;
-    }
-  }
-  return found;
-}
-
-// Our pixels are words of 32 bits in this machine's byte order.
-bool HasOurPixelFormat(const xcb_setup_t* setup) {
-  constexpr auto kOrder = std::endian::native == std::endian::little ? XCB_IMAGE_ORDER_LSB_FIRST
-                                                                     : XCB_IMAGE_ORDER_MSB_FIRST;
-  for (auto it = xcb_setup_pixmap_formats_iterator(setup); it.rem; xcb_format_next(&it)) {
-    if (it.data->depth == kDepth) {
-      return it.data->bits_per_pixel == 32 && setup->image_byte_order == kOrder;
-    }
-  }
-  return false;
+std::runtime_error Unusable(const std::string& what) {
+  return std::runtime_error(what + "; WEXA_DISPLAY=offscreen needs no screen");
 }
 
 }  // namespace
@@ -75,35 +45,38 @@ Connection::~Connection() {
 void Connection::Open() {
   int number = 0;
   connection_ = xcb_connect(nullptr, &number);
-  if (xcb_connection_has_error(connection_)) {
-    throw std::runtime_error("no X server answers at display \"" + name_ + "\"");
+  if (const int error = xcb_connection_has_error(connection_)) {
+    const bool noScreen = error == XCB_CONN_CLOSED_INVALID_SCREEN;
+    throw Unusable(
+        (noScreen ? "there is no screen at X display \"" : "no X server answers at display \"") +
+        name_ + "\"");
   }
   xcb_prefetch_extension_data(connection_, &xcb_shm_id);
   xcb_prefetch_extension_data(connection_, &xcb_xkb_id);
   atoms_.Request(connection_);
   screen_ = ScreenAt(xcb_get_setup(connection_), number);
-  ChooseVisual();
+  ChooseFormat();
   CreateHelper();
   atoms_.Collect(connection_);
 }
 
-void Connection::ChooseVisual() {
-  visual_ = FindVisual(*screen_);
-  if (!visual_ || !HasOurPixelFormat(xcb_get_setup(connection_))) {
-    throw std::runtime_error("the X display \"" + name_ + "\" has no 24-bit true colour");
-  }
+void Connection::ChooseFormat() {
+  const auto format = FindPixelFormat(*xcb_get_setup(connection_), *screen_);
+  if (!format)
+    throw Unusable("the X display \"" + name_ + "\" has no true colour of 24 or 30 bits");
+  format_ = *format;
   colormap_ = screen_->default_colormap;
-  if (visual_ != screen_->root_visual) {
+  if (format_.visual != screen_->root_visual) {
     colormap_ = xcb_generate_id(connection_);
-    xcb_create_colormap(connection_, XCB_COLORMAP_ALLOC_NONE, colormap_, Root(), visual_);
+    xcb_create_colormap(connection_, XCB_COLORMAP_ALLOC_NONE, colormap_, Root(), format_.visual);
   }
 }
 
 void Connection::CreateHelper() {
   const std::uint32_t values[] = {0, XCB_EVENT_MASK_PROPERTY_CHANGE, colormap_};
   helper_ = xcb_generate_id(connection_);
-  xcb_create_window(connection_, kDepth, helper_, Root(), -1, -1, 1, 1, 0,
-                    XCB_WINDOW_CLASS_INPUT_OUTPUT, visual_,
+  xcb_create_window(connection_, format_.depth, helper_, Root(), -1, -1, 1, 1, 0,
+                    XCB_WINDOW_CLASS_INPUT_OUTPUT, format_.visual,
                     XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP, values);
   const std::uint32_t exposures = 0;
   context_ = xcb_generate_id(connection_);

@@ -10,13 +10,14 @@
 
 #include "Atoms.h"
 #include "Owned.h"
+#include "PixelFormat.h"
 
 namespace display::x11 {
 
 class Connection {
  public:
   // Throws std::runtime_error naming the display when no server answers, or when it has no
-  // 24-bit true colour.
+  // true colour of 24 or 30 bits.
   Connection();
   ~Connection();
   Connection(const Connection&) = delete;
@@ -25,7 +26,7 @@ class Connection {
   xcb_connection_t* Get() const { return connection_; }
   const xcb_screen_t& Screen() const { return *screen_; }
   xcb_window_t Root() const { return screen_->root; }
-  xcb_visualid_t Visual() const { return visual_; }
+  const PixelFormat& Format() const { return format_; }
   xcb_colormap_t Colormap() const { return colormap_; }
   xcb_atom_t operator[](Atom atom) const { return atoms_[atom]; }
   // A window that is never shown: it owns selections and lends its depth to the drawing context.
@@ -55,7 +56,7 @@ class Connection {
 
  private:
   void Open();
-  void ChooseVisual();
+  void ChooseFormat();
   void CreateHelper();
   void Send(xcb_window_t receiver, std::uint32_t mask, xcb_window_t window, Atom message,
             const std::uint32_t (&data)[5]);
@@ -63,7 +64,7 @@ class Connection {
   std::string name_;
   xcb_connection_t* connection_ = nullptr;
   const xcb_screen_t* screen_ = nullptr;
-  xcb_visualid_t visual_ = 0;
+  PixelFormat format_;
   xcb_colormap_t colormap_ = 0;
   xcb_window_t helper_ = 0;
   xcb_gcontext_t context_ = 0;

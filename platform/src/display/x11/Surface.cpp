@@ -47,10 +47,10 @@ void Surface::Create() {
   const std::uint32_t values[] = {XCB_BACK_PIXMAP_NONE,         0,       XCB_GRAVITY_NORTH_WEST,
                                   kind_ != SurfaceKind::Dialog, kEvents, connection_.Colormap()};
   window_ = xcb_generate_id(connection_.Get());
-  xcb_create_window(connection_.Get(), 24, window_, connection_.Root(),
+  xcb_create_window(connection_.Get(), connection_.Format().depth, window_, connection_.Root(),
                     static_cast<std::int16_t>(place_.left), static_cast<std::int16_t>(place_.top),
                     static_cast<std::uint16_t>(Size().cx), static_cast<std::uint16_t>(Size().cy), 0,
-                    XCB_WINDOW_CLASS_INPUT_OUTPUT, connection_.Visual(),
+                    XCB_WINDOW_CLASS_INPUT_OUTPUT, connection_.Format().visual,
                     XCB_CW_BACK_PIXMAP | XCB_CW_BORDER_PIXEL | XCB_CW_BIT_GRAVITY |
                         XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
                     values);

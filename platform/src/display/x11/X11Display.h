@@ -9,7 +9,7 @@
 namespace display {
 
 // Connects to the server that the environment's DISPLAY names. Throws std::runtime_error naming it
-// when none answers, or when it has no 24-bit true colour.
+// when none answers, when it has no such screen, or none with true colour of 24 or 30 bits.
 std::unique_ptr<Display> OpenX11Display();
 
 }  // namespace display
