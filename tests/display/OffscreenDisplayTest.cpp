@@ -1,10 +1,7 @@
 #include "display/offscreen/OffscreenDisplay.h"
 
-#include <cstdlib>
-#include <stdexcept>
 #include <thread>
 
-#include "platform/Font.h"
 #include "platform/VirtualKeys.h"
 
 using display::Input;
@@ -114,49 +111,4 @@ TEST_F(OffscreenDisplayTest, PixelsFollowTheSize) {
   EXPECT_EQ(display_.PixelAt(1, 29, 9), 0xFF112233U);
   EXPECT_EQ(display_.PixelAt(1, 30, 9), 0U);
   EXPECT_EQ(display_.LockPixels(77).data, nullptr);
-}
-
-// -- The choice ----------------------------------------------------------------------------------
-
-class DisplayFactoryTest : public testing::Test {
- protected:
-  DisplayFactoryTest() { display::SetCurrent(nullptr); }
-  ~DisplayFactoryTest() override {
-    setenv("WEXA_DISPLAY", "offscreen", 1);
-    setenv("WEXA_DPI", "96", 1);
-    display::SetCurrent(nullptr);
-  }
-};
-
-TEST_F(DisplayFactoryTest, ResolutionComesFromTheEnvironment) {
-  setenv("WEXA_DISPLAY", "offscreen", 1);
-  setenv("WEXA_DPI", "144", 1);
-  EXPECT_EQ(display::Current().Dpi(), 144);
-  EXPECT_EQ(GetScreenDpi(), 144);
-  EXPECT_EQ(display::Current().WorkArea().right, 2880);
-}
-
-TEST_F(DisplayFactoryTest, UnknownDisplayIsNamed) {
-  setenv("WEXA_DISPLAY", "paper", 1);
-  try {
-    display::Current();
-    FAIL() << "opened";
-  } catch (const std::runtime_error& error) {
-    EXPECT_THAT(error.what(), testing::HasSubstr("paper"));
-  }
-}
-
-TEST_F(DisplayFactoryTest, WithoutAServerItIsOffscreenUnlessTheServerWasAskedFor) {
-  const char* before = std::getenv("DISPLAY");
-  const std::string server = before ? before : "";
-  setenv("DISPLAY", ":7654", 1);
-  unsetenv("WEXA_DISPLAY");
-  EXPECT_NE(dynamic_cast<OffscreenDisplay*>(&display::Current()), nullptr);
-  display::SetCurrent(nullptr);
-  setenv("WEXA_DISPLAY", "x11", 1);
-  EXPECT_THROW(display::Current(), std::runtime_error);
-  if (before)
-    setenv("DISPLAY", server.c_str(), 1);
-  else
-    unsetenv("DISPLAY");
 }

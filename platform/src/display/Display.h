@@ -147,9 +147,9 @@ class Display {
   virtual std::wstring ClipboardText() = 0;
 };
 
-// The process's display, opened on first use: WEXA_DISPLAY=offscreen|x11, else x11 when DISPLAY is
-// set and its server answers, else offscreen. Throws std::runtime_error naming an unknown value or
-// a server that was asked for and does not answer. WEXA_DPI overrides the resolution.
+// The process's display, opened on first use: WEXA_DISPLAY=offscreen|x11, else x11 where DISPLAY is
+// set, else offscreen. Throws std::runtime_error naming an unknown value, or the server that does
+// not answer or whose screen cannot be used. WEXA_DPI overrides the resolution.
 Display& Current();
 // Replaces the process's display; for tests.
 void SetCurrent(std::unique_ptr<Display> display);

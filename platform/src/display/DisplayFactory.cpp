@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
@@ -6,6 +5,7 @@
 #include "display/Display.h"
 #include "display/offscreen/OffscreenDisplay.h"
 #include "display/x11/X11Display.h"
+#include "graphics/Environment.h"
 #include "graphics/ScreenProbe.h"
 #include "platform/Font.h"
 #include "platform/SystemColors.h"
@@ -18,32 +18,15 @@ std::string Variable(const char* name) {
   return value ? value : "";
 }
 
-// WEXA_DPI, or 0 where it says nothing.
-int WishedDpi() {
-  constexpr int kSmallest = 48, kLargest = 960;
-  const int dpi = std::atoi(Variable("WEXA_DPI").c_str());
-  return dpi <= 0 ? 0 : std::clamp(dpi, kSmallest, kLargest);
-}
-
 std::unique_ptr<Display> OpenOffscreen() {
-  const int dpi = WishedDpi();
-  return std::make_unique<OffscreenDisplay>(dpi ? dpi : 96);
-}
-
-std::unique_ptr<Display> OpenWhatIsThere() {
-  if (Variable("DISPLAY").empty()) return OpenOffscreen();
-  try {
-    return OpenX11Display();
-  } catch (const std::runtime_error&) {
-    return OpenOffscreen();
-  }
+  return std::make_unique<OffscreenDisplay>(DpiOfEnvironment().value_or(96));
 }
 
 std::unique_ptr<Display> Open() {
   const std::string wish = Variable("WEXA_DISPLAY");
-  if (wish.empty()) return OpenWhatIsThere();
-  if (wish == "offscreen") return OpenOffscreen();
-  if (wish == "x11") return OpenX11Display();
+  const bool hasServer = !Variable("DISPLAY").empty();
+  if (wish == "x11" || (wish.empty() && hasServer)) return OpenX11Display();
+  if (wish == "offscreen" || wish.empty()) return OpenOffscreen();
   throw std::runtime_error("WEXA_DISPLAY is \"" + wish + "\"; known are offscreen and x11.");
 }
 

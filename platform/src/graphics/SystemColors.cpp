@@ -1,10 +1,9 @@
 #include "platform/SystemColors.h"
 
 #include <array>
-#include <cstdlib>
 #include <optional>
-#include <string_view>
 
+#include "graphics/Environment.h"
 #include "graphics/ScreenProbe.h"
 
 namespace {
@@ -110,16 +109,8 @@ constexpr Tones kHighContrast{.window = kBlack,
 
 constexpr std::array kSchemes{MakeColors(kLight), MakeColors(kDark), MakeColors(kHighContrast)};
 
-// What the environment chooses.
-std::optional<SystemScheme> InitialChoice() {
-  const char* variable = std::getenv("WEXA_HIGH_CONTRAST");
-  const std::string_view wish = variable ? variable : "";
-  if (wish == "1") return SystemScheme::HighContrast;
-  return wish == "0" ? std::optional(SystemScheme::Light) : std::nullopt;
-}
-
 std::optional<SystemScheme>& Chosen() {
-  static std::optional<SystemScheme> chosen = InitialChoice();
+  static std::optional<SystemScheme> chosen = SchemeOfEnvironment();
   return chosen;
 }
 

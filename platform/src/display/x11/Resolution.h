@@ -12,7 +12,6 @@ class Resolution {
  public:
   explicit Resolution(Connection& connection) : connection_(connection) {}
 
-  // Throws std::runtime_error when WEXA_DPI is not a positive number.
   int Dpi() const;
   // Asks again; true when it is not the one told before.
   bool Refresh();
