@@ -227,6 +227,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{"--size 3 rows.ui", 2, "--size"},
                     Refusal{"--size 0x5 rows.ui", 2, "--size"},
                     Refusal{"--scale none rows.ui", 2, "--scale"},
+                    Refusal{"--scale nan rows.ui", 2, "--scale"},
                     Refusal{"--skin pink rows.ui", 2, "--skin"},
                     Refusal{"--report --png x.png rows.ui", 2, "--report"},
                     Refusal{"--png x.png rows.ui other.ui", 2, "one form"},
@@ -236,6 +237,14 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{"empty", 1, "empty: no forms"},
                     Refusal{"--png missing/x.png rows.ui", 1, "missing/x.png"},
                     Refusal{"--dump missing/x.json rows.ui", 1, "missing/x.json"}));
+
+TEST_F(PreviewTest, WithoutAnyFontItSaysSo) {
+  tool_.Write("rows.ui", kRowsForm);
+  tool_.Write("fonts.conf", "<fontconfig/>");
+  const Outcome outcome = tool_.Run("--dump - rows.ui", "FONTCONFIG_FILE=$PWD/fonts.conf");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.errors, HasSubstr("no font can be loaded"));
+}
 
 TEST_F(PreviewTest, AKeyMapColorsThePicture) {
   tool_.Write("keys.txt", "; colours\n\nActive_BG = #123456\nprimary_text=#FFFFFF\n");

@@ -21,9 +21,9 @@ Tool::~Tool() {
   std::filesystem::remove_all(folder_, ignored);
 }
 
-Outcome Tool::Run(const std::string& arguments) const {
-  const std::string command =
-      "cd " + folder_.string() + " && " WEXA_PREVIEW " " + arguments + " >output.txt 2>errors.txt";
+Outcome Tool::Run(const std::string& arguments, const std::string& environment) const {
+  const std::string command = "cd " + folder_.string() + " && " + environment +
+                              " " WEXA_PREVIEW " " + arguments + " >output.txt 2>errors.txt";
   const int status = std::system(command.c_str());
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Read("output.txt"), Read("errors.txt")};
 }

@@ -20,8 +20,9 @@ class Tool {
   Tool(const Tool&) = delete;
   Tool& operator=(const Tool&) = delete;
 
-  // Arguments are words for the shell; relative files are in the folder.
-  Outcome Run(const std::string& arguments) const;
+  // Arguments are words for the shell, NAME=VALUE words add to the environment; relative files are
+  // in the folder.
+  Outcome Run(const std::string& arguments, const std::string& environment = {}) const;
   void Write(const std::string& file, const std::string& text) const;
   std::string Read(const std::string& file) const;
 

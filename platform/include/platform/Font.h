@@ -49,7 +49,8 @@ BOOL GetFontDescription(HFONT font, LOGFONTW* description);
 // The font of windows that were given none. Never deleted.
 HFONT GetSystemFont();
 
-// A null or stale font measures as the system font.
+// A null or stale font measures as the system font. Measuring, and so making a dialog's window,
+// throws std::runtime_error where no font is installed.
 FontMetrics GetFontMetrics(HFONT font);
 // One line; "&" and control characters count as any other character.
 SIZE GetTextExtent(HFONT font, std::wstring_view text);

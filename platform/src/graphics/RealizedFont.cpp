@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cwchar>
+#include <stdexcept>
 
 #include "graphics/Utf8.h"
 
@@ -23,6 +24,14 @@ FontDescriptionPtr Describe(const FontKey& key) {
   pango_font_description_set_weight(description.get(), static_cast<PangoWeight>(key.weight));
   if (key.italic) pango_font_description_set_style(description.get(), PANGO_STYLE_ITALIC);
   return description;
+}
+
+cairo_scaled_font_t* ScaledFont(PangoFont* font) {
+  cairo_scaled_font_t* scaled =
+      font ? pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(font)) : nullptr;
+  if (!scaled || cairo_scaled_font_status(scaled) != CAIRO_STATUS_SUCCESS)
+    throw std::runtime_error("no font can be loaded: fontconfig finds none on this machine");
+  return scaled;
 }
 
 // Left to right whatever the base direction: digits and marks inside follow the letters around.
@@ -48,7 +57,7 @@ FontKey::FontKey(const LOGFONTW& description)
 RealizedFont::RealizedFont(const FontKey& key)
     : description_(Describe(key)),
       font_(TextEngine::Get().LoadFont(description_.get())),
-      scaled_(pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(font_.get()))),
+      scaled_(ScaledFont(font_.get())),
       underline_(key.underline),
       strikeOut_(key.strikeOut),
       lineThickness_(std::max(1, key.size / kLinesPerEm)),

@@ -34,6 +34,7 @@ struct ShapedLine {
 // A font that was looked up, with its measures and what was shaped in it.
 class RealizedFont {
  public:
+  // Throws std::runtime_error where there is no font at all.
   explicit RealizedFont(const FontKey& key);
 
   const FontMetrics& Metrics() const { return metrics_; }
