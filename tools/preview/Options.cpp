@@ -61,10 +61,16 @@ void AddSizes(CLI::App& app, std::vector<Wexa::Size>& sizes) {
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
+// Every comparison with what is no number fails, so that a range does not find it.
+std::string ComplaintIfNan(const std::string& text) {
+  return std::isnan(std::strtod(text.c_str(), nullptr)) ? "is no number" : "";
+}
+
 void AddLooks(CLI::App& app, Options& options) {
   app.add_option("--scale", options.scale, "Scale of the display, 1.5 for 144 dots per inch")
       ->type_name("S")
-      ->check(CLI::Range(0.5, 10.0));
+      ->check(CLI::Range(0.5, 10.0))
+      ->check(ComplaintIfNan);
   app.add_option("--skin", options.skin, "Colours; the desktop's when not given")
       ->type_name("NAME")
       ->check(CLI::IsMember({"light", "dark", "contrast"}));
