@@ -108,7 +108,4 @@ class Dialog::impl : public BaseImplMFC {
   EmbeddedPages pages_{*this};
 };
 
-// Ids of controls: one counter for the process, from 3000 up.
-UINT NextControlId();
-
 }  // namespace Wexa

@@ -8,9 +8,7 @@
 #include "KeyMap.h"
 #include "MFC/BaseImplMFC.h"
 #include "MFC/base/DeferredCalls.h"
-#include "MFC/dialog/BackgroundMove.h"
-#include "MFC/tips/BalloonTip.h"
-#include "MFC/tips/ToolTips.h"
+#include "MFC/base/InputWatch.h"
 #include "WexaUtils.h"
 #include "layout/Layout.h"
 #include "platform/Theme.h"
@@ -46,8 +44,8 @@ bool IsReportedKey(int virtualKey) {
   }
 }
 
-// What makes tips come and go.
-bool ConcernsTips(UINT message, WPARAM wParam) {
+// What the top-level window hears of.
+bool IsInput(UINT message, WPARAM wParam) {
   switch (message) {
     case WM_MOUSEMOVE:
     case WM_MOUSELEAVE:
@@ -70,7 +68,8 @@ class EventDispatch {
       : window_(window), widget_(widget), impl_(impl), wParam_(wParam), lParam_(lParam) {}
 
   LRESULT Handle(UINT message) {
-    if (ConcernsTips(message, wParam_)) TellTips(widget_, window_, message);
+    if (auto* watch = IsInput(message, wParam_) ? Watch() : nullptr)
+      watch->OnInputWithin(widget_, window_, message);
     switch (message) {
       case WM_SIZE: return Finish(message, OnSize());
       case WM_ACTIVATE: return Finish(message, OnActivate());
@@ -111,6 +110,7 @@ class EventDispatch {
 
  private:
   bool IsAlive() const { return IsWindow(window_); }
+  InputWatch* Watch() { return dynamic_cast<InputWatch*>(widget_.GetTopLevelDlg()); }
   LRESULT Default(UINT message) { return DefSubclassProc(window_, message, wParam_, lParam_); }
 
   LRESULT Finish(UINT message, bool handled) {
@@ -249,10 +249,10 @@ class EventDispatch {
     return OnLeftButton(WM_MOUSEMOVE, Event::MouseMove);
   }
 
-  // What the host does not take may move the dialog.
   bool OnLeftButton(UINT message, Event::Type type) {
     if (OnMouse(type)) return true;
-    if (IsAlive()) MoveByBackground(widget_, window_, message);
+    if (auto* watch = IsAlive() ? Watch() : nullptr)
+      watch->OnUntakenInputWithin(widget_, window_, message);
     return false;
   }
 
@@ -337,7 +337,6 @@ class EventDispatch {
 
   LRESULT OnDestroy() {
     impl_.KeepState();
-    BalloonTip::OnWindowGone(window_);
     widget_.Destroyed(&widget_);
     return Default(WM_DESTROY);
   }

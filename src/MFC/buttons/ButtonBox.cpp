@@ -4,7 +4,7 @@
 
 #include "Button.h"
 #include "MFC/ButtonBoxImplMFC.h"
-#include "MFC/DialogImplMFC.h"
+#include "MFC/base/ControlIds.h"
 #include "TrString.h"
 #include "layout/BoxLayout.h"
 #include "layout/SpacerItem.h"

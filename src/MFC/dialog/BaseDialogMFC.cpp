@@ -1,6 +1,9 @@
 #include "MFC/dialog/BaseDialogMFC.h"
 
 #include "MFC/DialogImplMFC.h"
+#include "MFC/dialog/BackgroundMove.h"
+#include "MFC/tips/BalloonTip.h"
+#include "MFC/tips/ToolTips.h"
 
 namespace Wexa {
 
@@ -8,6 +11,16 @@ BOOL BaseDialogMFC::PreTranslateMessage(MSG* message) {
   BOOL result = FALSE;
   if (impl_.OnPreTranslate(*message, result)) return result;
   return CDialogEx::PreTranslateMessage(message);
+}
+
+// The pointer alone moves tool tips only; all other input ends balloons too.
+void BaseDialogMFC::OnInputWithin(BaseGUIObject&, HWND window, UINT message) {
+  if (message != WM_MOUSEMOVE && message != WM_MOUSELEAVE) BalloonTip::OnInput();
+  impl_.Tips().OnInput(window, message);
+}
+
+void BaseDialogMFC::OnUntakenInputWithin(BaseGUIObject& widget, HWND window, UINT message) {
+  MoveByBackground(widget, window, message);
 }
 
 LRESULT BaseDialogMFC::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,16 +1,19 @@
 #pragma once
 
 #include "Dialog.h"
+#include "MFC/base/InputWatch.h"
 #include "platform/Classes.h"
 
 namespace Wexa {
 
 // The native dialog window.
-class BaseDialogMFC : public CDialogEx {
+class BaseDialogMFC : public CDialogEx, public InputWatch {
  public:
   explicit BaseDialogMFC(Dialog::impl& impl) : impl_(impl) {}
   Dialog::impl& Impl() { return impl_; }
   BOOL PreTranslateMessage(MSG* message) override;
+  void OnInputWithin(BaseGUIObject& widget, HWND window, UINT message) override;
+  void OnUntakenInputWithin(BaseGUIObject& widget, HWND window, UINT message) override;
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -55,14 +55,6 @@ void Reinitialise(BaseGUIObject& widget, const SkinManager& parent, SkinMode mod
 
 }  // namespace
 
-UINT NextControlId() {
-  constexpr std::uint16_t kFirst = 3000;
-  static std::uint16_t next = kFirst;
-  UINT id = next++;
-  if (next == 0) next = kFirst;
-  return id;
-}
-
 Dialog::impl::impl(Dialog* owner, DWORD style, CWnd* parent)
     : BaseImplMFC(owner),
       window_(std::make_unique<BaseDialogMFC>(*this)),

@@ -12,7 +12,6 @@
 #include "MFC/DialogImplMFC.h"
 #include "MFC/EventDispatch.h"
 #include "MFC/dialog/BaseDialogMFC.h"
-#include "MFC/tips/ToolTips.h"
 #include "Utf16.h"
 #include "WexaConfig.h"
 #include "WexaException.h"
@@ -190,7 +189,7 @@ void Dialog::impl::SettleFrame() {
 bool Dialog::impl::OnPreTranslate(MSG& message, BOOL& result) {
   if (!Owner()) return false;
   if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN)
-    TellTips(*Owner(), message.hwnd, message.message);
+    window_->OnInputWithin(*Owner(), message.hwnd, message.message);
   if (const auto& procedure = Owner()->PreTranslateMessage()) {
     int answer = procedure(&message);
     if (answer == 0 || answer == 1) {

@@ -6,6 +6,7 @@
 #include "ChildDialog.h"
 #include "Label.h"
 #include "MFC/RadioButtonImplMFC.h"
+#include "MFC/base/ControlIds.h"
 #include "MFC/forms/LayoutSettings.h"
 #include "MFC/forms/WidgetSettings.h"
 #include "MFC/tips/ToolTips.h"

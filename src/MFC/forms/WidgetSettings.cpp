@@ -4,6 +4,7 @@
 
 #include "MFC/BaseImplMFC.h"
 #include "MFC/DialogImplMFC.h"
+#include "MFC/base/ControlIds.h"
 #include "MFC/forms/ClassSettings.h"
 #include "MFC/forms/DefaultPolicy.h"
 #include "WexaUtils.h"

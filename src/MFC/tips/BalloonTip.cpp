@@ -53,7 +53,8 @@ bool BalloonTip::Show(BaseGUIObject& widget, const TipContent& content, Manner m
   if (content.title.empty() && content.text.empty()) return false;
   if (g_shown) g_shown->Close();
   if (!window || !::IsWindowVisible(window) || !Prepare(window)) return false;
-  widget_ = window;
+  widgetGone_ = ScopedConnection(widget.Destroyed,
+                                 widget.Destroyed.Connect([this](BaseGUIObject*) { Close(); }));
   manner_ = manner;
   SetContent(content, TipColorsOf(widget.GetSkinManager()), ImplOf(&widget)->Font());
   Place(widget);
@@ -87,10 +88,6 @@ void BalloonTip::Close() {
 
 void BalloonTip::OnInput() {
   if (g_shown && g_shown->manner_.closesOnInput) g_shown->Close();
-}
-
-void BalloonTip::OnWindowGone(HWND widget) {
-  if (g_shown && g_shown->widget_ == widget) g_shown->Close();
 }
 
 LRESULT BalloonTip::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MFC/tips/TipWindow.h"
+#include "ScopedConnection.h"
 
 namespace Wexa {
 
@@ -36,8 +37,6 @@ class BalloonTip : public TipWindow {
   void Close();
   // A key or a button was pressed in a dialog.
   static void OnInput();
-  // A widget's window is going.
-  static void OnWindowGone(HWND widget);
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -47,7 +46,7 @@ class BalloonTip : public TipWindow {
 
   BalloonArrow arrow_;
   Manner manner_;
-  HWND widget_ = nullptr;  // that it points at
+  ScopedConnection widgetGone_;
 };
 
 }  // namespace Wexa

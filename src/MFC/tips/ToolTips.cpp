@@ -1,8 +1,7 @@
 #include "MFC/tips/ToolTips.h"
 
-#include "MFC/DialogImplMFC.h"
-#include "MFC/dialog/BaseDialogMFC.h"
-#include "MFC/tips/BalloonTip.h"
+#include "BaseGUIObject.h"
+#include "MFC/BaseImplMFC.h"
 #include "platform/Theme.h"
 
 namespace Wexa {
@@ -124,12 +123,6 @@ const ToolTips::Entry* ToolTips::EntryUnder(HWND window, POINT screen) const {
       return &entry;
   }
   return nullptr;
-}
-
-void TellTips(BaseGUIObject& widget, HWND window, UINT message) {
-  if (message != WM_MOUSEMOVE && message != WM_MOUSELEAVE) BalloonTip::OnInput();
-  if (auto* dialog = dynamic_cast<BaseDialogMFC*>(widget.GetTopLevelDlg()))
-    dialog->Impl().Tips().OnInput(window, message);
 }
 
 }  // namespace Wexa

@@ -54,7 +54,4 @@ class ToolTips {
   int hoveredId_ = 0;
 };
 
-// Tells the tips of the widget's dialog what happened in a window of it.
-void TellTips(BaseGUIObject& widget, HWND window, UINT message);
-
 }  // namespace Wexa
