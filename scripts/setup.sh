@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(
   # tools
-  g++ cmake ninja-build pkg-config ccache
+  g++ cmake ninja-build pkg-config ccache python3
   # drawing, text, regions
   libglib2.0-dev libcairo2-dev libpango1.0-dev libfontconfig-dev libpixman-1-dev fonts-dejavu-core
   # scripts that DejaVu lacks: Devanagari, Chinese, Japanese and Korean, emoji

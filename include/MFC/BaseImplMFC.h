@@ -174,7 +174,7 @@ class BaseImplMFC : public BaseImpl {
   bool enabledState_ = true;
   Rect lastGeometry_;
   std::vector<BaseGUIObject*> children_;
-  std::unique_ptr<BalloonTip> balloonTip_;
+  std::shared_ptr<BalloonTip> balloonTip_;
 };
 
 // The implementation behind a widget; null for a null widget.

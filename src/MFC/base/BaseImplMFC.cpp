@@ -7,7 +7,6 @@
 #include "MFC/EventDispatch.h"
 #include "MFC/base/DialogFont.h"
 #include "MFC/base/WidgetColors.h"
-#include "MFC/tips/BalloonTip.h"
 #include "WexaException.h"
 #include "WexaUtils.h"
 #include "layout/Layout.h"

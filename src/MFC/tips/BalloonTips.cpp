@@ -38,7 +38,7 @@ std::shared_ptr<HBITMAP__> PictureOfBytes(const unsigned char* data, int size) {
 
 bool BaseImplMFC::ShowBalloon(const TipContent& content, bool closesOnInput, bool closesInTime) {
   if (!owner_) return false;
-  if (!balloonTip_) balloonTip_ = std::make_unique<BalloonTip>();
+  if (!balloonTip_) balloonTip_ = std::make_shared<BalloonTip>();
   return balloonTip_->Show(*owner_, content,
                            {closesOnInput, closesInTime ? kShownMilliseconds : 0});
 }
