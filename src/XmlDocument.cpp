@@ -7,6 +7,8 @@
 #include <functional>
 #include <utility>
 
+#include "XmlReferences.h"
+
 namespace Wexa {
 
 // The library's document and parser, which also knows the elements it is in.
@@ -210,6 +212,8 @@ template <typename Char>
 void BasicXmlDocument<Char>::Parse() {
   const auto zero = text_.find(Char());
   if (zero != text_.npos) throw XmlParseError("unexpected null character", zero);
+  const auto undefined = FindUndefinedEntity(std::basic_string_view<Char>(text_));
+  if (undefined != text_.npos) throw XmlParseError("undefined entity", undefined);
   constexpr auto mark = ByteOrderMark(Char());
   Char* const start = text_.data() + (text_.starts_with(mark) ? mark.size() : 0);
   try {

@@ -117,6 +117,17 @@ TEST(XmlDocument, ErrorsNameTheLine) {
   EXPECT_EQ(LineOfError(L"<a>\n\n" + std::wstring(1, L'\0') + L"</a>"), 3);
 }
 
+TEST(XmlDocument, RefusesEntitiesThatAreNotDefined) {
+  const std::pair<const wchar_t*, int> kLines[] = {
+      {L"<a>\n&copy;</a>", 2},
+      {L"<a>\n<!-- &copy; --><b x='&nbsp;'/></a>", 2},
+      {L"<a>\n<?p &copy; ?><![CDATA[&copy;]]>\n&x.1;</a>", 3},
+      {L"<a>&amp;&lt;&gt;&quot;&apos;&#65; & &copy &1; &&;<!--&copy;--></a>", 0},
+      {L"<!DOCTYPE a [<!ENTITY copy 'c'>]><a>&copy;</a>", 0},
+      {L"<a/>\ntext", 2}};
+  for (const auto& [text, line] : kLines) EXPECT_EQ(LineOfError(text), line) << text;
+}
+
 TEST(XmlDocument, EveryTruncationIsAnErrorOrADocument) {
   const std::wstring text = L"<?xml?><!DOCTYPE a><a b='&lt;'><!-- c --><![CDATA[d]]>e<f/></a>";
   for (std::size_t length = 0; length < text.size(); ++length) {
