@@ -23,8 +23,9 @@ class WEXA_API Dialog : public BaseGUIObject {
 
   Dialog();
   // Builds the dialog from a form file, encrypted or plain. A style of 0 stands for
-  // GetDefaultDialogStyle. Throws WexaException when the form cannot be read or built, with what is
-  // wrong, and rapidxml::parse_error for malformed XML.
+  // GetDefaultDialogStyle. Throws WexaException when the form cannot be read or built,
+  // rapidxml::parse_error for malformed XML, std::invalid_argument and std::out_of_range for
+  // numbers that are none. Each is a FormError too, which names file, line, widget and property.
   Dialog(const std::wstring& uiFile, HWND parent, unsigned long style, double scale);
   ~Dialog() override;
 

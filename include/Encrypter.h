@@ -29,6 +29,8 @@ class WEXA_API Encrypter {
 
   // The bytes of the decrypted text, UTF-8 or not; empty as above.
   static std::string ReadAndDecryptBytes(const std::wstring& path);
+  // The same for the bytes of a file.
+  static std::string DecryptBytes(std::string bytes);
   // Decrypts in place; the digest is that of the encrypted bytes.
   static void DecryptAndDigest(unsigned char* data, unsigned int length, unsigned char digest[16]);
 

@@ -47,6 +47,8 @@ class WEXA_API Translator {
   // The text of an encrypted form file with its strings in the current language and without its
   // line ends; empty on failure.
   std::wstring TranslateUIFile(const std::wstring& path);
+  // The same for the bytes of such a file, already read from `path`.
+  std::wstring TranslateUIBytes(const std::wstring& path, std::string bytes);
   // Whether an empty translation, which unfinished ones have, makes a string of an encrypted form
   // empty. Off at first: the string stays as the form has it, as it always does in plain forms.
   void SetEmptyTranslationsApplied(bool applied) { emptyTranslationsApplied_ = applied; }

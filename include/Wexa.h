@@ -21,6 +21,7 @@
 #include "Encrypter.h"
 #include "Event.h"
 #include "FontData.h"
+#include "FormError.h"
 #include "GroupBox.h"
 #include "HyperLinkElement.h"
 #include "KvDateTime.h"

@@ -5,10 +5,12 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "FormError.h"
 #include "form/PropertyId.h"
 
 namespace Wexa {
@@ -47,6 +49,20 @@ class FormNode {
   // `name` must outlive the node.
   void SetExtra(std::wstring_view name, std::wstring text);
 
+  // The number that a text starts with, nothing when the form has none. They throw
+  // std::invalid_argument or std::out_of_range, a FormError, for a text that starts with none.
+  std::optional<int> Integer(PropertyId id) const;
+  std::optional<int> Integer(std::wstring_view extra) const;
+  std::optional<double> Number(PropertyId id) const;
+  // Those of a list divided by commas.
+  std::vector<int> Integers(PropertyId id) const;
+
+  // Remembers where a property stands. `name` must outlive the node.
+  void SetLine(std::wstring_view property, int lineOfProperty);
+  // What is wrong with a property or attribute of this node.
+  FormDiagnostic Diagnose(std::wstring_view property, std::wstring reason) const;
+
+  int line = 0;  // of the element, counted from 1
   Kind kind;
   LayoutKind layoutKind = LayoutKind::Grid;
   bool headerVisible = true;
@@ -70,8 +86,17 @@ class FormNode {
   std::uint64_t present_ = 0;
   std::vector<std::wstring> texts_;
   std::vector<NamedText> extras_;
+  struct PropertyLine {
+    std::wstring_view name;
+    int line;
+  };
+  std::vector<PropertyLine> lines_;
 
   std::size_t IndexOf(PropertyId id) const;
+  // The property whose value fills a slot.
+  std::wstring_view PropertyOf(PropertyId id) const;
+  template <typename Convert>
+  auto Converted(std::wstring_view property, const std::wstring& text, Convert convert) const;
 };
 
 // A form as the file describes it.

@@ -4,6 +4,7 @@
 
 #include "XmlDocument.h"
 #include "form/FormTree.h"
+#include "form/RefusedForm.h"
 
 namespace Wexa {
 namespace {
@@ -36,11 +37,15 @@ FormModel::BaseClasses ReadCustomClasses(const XmlNode& ui) {
 
 bool FormParser::Parse(const std::wstring& text, FormModel& model) {
   errorText_.clear();
+  diagnostic_ = {};
   model = {};
   try {
     return ReadForm(text, model);
   } catch (const XmlParseError& error) {
-    throw FormParseError(error.what(), LineAt(text, error.Offset()));
+    const std::string what = error.what();
+    throw RefusedForm<rapidxml::parse_error>(
+        {{}, LineAt(text, error.Offset()), {}, {}, std::wstring(what.begin(), what.end())},
+        error.what(), nullptr);
   } catch (const std::runtime_error& error) {
     return Fail(error.what());
   }
@@ -51,13 +56,24 @@ bool FormParser::ReadForm(const std::wstring& text, FormModel& model) {
   const auto* ui = document.First(L"ui");
   if (ui == nullptr) return Fail("No UI node has been found.");
   const auto* root = ui->first_node(L"widget");
-  if (root == nullptr) return Fail("No root widget has been found.");
-  model = {ReadFormTree(*root), ReadTabOrder(*ui), ReadCustomClasses(*ui)};
+  if (root == nullptr)
+    return Fail("No root widget has been found.", LineAt(text, document.OffsetOf(*ui)));
+  model = {ReadRoot(*root, document, text), ReadTabOrder(*ui), ReadCustomClasses(*ui)};
   return true;
 }
 
-bool FormParser::Fail(const char* error) {
+// Null when a rectangle or a size lacks a number.
+std::unique_ptr<FormNode> FormParser::ReadRoot(const XmlNode& widget, const XmlDocument& document,
+                                               const std::wstring& text) try {
+  return ReadFormTree(widget, document, text);
+} catch (const RefusedForm<std::runtime_error>& error) {
+  diagnostic_ = error.diagnostic;
+  return nullptr;
+}
+
+bool FormParser::Fail(const char* error, int line) {
   errorText_ = error;
+  diagnostic_ = {{}, line, {}, {}, std::wstring(errorText_.begin(), errorText_.end())};
   return false;
 }
 

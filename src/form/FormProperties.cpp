@@ -4,18 +4,20 @@
 #include <cstdint>
 #include <initializer_list>
 #include <iterator>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "form/FormModel.h"
+#include "form/RefusedForm.h"
 
 namespace Wexa {
 namespace {
 
 // How one property is read: `element` is the value kind looked for, `id` the slot it fills.
 struct PropertyRule {
-  using Reader = bool (*)(const PropertyRule& rule, const XmlNode& property, FormNode& node);
+  using Reader = void (*)(const PropertyRule& rule, const XmlNode& property, FormNode& node);
 
   std::wstring_view name;
   Reader read;
@@ -32,60 +34,63 @@ void CopyText(const XmlNode* value, FormNode& node, PropertyId id) {
   if (value != nullptr) node.SetText(id, TextOf(*value));
 }
 
+[[noreturn]] void FailWithout(const wchar_t* number, std::wstring_view property,
+                              const FormNode& node) {
+  throw RefusedForm<std::runtime_error>(
+      node.Diagnose(property, std::wstring(L"the ") + number + L" is missing"), "Expected number");
+}
+
 // All numbers of a rectangle or a size have to be there.
-bool CopyNumbers(const XmlNode* value, FormNode& node, std::initializer_list<NumberSlot> slots) {
-  if (value == nullptr) return true;
+void CopyNumbers(const PropertyRule& rule, const XmlNode* value, FormNode& node,
+                 std::initializer_list<NumberSlot> slots) {
+  if (value == nullptr) return;
   for (const auto& slot : slots) {
     const auto* number = value->first_node(slot.element);
-    if (number == nullptr) return false;
+    if (number == nullptr) FailWithout(slot.element, rule.name, node);
     node.SetText(slot.id, TextOf(*number));
   }
-  return true;
 }
 
-bool ReadText(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+void ReadText(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
   CopyText(property.first_node(rule.element), node, rule.id);
-  return true;
 }
 
-bool ReadExtra(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+void ReadExtra(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
   const auto* value = property.first_node(rule.element);
   if (value != nullptr) node.SetExtra(rule.name, TextOf(*value));
-  return true;
 }
 
-bool ReadNumberOrDouble(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+void ReadNumberOrDouble(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
   const auto* number = property.first_node(L"number");
   CopyText(number != nullptr ? number : property.first_node(L"double"), node, rule.id);
-  return true;
 }
 
-bool ReadGeometry(const PropertyRule&, const XmlNode& property, FormNode& node) {
-  return CopyNumbers(property.first_node(L"rect"), node,
-                     {{L"x", PropertyId::X},
-                      {L"y", PropertyId::Y},
-                      {L"width", PropertyId::Width},
-                      {L"height", PropertyId::Height}});
+void ReadGeometry(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+  CopyNumbers(rule, property.first_node(L"rect"), node,
+              {{L"x", PropertyId::X},
+               {L"y", PropertyId::Y},
+               {L"width", PropertyId::Width},
+               {L"height", PropertyId::Height}});
 }
 
-bool ReadMinimumSize(const PropertyRule&, const XmlNode& property, FormNode& node) {
-  return CopyNumbers(property.first_node(L"size"), node,
-                     {{L"width", PropertyId::MinWidth}, {L"height", PropertyId::MinHeight}});
+void ReadMinimumSize(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+  CopyNumbers(rule, property.first_node(L"size"), node,
+              {{L"width", PropertyId::MinWidth}, {L"height", PropertyId::MinHeight}});
 }
 
-bool ReadMaximumSize(const PropertyRule&, const XmlNode& property, FormNode& node) {
-  return CopyNumbers(property.first_node(L"size"), node,
-                     {{L"width", PropertyId::MaxWidth}, {L"height", PropertyId::MaxHeight}});
+void ReadMaximumSize(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+  CopyNumbers(rule, property.first_node(L"size"), node,
+              {{L"width", PropertyId::MaxWidth}, {L"height", PropertyId::MaxHeight}});
 }
 
-bool ReadSizeHint(const PropertyRule&, const XmlNode& property, FormNode& node) {
-  return CopyNumbers(property.first_node(L"size"), node,
-                     {{L"width", PropertyId::Width}, {L"height", PropertyId::Height}});
+void ReadSizeHint(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+  CopyNumbers(rule, property.first_node(L"size"), node,
+              {{L"width", PropertyId::Width}, {L"height", PropertyId::Height}});
 }
 
-bool ReadSizePolicy(const PropertyRule&, const XmlNode& property, FormNode& node) {
+void ReadSizePolicy(const PropertyRule&, const XmlNode& property, FormNode& node) {
   const auto* policy = property.first_node(L"sizepolicy");
-  if (policy == nullptr) return true;
+  if (policy == nullptr) return;
   const auto copyAttribute = [&](const wchar_t* name, PropertyId id) {
     if (const auto text = AttributeOf(*policy, name)) node.SetText(id, std::wstring(*text));
   };
@@ -93,7 +98,6 @@ bool ReadSizePolicy(const PropertyRule&, const XmlNode& property, FormNode& node
   copyAttribute(L"vsizetype", PropertyId::VSizeType);
   CopyText(policy->first_node(L"horstretch"), node, PropertyId::HorStretch);
   CopyText(policy->first_node(L"verstretch"), node, PropertyId::VerStretch);
-  return true;
 }
 
 // Buttons are found by their words wherever these occur: "YesToAll" brings "Yes" too.
@@ -114,28 +118,26 @@ FormNode::StandardButtons FindStandardButtons(std::wstring_view set) {
   return found;
 }
 
-bool ReadStandardButtons(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+void ReadStandardButtons(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
   const auto* set = property.first_node(rule.element);
-  if (set == nullptr) return true;
+  if (set == nullptr) return;
   auto text = TextOf(*set);
   node.standardButtons = FindStandardButtons(text);
   node.SetText(rule.id, std::move(text));
-  return true;
 }
 
 // Kept as "year-month-day".
-bool ReadDate(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+void ReadDate(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
   const auto* date = property.first_node(L"date");
-  if (date == nullptr) return true;
+  if (date == nullptr) return;
   std::wstring text;
   for (const auto* part : {L"year", L"month", L"day"}) {
     const auto* number = date->first_node(part);
-    if (number == nullptr) return true;
+    if (number == nullptr) return;
     if (!text.empty()) text += L'-';
     text += TextOf(*number);
   }
   node.SetExtra(rule.name, std::move(text));
-  return true;
 }
 
 // In the order of their names.
@@ -211,12 +213,13 @@ static_assert(std::ranges::is_sorted(kRules, {}, &PropertyRule::name));
 
 }  // namespace
 
-bool ReadProperty(const XmlNode& property, FormNode& node) {
+void ReadProperty(const XmlNode& property, int line, FormNode& node) {
   const auto name = AttributeOf(property, L"name");
-  if (!name) return true;
+  if (!name) return;
   const auto* rule = std::ranges::lower_bound(kRules, *name, {}, &PropertyRule::name);
-  if (rule == std::end(kRules) || rule->name != *name) return true;
-  return rule->read(*rule, property, node);
+  if (rule == std::end(kRules) || rule->name != *name) return;
+  node.SetLine(rule->name, line);
+  rule->read(*rule, property, node);
 }
 
 void ReadAttribute(const XmlNode& attribute, FormNode& node) {

@@ -1,5 +1,7 @@
 #include "form/FormText.h"
 
+#include <algorithm>
+#include <charconv>
 #include <stdexcept>
 
 #include "Utf8.h"
@@ -29,14 +31,23 @@ std::wstring_view WithoutInnerScope(std::wstring_view text) {
   return scoped ? text.substr(end + kScope.size()) : text;
 }
 
-}  // namespace
-
-std::optional<std::wstring> PlainFormText(std::string_view bytes) {
+std::string_view WithoutByteOrderMark(std::string_view bytes) {
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  return bytes;
+}
+
+}  // namespace
+
+bool LooksLikePlainForm(std::string_view bytes) {
+  bytes = WithoutByteOrderMark(bytes);
   const auto first = bytes.find_first_not_of(" \t\r\n");
-  if (first == bytes.npos || bytes[first] != '<') return std::nullopt;
-  return WidenUtf8(bytes);
+  return first != bytes.npos && bytes[first] == '<';
+}
+
+std::optional<std::wstring> PlainFormText(std::string_view bytes) {
+  if (!LooksLikePlainForm(bytes)) return std::nullopt;
+  return WidenUtf8(WithoutByteOrderMark(bytes));
 }
 
 bool HasEnumWord(std::wstring_view text, std::wstring_view word) {
@@ -64,6 +75,16 @@ int FormInteger(const std::wstring& text) {
   } catch (const std::out_of_range&) {
     throw std::out_of_range("stoi argument out of range");
   }
+}
+
+double FormNumber(const std::wstring& text) {
+  const auto start = std::min(text.find_first_not_of(L" \t\r\n+"), text.size());
+  const std::string ascii = NarrowUtf8(std::wstring_view(text).substr(start));
+  double number = 0;
+  const auto read = std::from_chars(ascii.data(), ascii.data() + ascii.size(), number);
+  if (read.ec == std::errc::invalid_argument) throw std::invalid_argument("invalid stod argument");
+  if (read.ec != std::errc()) throw std::out_of_range("stod argument out of range");
+  return number;
 }
 
 }  // namespace Wexa

@@ -76,4 +76,9 @@ PropertyId PropertyIdOf(std::wstring_view name) {
   return found != kByName.end() && found->name == name ? found->id : PropertyId::Other;
 }
 
+std::wstring_view PropertyNameOf(PropertyId id) {
+  const auto index = static_cast<std::size_t>(id);
+  return index < kNames.size() ? kNames[index] : std::wstring_view();
+}
+
 }  // namespace Wexa

@@ -60,5 +60,7 @@ inline constexpr int kPropertyCount = static_cast<int>(PropertyId::Other) + 1;
 
 // The slot of a name as form files write it; Other for a name without one.
 PropertyId PropertyIdOf(std::wstring_view name);
+// The name of a slot; empty for Other.
+std::wstring_view PropertyNameOf(PropertyId id);
 
 }  // namespace Wexa

@@ -41,18 +41,21 @@ void Encrypter::DecryptAndDigest(unsigned char* data, unsigned int length,
 }
 
 std::string Encrypter::ReadAndDecryptBytes(const std::wstring& path) try {
-  auto bytes = Wexa::ReadFile(path);
-  if (!bytes || bytes->size() <= kDigestLength) return {};
-  const auto length = bytes->size() - kDigestLength;
-  unsigned char digest[kDigestLength];
-  DecryptAndDigest(reinterpret_cast<unsigned char*>(bytes->data()),
-                   static_cast<unsigned int>(length), digest);
-  const auto* stored = reinterpret_cast<const unsigned char*>(bytes->data()) + length;
-  if (!std::equal(digest, std::end(digest), stored)) return {};
-  bytes->resize(length);
-  return std::move(*bytes);
+  return DecryptBytes(Wexa::ReadFile(path).value_or(""));
 } catch (const std::exception&) {
   return {};
+}
+
+std::string Encrypter::DecryptBytes(std::string bytes) {
+  if (bytes.size() <= kDigestLength) return {};
+  const auto length = bytes.size() - kDigestLength;
+  unsigned char digest[kDigestLength];
+  DecryptAndDigest(reinterpret_cast<unsigned char*>(bytes.data()),
+                   static_cast<unsigned int>(length), digest);
+  const auto* stored = reinterpret_cast<const unsigned char*>(bytes.data()) + length;
+  if (!std::equal(digest, std::end(digest), stored)) return {};
+  bytes.resize(length);
+  return bytes;
 }
 
 std::wstring Encrypter::ReadAndDecryptFile(const std::wstring& path) try {

@@ -182,7 +182,11 @@ std::wstring Translator::GetDefaultText(const std::wstring& name, const std::wst
 // -------------------------------------------------------------------------------------------
 
 std::wstring Translator::TranslateUIFile(const std::wstring& path) {
-  const std::string form = Encrypter::ReadAndDecryptBytes(path);
+  return TranslateUIBytes(path, ReadFile(path).value_or(""));
+}
+
+std::wstring Translator::TranslateUIBytes(const std::wstring& path, std::string bytes) {
+  const std::string form = Encrypter::DecryptBytes(std::move(bytes));
   if (!IsUtf8(form)) return {};
   const auto empty =
       emptyTranslationsApplied_ ? EmptyTranslations::EmptyString : EmptyTranslations::KeepString;

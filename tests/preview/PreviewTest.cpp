@@ -233,7 +233,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{"--png x.png rows.ui other.ui", 2, "one form"},
                     Refusal{"missing.ui", 1, "missing.ui: No such file"},
                     Refusal{"truncated.ui", 1, "truncated.ui:3: "},
-                    Refusal{"other.ui", 1, "other.ui: Could not load and parse UI file"},
+                    Refusal{"other.ui", 1, "other.ui: No UI node"},
                     Refusal{"empty", 1, "empty: no forms"},
                     Refusal{"--png missing/x.png rows.ui", 1, "missing/x.png"},
                     Refusal{"--dump missing/x.json rows.ui", 1, "missing/x.json"}));

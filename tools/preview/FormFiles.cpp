@@ -9,9 +9,9 @@
 #include <memory>
 #include <stdexcept>
 
+#include "FormError.h"
 #include "Utf8.h"
 #include "WexaException.h"
-#include "form/FormParser.h"
 
 namespace preview {
 namespace {
@@ -63,8 +63,8 @@ std::wstring LibraryPath(const std::string& file) {
 std::string DescribeError(const std::string& file) {
   try {
     throw;
-  } catch (const Wexa::FormParseError& error) {
-    return file + ":" + std::to_string(error.Line()) + ": " + error.what();
+  } catch (const Wexa::FormError& error) {
+    return Wexa::NarrowUtf8(error.diagnostic.Describe());
   } catch (const Wexa::WexaException& error) {
     return file + ": " + MessageOf(error);
   } catch (const std::exception& error) {

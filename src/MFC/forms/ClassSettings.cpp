@@ -50,8 +50,7 @@ bool IsExtraTrue(const FormNode& node, std::wstring_view name) {
 }
 
 double NumberOr(const FormNode& node, PropertyId id, double absent) {
-  const std::wstring* text = node.Text(id);
-  double number = text ? std::stod(*text) : absent;
+  const double number = node.Number(id).value_or(absent);
   return std::isfinite(number) ? number : absent;
 }
 
@@ -138,8 +137,7 @@ void ApplyRange(Ranged& widget, const FormNode& node, int minimum, int maximum) 
 }
 
 void Apply(DoubleSpinEdit& spin, const FormNode& node) {
-  if (const std::wstring* decimals = node.Extra(L"decimals"))
-    spin.SetDecimals(FormInteger(*decimals));
+  if (const auto decimals = node.Integer(L"decimals")) spin.SetDecimals(*decimals);
   spin.SetRange(NumberOr(node, PropertyId::Minimum, 0), NumberOr(node, PropertyId::Maximum, 99.99));
   spin.SetValue(NumberOr(node, PropertyId::Value, 0));
   ApplyFixes(spin, node);
@@ -158,22 +156,17 @@ void Apply(SpinEdit& spin, const FormNode& node) {
   ApplyFixes(spin, node);
 }
 
-int ExtraNumberOr(const FormNode& node, std::wstring_view name, int absent) {
-  const std::wstring* text = node.Extra(name);
-  return text ? FormInteger(*text) : absent;
-}
-
 void Apply(RangeControl& control, const FormNode& node) {
   ApplyRange(control, node, 0, 99);
-  control.SetSingleStep(ExtraNumberOr(node, L"singleStep", control.GetSingleStep()));
-  control.SetPageStep(ExtraNumberOr(node, L"pageStep", control.GetPageStep()));
+  control.SetSingleStep(node.Integer(L"singleStep").value_or(control.GetSingleStep()));
+  control.SetPageStep(node.Integer(L"pageStep").value_or(control.GetPageStep()));
 }
 
 void Apply(Slider& slider, const FormNode& node) {
   Apply(static_cast<RangeControl&>(slider), node);
   const std::wstring* position = node.Extra(L"tickPosition");
   if (!position || HasEnumWord(*position, L"QSlider::NoTicks")) return;
-  slider.SetTickInterval(ExtraNumberOr(node, L"tickInterval", slider.GetPageStep()));
+  slider.SetTickInterval(node.Integer(L"tickInterval").value_or(slider.GetPageStep()));
 }
 
 void Apply(ProgressBar& bar, const FormNode& node) {
@@ -192,7 +185,7 @@ void Apply(GroupBox& box, const FormNode& node) {
 
 void Apply(Splitter& splitter, const FormNode& node) {
   splitter.SetOrientation(Has(node, PropertyId::Orientation, L"Qt::Vertical"));
-  splitter.SetHandleWidth(ExtraNumberOr(node, L"handleWidth", splitter.GetHandleWidth()));
+  splitter.SetHandleWidth(node.Integer(L"handleWidth").value_or(splitter.GetHandleWidth()));
   const std::wstring* opaque = node.Extra(L"opaqueResize");
   splitter.SetDynamicResizing(!opaque || *opaque != L"false");
 }

@@ -1,22 +1,32 @@
 // Building a dialog from its form: bytes to text, text to model, model to widgets.
 
 #include <chrono>
-#include <stdexcept>
+#include <filesystem>
+#include <utility>
 
 #include "FileText.h"
 #include "MFC/DialogImplMFC.h"
 #include "MFC/forms/DialogBuilder.h"
 #include "Translator.h"
+#include "Utf8.h"
+#include "Utf8Decoding.h"
 #include "WexaException.h"
+#include "XmlDocument.h"
 #include "form/FormParser.h"
 #include "form/FormText.h"
+#include "form/RefusedForm.h"
 
 namespace Wexa {
 
 namespace {
 
-[[noreturn]] void Fail(int line, const char* message) {
-  throw WexaException("src/MFC/DialogImplMFC", line, message);
+[[noreturn]] void Refuse(const char* message, FormDiagnostic diagnostic) {
+  throw RefusedForm<WexaException>(std::move(diagnostic), "src/MFC/DialogImplMFC", __LINE__,
+                                   message);
+}
+
+[[noreturn]] void RefuseFile(std::wstring reason, int line = 0) {
+  Refuse("Could not load and parse UI file", {{}, line, {}, {}, std::move(reason)});
 }
 
 double MillisecondsSince(std::chrono::steady_clock::time_point start) {
@@ -24,44 +34,70 @@ double MillisecondsSince(std::chrono::steady_clock::time_point start) {
       .count();
 }
 
-// The form's text, translated. Encrypted forms first; a file that is none may be a plain form.
-std::wstring ReadForm(const std::wstring& path) {
-  std::wstring text = Translator::GetInstance().TranslateUIFile(path);
-  if (!text.empty()) return text;
-  const auto bytes = ReadFile(path);
-  const auto plain = bytes ? PlainFormText(*bytes) : std::nullopt;
-  return plain ? Translator::GetInstance().TranslateUIText(path, *plain) : std::wstring();
+// A form's text, translated. Encrypted ones have lost their lines.
+struct FormText {
+  std::wstring text;
+  bool hasLines;
+};
+
+std::string ReadBytes(const std::wstring& path) {
+  std::error_code error;
+  if (!std::filesystem::exists(NativePath(path), error)) RefuseFile(L"there is no such file");
+  if (IsFileTooLarge(path)) RefuseFile(L"the file is too large");
+  auto bytes = ReadFile(path);
+  if (!bytes) RefuseFile(L"the file cannot be read");
+  if (bytes->empty()) RefuseFile(L"the file is empty");
+  return std::move(*bytes);
+}
+
+[[noreturn]] void RefuseBadUtf8(const std::string& bytes) {
+  const auto place = FindBadUtf8(bytes).value_or(0);
+  RefuseFile(L"the byte at offset " + std::to_wstring(place) + L" is not UTF-8",
+             LineAt(bytes, place));
+}
+
+FormText ReadForm(const std::wstring& path) {
+  std::string bytes = ReadBytes(path);
+  Translator& translator = Translator::GetInstance();
+  if (!LooksLikePlainForm(bytes)) {
+    std::wstring text = translator.TranslateUIBytes(path, std::move(bytes));
+    if (text.empty()) RefuseFile(L"neither XML nor an encrypted form");
+    return {std::move(text), false};
+  }
+  const auto plain = PlainFormText(bytes);
+  if (!plain) RefuseBadUtf8(bytes);
+  return {translator.TranslateUIText(path, *plain), true};
 }
 
 void ParseForm(const std::wstring& text, FormModel& model) {
   FormParser parser;
-  bool parsed = false;
-  try {
-    parsed = parser.Parse(text, model);
-  } catch (const std::runtime_error&) {
-    parsed = false;
-  }
-  if (!parsed) Fail(__LINE__, "Could not load and parse UI file");
-  if (!model.root) Fail(__LINE__, "Cannot build UI model of dialog.");
+  if (!parser.Parse(text, model)) Refuse("Could not load and parse UI file", parser.Diagnostic());
+  if (!model.root) Refuse("Cannot build UI model of dialog.", parser.Diagnostic());
 }
 
 }  // namespace
 
 void Dialog::impl::Build(const std::wstring& uiFile) {
-  auto start = std::chrono::steady_clock::now();
-  const std::wstring form = ReadForm(uiFile);
-  statistics.readMilliseconds = MillisecondsSince(start);
-  if (form.empty()) Fail(__LINE__, "Could not load and parse UI file");
+  bool hasLines = true;
+  try {
+    auto start = std::chrono::steady_clock::now();
+    const FormText form = ReadForm(uiFile);
+    hasLines = form.hasLines;
+    statistics.readMilliseconds = MillisecondsSince(start);
 
-  start = std::chrono::steady_clock::now();
-  FormModel model;
-  ParseForm(form, model);
-  statistics.parseMilliseconds = MillisecondsSince(start);
+    start = std::chrono::steady_clock::now();
+    FormModel model;
+    ParseForm(form.text, model);
+    statistics.parseMilliseconds = MillisecondsSince(start);
 
-  start = std::chrono::steady_clock::now();
-  DialogBuilder(*static_cast<Dialog*>(Owner()), *this, model).Build();
-  BuildTemplate();
-  statistics.buildMilliseconds = MillisecondsSince(start);
+    start = std::chrono::steady_clock::now();
+    DialogBuilder(*static_cast<Dialog*>(Owner()), *this, model).Build();
+    statistics.buildMilliseconds = MillisecondsSince(start);
+  } catch (FormError& error) {
+    error.diagnostic.file = uiFile;
+    if (!hasLines) error.diagnostic.line = 0;
+    throw;
+  }
 }
 
 }  // namespace Wexa

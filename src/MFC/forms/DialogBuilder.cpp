@@ -32,9 +32,7 @@ namespace {
 using GuiType = BaseGUIObject::GuiType;
 
 Size ScaledSize(const FormNode& node, PropertyId width, PropertyId height) {
-  const std::wstring* w = node.Text(width);
-  const std::wstring* h = node.Text(height);
-  return {w ? Scale(FormInteger(*w)) : 0, h ? Scale(FormInteger(*h)) : 0};
+  return {Scale(node.Integer(width).value_or(0)), Scale(node.Integer(height).value_or(0))};
 }
 
 bool IsVerticalSpacer(const FormNode& node, const FormNode* parentLayout) {

@@ -5,7 +5,6 @@
 
 #include "MFC/BaseImplMFC.h"
 #include "form/FormModel.h"
-#include "form/FormText.h"
 #include "layout/BoxLayout.h"
 #include "layout/GridLayout.h"
 
@@ -15,16 +14,11 @@ namespace {
 
 constexpr wchar_t kOldMargin[] = L"margin";
 
-// Calls set(position, number) for each number of a comma-separated list.
+// Calls set(position, number) for each number of a list.
 template <typename Set>
-void ForEachNumber(const std::wstring* list, Set set) {
-  if (!list || list->empty()) return;
+void ForEachNumber(const FormNode& node, PropertyId list, Set set) {
   int position = 0;
-  for (std::size_t start = 0; start <= list->size(); ++position) {
-    std::size_t end = std::min(list->find(L',', start), list->size());
-    set(position, FormInteger(list->substr(start, end - start)));
-    start = end + 1;
-  }
+  for (const int number : node.Integers(list)) set(position++, number);
 }
 
 void ApplyMargins(Layout& layout, const FormNode& node) {
@@ -33,9 +27,9 @@ void ApplyMargins(Layout& layout, const FormNode& node) {
   constexpr PropertyId kSides[4] = {PropertyId::LeftMargin, PropertyId::TopMargin,
                                     PropertyId::RightMargin, PropertyId::BottomMargin};
   for (int i = 0; i < 4; ++i) {
-    const std::wstring* margin = node.Text(kSides[i]);
-    if (!margin) margin = node.Extra(kOldMargin);
-    if (margin) sides[i] = Scale(FormInteger(*margin));
+    const auto own = node.Integer(kSides[i]);
+    const auto margin = own ? own : node.Integer(kOldMargin);
+    if (margin) sides[i] = Scale(*margin);
   }
   layout.SetContentsMargins(sides[0], sides[1], sides[2], sides[3]);
 }
@@ -48,27 +42,26 @@ std::wstring WithoutEnumName(std::wstring text) {
 }
 
 void ApplyGridLists(GridLayout& grid, const FormNode& node) {
-  ForEachNumber(node.Text(PropertyId::RowStretch),
+  ForEachNumber(node, PropertyId::RowStretch,
                 [&](int row, int value) { grid.SetRowStretch(row, value); });
-  ForEachNumber(node.Text(PropertyId::ColumnStretch),
+  ForEachNumber(node, PropertyId::ColumnStretch,
                 [&](int column, int value) { grid.SetColumnStretch(column, value); });
-  ForEachNumber(node.Text(PropertyId::RowMinimumHeight),
+  ForEachNumber(node, PropertyId::RowMinimumHeight,
                 [&](int row, int value) { grid.SetRowMinimumHeight(row, Scale(value)); });
-  ForEachNumber(node.Text(PropertyId::ColumnMinimumWidth),
+  ForEachNumber(node, PropertyId::ColumnMinimumWidth,
                 [&](int column, int value) { grid.SetColumnMinimumWidth(column, Scale(value)); });
 }
 
 }  // namespace
 
 void ApplyLayoutSettings(Layout& layout, const FormNode& node) {
-  if (const std::wstring* spacing = node.Text(PropertyId::Spacing))
-    layout.SetSpacing(Scale(FormInteger(*spacing)));
+  if (const auto spacing = node.Integer(PropertyId::Spacing)) layout.SetSpacing(Scale(*spacing));
   ApplyMargins(layout, node);
   if (auto* grid = dynamic_cast<GridLayout*>(&layout)) {
-    if (const std::wstring* vertical = node.Text(PropertyId::VerticalSpacing))
-      grid->SetVerticalSpacing(Scale(FormInteger(*vertical)));
-    if (const std::wstring* horizontal = node.Text(PropertyId::HorizontalSpacing))
-      grid->SetHorizontalSpacing(Scale(FormInteger(*horizontal)));
+    if (const auto vertical = node.Integer(PropertyId::VerticalSpacing))
+      grid->SetVerticalSpacing(Scale(*vertical));
+    if (const auto horizontal = node.Integer(PropertyId::HorizontalSpacing))
+      grid->SetHorizontalSpacing(Scale(*horizontal));
   }
   if (const std::wstring* text = node.Text(PropertyId::SizeConstraint))
     if (auto constraint = SizeConstraintFromText(WithoutEnumName(*text)))
@@ -83,7 +76,7 @@ void ApplyLayoutLists(Layout& layout, const FormNode& node) {
     return ApplyGridLists(*grid, node);
   }
   auto& box = static_cast<BoxLayout&>(layout);
-  ForEachNumber(node.Text(PropertyId::Stretch),
+  ForEachNumber(node, PropertyId::Stretch,
                 [&](int entry, int value) { box.SetStretch(entry, value); });
 }
 

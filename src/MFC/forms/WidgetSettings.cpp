@@ -21,20 +21,15 @@ bool Has(const FormNode& node, PropertyId id, std::wstring_view word) {
   return text && HasEnumWord(*text, word);
 }
 
-int NumberOr(const FormNode& node, PropertyId id, int absent) {
-  const std::wstring* text = node.Text(id);
-  return text ? FormInteger(*text) : absent;
-}
-
 // The extent of a node without geometry is its parent's.
 int ExtentOf(const FormNode& node, PropertyId id) {
-  if (node.Text(id)) return NumberOr(node, id, 0);
-  return node.parent ? NumberOr(*node.parent, id, 0) : 0;
+  if (node.Text(id)) return *node.Integer(id);
+  return node.parent ? node.parent->Integer(id).value_or(0) : 0;
 }
 
 CRect RectOf(const FormNode& node) {
-  int x = NumberOr(node, PropertyId::X, 0);
-  int y = NumberOr(node, PropertyId::Y, 0);
+  int x = node.Integer(PropertyId::X).value_or(0);
+  int y = node.Integer(PropertyId::Y).value_or(0);
   Rect rect(x, y, ExtentOf(node, PropertyId::Width), ExtentOf(node, PropertyId::Height));
   return rect.PlatformRect();
 }
@@ -65,16 +60,15 @@ void ApplyStyle(CreationRecord& record, const FormNode& node, std::wstring_view 
 void ApplySizePolicy(BaseGUIObject& widget, const FormNode& node, const std::wstring& className) {
   const std::wstring* horizontal = node.Text(PropertyId::HSizeType);
   const std::wstring* vertical = node.Text(PropertyId::VSizeType);
-  const std::wstring* across = node.Text(PropertyId::HorStretch);
-  const std::wstring* down = node.Text(PropertyId::VerStretch);
-  if (!horizontal || !vertical || !across || !down) {
+  if (!horizontal || !vertical || !node.Text(PropertyId::HorStretch) ||
+      !node.Text(PropertyId::VerStretch)) {
     bool isVertical = Has(node, PropertyId::Orientation, L"Qt::Vertical");
     return widget.SetSizePolicy(DefaultPolicyOf(className, isVertical));
   }
   SizePolicy policy(WexaUtils::PropertyToSizePolicy(*horizontal),
                     WexaUtils::PropertyToSizePolicy(*vertical));
-  policy.SetHorizontalStretch(FormInteger(*across));
-  policy.SetVerticalStretch(FormInteger(*down));
+  policy.SetHorizontalStretch(*node.Integer(PropertyId::HorStretch));
+  policy.SetVerticalStretch(*node.Integer(PropertyId::VerStretch));
   widget.SetSizePolicy(policy);
 }
 
@@ -86,9 +80,9 @@ void ApplySizeLimits(BaseGUIObject& widget, const FormNode& node) {
   Size least = impl.MinimumSize();
   Size most = impl.MaximumSize();
   auto read = [&](PropertyId id, bool& isExplicit, auto set) {
-    const std::wstring* text = node.Text(id);
-    if (!text) return;
-    set(Scale(FormInteger(*text)));
+    const auto number = node.Integer(id);
+    if (!number) return;
+    set(Scale(*number));
     isExplicit = true;
   };
   read(PropertyId::MinWidth, links.explicitMinimum.width, [&](int v) { least.SetWidth(v); });

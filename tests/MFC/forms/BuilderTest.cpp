@@ -1,9 +1,12 @@
 // What becomes of the parts of a form: widgets, their settings, and containers.
 
+#include <rapidxml/rapidxml.hpp>
+
 #include "ChildDialog.h"
 #include "ComboBox.h"
 #include "DateEdit.h"
 #include "Edit.h"
+#include "FormError.h"
 #include "GroupBox.h"
 #include "KvDateTime.h"
 #include "Label.h"
@@ -18,6 +21,7 @@
 #include "layout/SizeLimits.h"
 #include "platform/ControlConstants.h"
 #include "support/DialogTest.h"
+#include "translation/EncrypterAccess.h"
 
 namespace Wexa {
 namespace {
@@ -59,18 +63,6 @@ class BuilderTest : public DialogTest {
   }
   SizePolicy PolicyOf(const std::string& className, const std::string& properties = "") {
     return Build<BaseGUIObject>(WidgetXml(className, "w", properties)).GetSizePolicy();
-  }
-  std::string ErrorOf(const std::string& form) {
-    try {
-      Make(form);
-    } catch (const WexaException& error) {
-      const std::string text = error.what();  // where, and what after a quotation mark
-      EXPECT_EQ(error.GetFile(), "src/MFC/DialogImplMFC");
-      return text.substr(text.rfind('"') + 1);
-    } catch (const std::exception& error) {
-      return error.what();
-    }
-    return "";
   }
 };
 
@@ -326,22 +318,60 @@ TEST_F(BuilderTest, CustomClassesStandForTheirBase) {
   EXPECT_EQ(dialog_->GetElementByName(L"c"), nullptr);
 }
 
-TEST_F(BuilderTest, FailuresSayWhatIsWrong) {
-  EXPECT_EQ(ErrorOf(""), "Could not load and parse UI file");
-  EXPECT_EQ(ErrorOf("no form at all"), "Could not load and parse UI file");
-  EXPECT_EQ(ErrorOf("<root/>"), "Could not load and parse UI file");
-  EXPECT_EQ(ErrorOf("<ui/>"), "Could not load and parse UI file");
-  const auto geometry = PropertyXml("geometry", "rect", "<x>0</x><y>0</y><height>9</height>");
-  EXPECT_EQ(ErrorOf("<ui>" + WidgetXml("QDialog", "root", geometry) + "</ui>"),
-            "Cannot build UI model of dialog.");
-  EXPECT_EQ(ErrorOf(ColumnForm("").replace(0, 1, "x<")), "Could not load and parse UI file");
-  EXPECT_EQ(ErrorOf("<ui/>text"), "expected <");
-  EXPECT_EQ(ErrorOf(FormXml("<layout class=\"QGridLayout\" rowstretch=\"0,x\"/>", 9, 9)),
-            "invalid stoi argument");
-  EXPECT_EQ(ErrorOf(FormXml("<layout class=\"QVBoxLayout\" stretch=\"99999999999\"/>", 9, 9)),
-            "stoi argument out of range");
+TEST_F(BuilderTest, FailuresSayWhatIsWrongAndWhere) {
+  const char* const kUnread = "Could not load and parse UI file";
+  const auto label = [](const std::string& property) {
+    return ColumnForm("\n<item>" + WidgetXml("QSpinBox", "s", "\n" + property) + "</item>");
+  };
+  const auto size = [&](const std::string& numbers) {
+    return label(PropertyXml("minimumSize", "size", numbers));
+  };
+  struct {
+    std::string form;
+    const char* text;
+    const wchar_t* says;
+  } const kCases[] = {
+      {"", kUnread, L": the file is empty"},
+      {"no form at all", kUnread, L": neither XML nor an encrypted form"},
+      {"<ui>\n\xC3\xA9\xE4</ui>", kUnread, L":2: the byte at offset 7 is not UTF-8"},
+      {"<root/>", kUnread, L": No UI node has been found."},
+      {"<a/>\n<ui/>", kUnread, L":2: No root widget has been found."},
+      {"<ui/>\ntext", "expected <", L":2: expected <"},
+      {label("&copy;"), "undefined entity", L":3: undefined entity"},
+      {size("<width>1</width>"), "Cannot build UI model of dialog.",
+       L":3: \"minimumSize\" of \"s\": the height is missing"},
+      {size("<width>1</width><height>\ntall</height>"), "invalid stoi argument",
+       L":3: \"minimumSize\" of \"s\": \"\ntall\" is no number"},
+      {label(PropertyXml("value", "number", "x")), "invalid stod argument",
+       L":3: \"value\" of \"s\": \"x\" is no number"},
+      {FormXml("\n<layout class='QGridLayout' name='g' rowstretch='0,x'/>", 9, 9),
+       "invalid stoi argument", L":2: \"rowstretch\" of \"g\": \"x\" is no number"},
+      {FormXml("<layout name='g'>\n<item row='99999999999'/></layout>", 9, 9),
+       "stoi argument out of range", L":2: \"row\" of \"g\": 99999999999 is out of range"}};
+  for (const auto& [form, text, says] : kCases) {
+    const std::wstring file = FileOf(form);
+    try {
+      Dialog(file, nullptr, 0, 1.0);
+      ADD_FAILURE() << form;
+    } catch (const FormError& error) {
+      EXPECT_EQ(error.diagnostic.Describe(), file + says);
+      const auto* exception = dynamic_cast<const std::exception*>(&error);
+      EXPECT_TRUE(std::string(exception->what()).ends_with(text)) << exception->what();
+    }
+  }
   EXPECT_THROW(Dialog(L"/nowhere/at/all.ui", nullptr, 0, 1.0), WexaException);
   EXPECT_TRUE(GetTopLevelWindows().empty());
+}
+
+TEST_F(BuilderTest, EncryptedFormsHaveNoLines) {
+  const auto packed = EncrypterAccess::Pack("<ui>\n<widget/>");
+  try {
+    Make({packed.begin(), packed.end()});
+    ADD_FAILURE();
+  } catch (const FormError& error) {
+    EXPECT_EQ(error.diagnostic.line, 0);
+    EXPECT_NE(dynamic_cast<const rapidxml::parse_error*>(&error), nullptr);
+  }
 }
 
 }  // namespace
