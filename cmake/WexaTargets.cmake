@@ -46,7 +46,7 @@ function(wexa_test name)
   target_compile_definitions(${name} PRIVATE WEXA_BUILDING
     WEXA_SHARED_DIR="${PROJECT_SOURCE_DIR}/../shared" WEXA_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_link_libraries(${name} PRIVATE ${TEST_ROOMS} GTest::gmock GTest::gtest_main)
+  target_link_libraries(${name} PRIVATE ${TEST_ROOMS} test_data GTest::gmock GTest::gtest_main)
   target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <memory> <string> <vector>)
   add_test(NAME ${name} COMMAND ${TEST_LAUNCHER} $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES
