@@ -4,17 +4,14 @@
 
 #include <ctime>
 #include <string>
-#include <vector>
 
 namespace bench {
 
 // A display in memory of this scale; what was open on the one before must be gone.
 void UseOffscreen(int scale);
 
-// The generated form of so many widgets.
+// A file with the made form of so many widgets.
 std::string GeneratedForm(int widgets);
-// The forms of real programs.
-std::vector<std::string> RealForms();
 
 inline std::wstring Wide(const std::string& path) {
   return {path.begin(), path.end()};

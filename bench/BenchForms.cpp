@@ -4,6 +4,7 @@
 
 #include "Dialog.h"
 #include "bench/Bench.h"
+#include "data/TestData.h"
 #include "platform/Window.h"
 
 namespace bench {
@@ -55,9 +56,10 @@ BENCHMARK(Form<Step::Paint>)->Apply(Sizes)->Name("FormFirstPaint");
 BENCHMARK(Form<Step::Open>)->Apply(Sizes)->Name("FormOpen");
 BENCHMARK(Form<Step::Destroy>)->Apply(Sizes)->Name("FormDestroy");
 
-// The mean of one form.
+// The mean of one form of other programs.
 void RealForm(benchmark::State& state) {
-  const auto forms = RealForms();
+  const auto& forms = testdata::GivenForms();
+  if (forms.empty()) return state.SkipWithError(testdata::kNoGivenForms);
   for (const std::string& form : forms) OpenAndClose(Wide(form));
   for (auto _ : state) {
     double seconds = 0;

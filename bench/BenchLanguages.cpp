@@ -10,7 +10,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <rapidxml/rapidxml.hpp>
 
 #include "FileText.h"
@@ -19,6 +18,8 @@
 #include "Utf8.h"
 #include "WexaConfig.h"
 #include "bench/Bench.h"
+#include "bench/MadeForm.h"
+#include "data/TestData.h"
 #include "form/FormParser.h"
 #include "form/FormText.h"
 #include "translation/EncrypterAccess.h"
@@ -32,34 +33,29 @@ namespace fs = std::filesystem;
 constexpr std::size_t kMegabyte = 1'000'000;
 constexpr const wchar_t* kLanguage = L"pt_BR";
 
-std::string BytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 void Replace(std::string& text, const std::string& from, const std::string& to) {
   for (auto at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
     text.replace(at, from.size(), to);
 }
 
-// The contexts of a real TS file again and again, each time for other files.
+// The contexts of a TS file again and again, each time for other forms.
 std::string LargeTsFile() {
-  const std::string real = BytesOf(WEXA_SHARED_DIR "/forms/savvycan/SavvyCAN_pt_BR.ts");
-  const auto start = real.find("<context>");
-  const auto end = real.find("</TS>");
-  std::string large = real.substr(0, start);
+  std::string ts = testdata::BytesOf(testdata::TsFile("de"));
+  Replace(ts, "\"de_DE\"", "\"pt_BR\"");
+  const auto start = ts.find("<context>");
+  const auto end = ts.find("</TS>");
+  std::string large = ts.substr(0, start);
   for (int copy = 0; large.size() < 5 * kMegabyte; ++copy) {
-    std::string contexts = real.substr(start, end - start);
-    for (const std::string extension : {".ui\"", ".cpp\"", ".h\""})
-      Replace(contexts, extension, std::to_string(copy) + extension);
+    std::string contexts = ts.substr(start, end - start);
+    Replace(contexts, ".ui\"", std::to_string(copy) + ".ui\"");
     large += contexts;
   }
-  return large + real.substr(end);
+  return large + ts.substr(end);
 }
 
 // The items of a generated form, again and again.
 std::string LongForm() {
-  const std::string form = BytesOf(WEXA_SHARED_DIR "/bench/form1000.ui");
+  const std::string form = MadeForm(1000);
   const auto start = form.find("<item");
   const auto end = form.rfind("</item>") + 7;
   std::string lines = form.substr(0, start);

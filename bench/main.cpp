@@ -1,15 +1,43 @@
 // wexa_bench: what opening, laying out, painting and starting cost.
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <memory>
+#include <stdexcept>
 
 #include "ScaleFactor.h"
 #include "bench/Bench.h"
+#include "bench/MadeForm.h"
+#include "data/TestData.h"
 #include "display/offscreen/OffscreenDisplay.h"
 
 namespace bench {
+
+namespace {
+
+// A folder for files, gone with the process.
+class Folder {
+ public:
+  Folder() {
+    std::string path = (std::filesystem::temp_directory_path() / "wexa-bench-XXXXXX").string();
+    if (!mkdtemp(path.data())) throw std::runtime_error("no temporary folder");
+    path_ = path;
+  }
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace
 
 void UseOffscreen(int scale) {
   constexpr int kUnscaledDpi = 96;
@@ -18,15 +46,10 @@ void UseOffscreen(int scale) {
 }
 
 std::string GeneratedForm(int widgets) {
-  return WEXA_SHARED_DIR "/bench/form" + std::to_string(widgets) + ".ui";
-}
-
-std::vector<std::string> RealForms() {
-  std::vector<std::string> forms;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(WEXA_SHARED_DIR "/forms"))
-    if (entry.path().extension() == ".ui") forms.push_back(entry.path().string());
-  std::ranges::sort(forms);
-  return forms;
+  static const Folder folder;
+  const auto path = folder.Path() / ("form" + std::to_string(widgets) + ".ui");
+  if (!std::filesystem::exists(path)) std::ofstream(path, std::ios::binary) << MadeForm(widgets);
+  return path.string();
 }
 
 }  // namespace bench
@@ -46,7 +69,7 @@ BENCHMARK(Yardstick)->Unit(benchmark::kMillisecond);
 }  // namespace
 
 int main(int argc, char** argv) {
-  setenv("FONTCONFIG_FILE", WEXA_SOURCE_DIR "/tests/support/fonts.conf", 1);
+  setenv("FONTCONFIG_FILE", testdata::InProject("tests/support/fonts.conf").c_str(), 1);
   setenv("LC_ALL", "C.UTF-8", 1);
   bench::MeasureStartMemory();
   bench::UseOffscreen(1);
