@@ -9,6 +9,7 @@
 
 #include "Encrypter.h"
 #include "Utf8.h"
+#include "data/TestData.h"
 
 namespace fs = std::filesystem;
 
@@ -72,8 +73,8 @@ TEST_F(PackTest, WritesThePackedFileBesideItsSource) {
   EXPECT_EQ(CountFiles(), 2u);
 }
 
-TEST_F(PackTest, PacksTheRealFilesAsATree) {
-  const fs::path forms = WEXA_SHARED_DIR "/forms";
+TEST_F(PackTest, PacksAFolderAsATree) {
+  const fs::path forms = testdata::InProject("tests/data");
   const auto result = Run("-o " + Path("out") + " " + forms.string());
   ASSERT_EQ(result.status, 0) << result.errors;
   std::size_t packed = 0;

@@ -1,3 +1,4 @@
+#include "data/TestData.h"
 #include "screen/ScreenTest.h"
 #include "support/x11/DragSource.h"
 #include "support/x11/SettingsManager.h"
@@ -6,7 +7,7 @@ namespace screen {
 namespace {
 
 constexpr SIZE kClient{320, 240};
-constexpr char kForm[] = WEXA_SOURCE_DIR "/tests/screen/Guest.ui";
+const std::string kForm = testdata::InProject("tests/screen/Guest.ui");
 
 POINT MiddleOf(const RECT& place) {
   return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
