@@ -1,14 +1,18 @@
-// Real files with damage at random places, the same in every run: each reader gives something or
+// Files with damage at random places, the same in every run: each reader gives something or
 // nothing, or throws what it announces.
 
+#include <filesystem>
+#include <fstream>
+#include <functional>
 #include <random>
 #include <rapidxml/rapidxml.hpp>
 #include <stdexcept>
 
-#include "RealFiles.h"
+#include "Encrypter.h"
 #include "Utf8.h"
 #include "Utf8Decoding.h"
 #include "WexaUtils.h"
+#include "data/TestData.h"
 #include "translation/EncrypterAccess.h"
 #include "translation/FormTranslation.h"
 #include "translation/StringsLoader.h"
@@ -17,15 +21,11 @@
 namespace Wexa {
 namespace {
 
-constexpr int kDamagedCopies = 30;
-constexpr std::size_t kLongestText = 40000;  // of a copy, so that the run stays short
-
 class Damage {
  public:
   // A part of the bytes with some characters changed, doubled or left out.
   std::string Of(const std::string& bytes) {
-    std::string copy = bytes.substr(0, 200);
-    copy += bytes.substr(Random(bytes.size()), kLongestText);
+    std::string copy = bytes.substr(0, 200) + bytes.substr(Random(bytes.size()));
     for (std::size_t times = Random(20); times > 0; --times) Change(copy);
     return copy;
   }
@@ -48,54 +48,21 @@ class Damage {
   std::mt19937 generator_{20240607};
 };
 
-template <typename Read>
-void ReadDamagedCopies(const std::string& extension, Read read) {
-  Damage damage;
-  for (const auto& file : RealFiles(extension)) {
-    for (int n = 0; n < kDamagedCopies; ++n) {
+class DamagedFilesTest : public testing::Test {
+ protected:
+  ~DamagedFilesTest() override { std::filesystem::remove(path_); }
+
+  void Read(const std::string& sound, const std::function<void(const std::string&)>& read) {
+    constexpr int kCopies = 100;
+    for (int n = 0; n < kCopies; ++n) {
       try {
-        read(damage.Of(file.bytes));
+        read(damage_.Of(sound));
       } catch (const rapidxml::parse_error&) {
       } catch (const std::invalid_argument&) {
       } catch (const std::out_of_range&) {
       }
     }
   }
-}
-
-TEST(DamagedFiles, GiveTranslationsOrAnAnnouncedException) {
-  for (const auto* language : {L"de", L"ar", L"pt_BR", L"ja"}) {
-    ReadDamagedCopies(".ts", [&](const std::string& bytes) {
-      TsPlaces places;
-      if (IsUtf8(bytes)) LoadTsText(bytes, language, places);
-    });
-  }
-}
-
-TEST(DamagedFiles, GiveTextsOrAnAnnouncedException) {
-  ReadDamagedCopies(".ts", [](const std::string& bytes) {
-    std::unordered_map<std::wstring, std::wstring> texts;
-    logFont font;
-    if (IsUtf8(bytes)) LoadStringsText(bytes, {L"de", L"ja"}, texts, font);
-  });
-}
-
-TEST(DamagedFiles, AreTranslatedByAnyLines) {
-  ReadDamagedCopies(".ui", [](const std::string& bytes) {
-    const auto text = WidenUtf8(bytes);
-    FormLines lines;
-    for (unsigned n = 1; text && n < 2000; n += static_cast<unsigned>(bytes.size()) % 5 + 1) {
-      lines[n] = L"t";
-      TranslateForm(bytes, lines);
-      TranslateFormInPlace(*text, lines);
-      if (lines.size() > 40) break;
-    }
-  });
-}
-
-class DamagedFilesOnDisk : public testing::Test {
- protected:
-  ~DamagedFilesOnDisk() override { std::filesystem::remove(path_); }
   std::wstring Write(const std::string& bytes) {
     std::ofstream(path_, std::ios::binary) << bytes;
     return *WidenUtf8(path_);
@@ -103,31 +70,56 @@ class DamagedFilesOnDisk : public testing::Test {
 
  private:
   std::string path_ = testing::TempDir() + "/damaged_file";
+  Damage damage_;
 };
 
-TEST_F(DamagedFilesOnDisk, AreNotTakenForEncryptedOnes) {
-  Damage damage;
-  for (const auto& form : RealFiles(".ui")) {
-    const auto packed = EncrypterAccess::Pack(form.bytes);
-    const std::string damaged = damage.Of({packed.begin(), packed.end()});
-    EXPECT_EQ(Encrypter::ReadAndDecryptFile(Write(damaged)), L"") << form.path;
+TEST_F(DamagedFilesTest, OfTranslationsGiveSomeOrAnAnnouncedException) {
+  for (const std::string language : {"de", "ar"}) {
+    Read(testdata::BytesOf(testdata::TsFile(language)), [&](const std::string& bytes) {
+      TsPlaces places;
+      if (IsUtf8(bytes)) LoadTsText(bytes, language == "de" ? L"de_DE" : L"ar", places);
+    });
   }
 }
 
-TEST_F(DamagedFilesOnDisk, DescribeAVersionOrAreRefused) {
+TEST_F(DamagedFilesTest, OfTextsGiveSomeOrAnAnnouncedException) {
+  std::string strings = "<r language='de'><Font><PreFont FaceName='x' Height='9'/></Font>";
+  for (int n = 0; n < 50; ++n) strings += "<StringTable><string id='a'>t &amp; u</string>\n";
+  Read(strings + "</StringTable></r>", [](const std::string& bytes) {
+    std::unordered_map<std::wstring, std::wstring> texts;
+    logFont font;
+    if (IsUtf8(bytes)) LoadStringsText(bytes, {L"de", L"ja"}, texts, font);
+  });
+}
+
+TEST_F(DamagedFilesTest, OfFormsAreTranslatedByAnyLines) {
+  Read(testdata::BytesOf(testdata::Form("preferences.ui")), [](const std::string& bytes) {
+    const auto text = WidenUtf8(bytes);
+    FormLines lines;
+    for (unsigned n = 1; text && lines.size() < 40; n += 3) {
+      lines[n] = L"t";
+      TranslateForm(bytes, lines);
+      TranslateFormInPlace(*text, lines);
+    }
+  });
+}
+
+TEST_F(DamagedFilesTest, AreNotTakenForEncryptedOnes) {
+  const auto packed = EncrypterAccess::Pack(testdata::BytesOf(testdata::Form("preferences.ui")));
+  Read({packed.begin(), packed.end()}, [this](const std::string& bytes) {
+    EXPECT_EQ(Encrypter::ReadAndDecryptFile(Write(bytes)), L"");
+  });
+}
+
+TEST_F(DamagedFilesTest, DescribeAVersionOrAreRefused) {
   const std::string sound =
       "<?xml version='1.0'?><Ostrel><language>de</language><version>1.2</version><VerDes><e "
       "name='a' value='b &amp; &#1084;'/><e name='c'/></VerDes><VerLeg><x name='n' value='v'/>"
       "<!-- c --><![CDATA[d]]></VerLeg></Ostrel>";
-  Damage damage;
-  for (int n = 0; n < 500; ++n) {
-    const auto path = Write(damage.Of(sound));
+  Read(sound, [this](const std::string& bytes) {
     PluginVersionInfo info;
-    try {
-      WexaUtils::GetPluginVersionInfo(path, info);
-    } catch (const rapidxml::parse_error&) {
-    }
-  }
+    WexaUtils::GetPluginVersionInfo(Write(bytes), info);
+  });
 }
 
 }  // namespace

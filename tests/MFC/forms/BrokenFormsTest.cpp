@@ -3,31 +3,23 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <rapidxml/rapidxml.hpp>
 #include <stdexcept>
 
 #include "MFC/DialogImplMFC.h"
-#include "MFC/forms/RealForms.h"
 #include "WexaException.h"
+#include "data/TestData.h"
 #include "support/DialogTest.h"
 
 namespace Wexa {
 namespace {
-
-constexpr std::size_t kSmall = 20'000;  // bytes; larger forms are more of the same
 
 struct Span {
   std::size_t start;
   std::size_t length;
 };
 
-std::string Contents(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-// Every damage of every small form, when asked for; else a few of each.
+// Every damage of every form, when asked for; else a few of each.
 std::size_t Samples() {
   return std::getenv("WEXA_TEST_ALL_DAMAGES") ? SIZE_MAX : 5;
 }
@@ -55,10 +47,9 @@ class BrokenFormsTest : public DialogTest {
   }
 
   template <typename Damage>
-  void ForEachSmallForm(Damage damage) {
-    for (const std::string& path : RealForms()) {
-      const std::string form = Contents(path);
-      if (form.size() > kSmall) continue;
+  void ForEachForm(Damage damage) {
+    for (const std::string& path : testdata::Forms()) {
+      const std::string form = testdata::BytesOf(path);
       SCOPED_TRACE(path);
       damage(form);
     }
@@ -120,7 +111,7 @@ std::vector<Span> NumbersIn(const std::string& form) {
 }
 
 TEST_F(BrokenFormsTest, CutFormsNeverOpen) {
-  ForEachSmallForm([&](const std::string& form) {
+  ForEachForm([&](const std::string& form) {
     const auto end = form.rfind("</ui>");
     const std::size_t step = std::max<std::size_t>(1, end / Samples());
     for (std::size_t length = 0; length < end; length += step)
@@ -129,11 +120,11 @@ TEST_F(BrokenFormsTest, CutFormsNeverOpen) {
 }
 
 TEST_F(BrokenFormsTest, FormsWithoutAnAttributeOpenOrFail) {
-  ForEachSmallForm([&](const std::string& form) { ReplaceEach(form, AttributesIn(form), ""); });
+  ForEachForm([&](const std::string& form) { ReplaceEach(form, AttributesIn(form), ""); });
 }
 
 TEST_F(BrokenFormsTest, FormsWithWrongNumbersOpenOrFail) {
-  ForEachSmallForm([&](const std::string& form) {
+  ForEachForm([&](const std::string& form) {
     const auto numbers = NumbersIn(form);
     for (const char* wrong :
          {"", "text", "-7", "-2147483648", "2147483647", "99999999999999999999"})
