@@ -35,7 +35,9 @@ class WEXA_API Dialog : public BaseGUIObject {
   // -- Showing and ending
 
   // Shows the dialog and returns what it was ended with. Throws WexaException when the native
-  // dialog cannot be made; exceptions of handlers pass through after the dialog is taken down.
+  // dialog cannot be made; exceptions of handlers pass through after the dialog is taken down. On
+  // the offscreen display, where no user can end it, the dialog is closed as by its user when
+  // nothing can happen any more, which is said on standard error once; see WorkGuard.h.
   int DoModal();
   // Shows the dialog and returns; the host pumps messages. Throws like DoModal.
   void DoModeless(CWnd* parent, bool show = true);

@@ -65,3 +65,4 @@
 #include "WexaObject.h"
 #include "WexaObjectFactory.h"
 #include "WexaUtils.h"
+#include "WorkGuard.h"

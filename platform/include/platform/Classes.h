@@ -178,7 +178,8 @@ class CDialogEx : public CWnd {
   BOOL InitModalIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* owner);
   // Shows the dialog, disables its owner's top-level window and pumps until EndDialog; returns what
   // that was given, -1 when the window could not be made. An exception thrown by a handler leaves
-  // here after the dialog is destroyed and owner, focus and capture are restored.
+  // here after the dialog is destroyed and owner, focus and capture are restored. On a display that
+  // nobody sees the dialog is closed when nothing can happen any more.
   virtual std::intptr_t DoModal();
   BOOL CreateIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* owner);
   // Hides the dialog; a modal one is destroyed when its loop is left, a modeless one by its host.
@@ -190,6 +191,8 @@ class CDialogEx : public CWnd {
   void GotoDlgCtrl(HWND control);
 
   BOOL PreTranslateMessage(MSG* message) override;
+  // What DoModal returns when nobody sees the dialog and it does not close itself.
+  virtual int ClosedResult() const;
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

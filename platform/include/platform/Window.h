@@ -144,9 +144,13 @@ LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value);
 LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 // From any thread; wakes the pump.
 BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+// A thread that will post says so before it starts, and that it is done: as often. From any thread.
+void ExpectPosts();
+void ExpectNoMorePosts();
 void PostQuitMessage(int exitCode);
 // Posted messages first, then input, then paint, then timers. GetMessageW returns FALSE for WM_QUIT
-// and, with no timer running on a display where nothing can happen by itself, also then.
+// and, with no timer running and no posts expected on a display where nothing can happen by itself,
+// also then.
 BOOL GetMessageW(MSG* message);
 BOOL PeekMessageW(MSG* message, UINT flags);
 // Makes WM_CHAR (or WM_SYSCHAR) messages of a key press that has text.

@@ -89,3 +89,7 @@ void CDialogEx::OnOK() {
 void CDialogEx::OnCancel() {
   EndDialog(IDCANCEL);
 }
+
+int CDialogEx::ClosedResult() const {
+  return IDCANCEL;
+}

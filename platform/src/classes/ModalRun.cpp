@@ -1,10 +1,24 @@
 #include "classes/ModalRun.h"
 
+#include <cstdio>
 #include <utility>
 
 #include "classes/ClassLayer.h"
 #include "classes/MessagePump.h"
 #include "controls/DialogState.h"
+
+namespace {
+
+void TellThatNobodySees() {
+  static bool told = false;
+  if (std::exchange(told, true)) return;
+  std::fputs(
+      "A dialog was closed because nobody can see it: WEXA_DISPLAY asks for the display without a "
+      "screen, or neither it nor DISPLAY names one.\n",
+      stderr);
+}
+
+}  // namespace
 
 ModalRun::ModalRun(CDialogEx& dialog, HWND owner)
     : dialog_(&dialog), owner_(IsWindowEnabled(owner) ? owner : nullptr), focus_(GetFocus()) {
@@ -31,12 +45,23 @@ std::intptr_t ModalRun::Run(const DLGTEMPLATE* dialogTemplate, CWnd* owner) {
   return result_;
 }
 
-// Where nothing can happen any more the dialog ends as if it was cancelled.
 void ModalRun::Pump() {
   int exitCode = 0;
   const Pumped pumped = PumpOneMessage(exitCode);
-  if (pumped == Pumped::Quit) PostQuitMessage(exitCode);
-  if (pumped != Pumped::Message) End(IDCANCEL);
+  if (pumped == Pumped::NothingLeft) return CloseUnseen();
+  if (pumped == Pumped::Message) return;
+  PostQuitMessage(exitCode);
+  End(IDCANCEL);
+}
+
+// Nothing can happen any more: the dialog is closed as by its user, who is not there.
+void ModalRun::CloseUnseen() {
+  TellThatNobodySees();
+  if (!std::exchange(wasClosed_, true)) {
+    SendMessageW(window_, WM_CLOSE, 0, 0);
+  } else {
+    End(dialog_ ? dialog_->ClosedResult() : -1);
+  }
 }
 
 // The owner takes input before the dialog hides, so that it is the one to be activated.

@@ -23,6 +23,7 @@ struct ModalRun {
  private:
   bool IsOver() const { return ended_ || !IsWindow(window_); }
   void Pump();
+  void CloseUnseen();
   void EnableOwner();
   void Close();
   void RestoreFocus();
@@ -32,5 +33,6 @@ struct ModalRun {
   HWND owner_;  // the top-level window that was disabled, if any
   HWND focus_;
   bool ended_ = false;
+  bool wasClosed_ = false;  // asked to close because nobody sees it
   std::intptr_t result_ = -1;
 };

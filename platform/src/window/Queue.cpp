@@ -1,5 +1,6 @@
 #include "window/Queue.h"
 
+#include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <optional>
@@ -18,6 +19,8 @@ struct PostedMessages {
   std::mutex mutex;
   std::deque<MSG> messages;
   display::Display* waiting = nullptr;  // to be woken
+  int expected = 0;                     // threads that will still post
+  std::condition_variable changed;
 };
 
 // Posting threads may outlive the statics of the main thread, so this is never destroyed.
@@ -103,11 +106,26 @@ class Waiting {
   Waiting& operator=(const Waiting&) = delete;
 };
 
+// Until a thread posts, or none will any more: then false.
+bool WaitForPost() {
+  PostedMessages& posted = Posted();
+  std::unique_lock lock(posted.mutex);
+  posted.changed.wait(lock, [&] { return !posted.messages.empty() || posted.expected == 0; });
+  return !posted.messages.empty();
+}
+
 // False when nothing can happen any more.
 bool WaitForMessage() {
   Waiting waiting;
   if (HasPosted()) return true;
-  return display::Current().Wait(Deadline()) || HasPosted();
+  return display::Current().Wait(Deadline()) || WaitForPost();
+}
+
+void ExpectMore(int change) {
+  PostedMessages& posted = Posted();
+  std::lock_guard lock(posted.mutex);
+  posted.expected += change;
+  posted.changed.notify_one();
 }
 
 }  // namespace
@@ -125,7 +143,16 @@ BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   std::lock_guard lock(posted.mutex);
   posted.messages.push_back({window, message, wParam, lParam, 0, {}});
   if (posted.waiting) posted.waiting->Wake();
+  posted.changed.notify_one();
   return TRUE;
+}
+
+void ExpectPosts() {
+  core::ExpectMore(1);
+}
+
+void ExpectNoMorePosts() {
+  core::ExpectMore(-1);
 }
 
 void PostQuitMessage(int exitCode) {

@@ -44,4 +44,8 @@ void BaseDialogMFC::OnCancel() {
   impl_.OnCloseRequest();
 }
 
+int BaseDialogMFC::ClosedResult() const {
+  return Dialog::Rejected;
+}
+
 }  // namespace Wexa

@@ -12,6 +12,7 @@ class BaseDialogMFC : public CDialogEx, public InputWatch {
   explicit BaseDialogMFC(Dialog::impl& impl) : impl_(impl) {}
   Dialog::impl& Impl() { return impl_; }
   BOOL PreTranslateMessage(MSG* message) override;
+  int ClosedResult() const override;
   void OnInputWithin(BaseGUIObject& widget, HWND window, UINT message) override;
   void OnUntakenInputWithin(BaseGUIObject& widget, HWND window, UINT message) override;
 

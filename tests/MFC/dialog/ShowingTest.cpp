@@ -69,6 +69,27 @@ TEST_F(DialogTest, WithoutASystemMenuOnlyDoneEndsIt) {
   EXPECT_EQ(dialog.DoModal(), kOwnState);
 }
 
+TEST_F(DialogTest, WhereNobodyCanEndItItIsClosed) {
+  EXPECT_EQ(Scripted(ColumnForm(LineEdit("edit"))).DoModal(), Dialog::Rejected);
+  EXPECT_EQ(Scripted(ColumnForm(LineEdit("edit")), kNoSystemMenu).DoModal(), Dialog::Rejected);
+  auto& refusing = Scripted(ColumnForm(LineEdit("edit")));
+  int asked = 0;
+  refusing.filter = [&asked](int) { return ++asked, -1; };
+  EXPECT_EQ(refusing.DoModal(), Dialog::Rejected);
+  EXPECT_EQ(asked, 1);
+}
+
+TEST_F(DialogTest, ThatNobodySeesADialogIsSaidOnce) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto showTwice = [this] {
+    Scripted(FormXml("", 300, 200)).DoModal();
+    Scripted(FormXml("", 300, 200)).DoModal();
+    std::_Exit(0);
+  };
+  EXPECT_EXIT(showTwice(), testing::ExitedWithCode(0),
+              "^A dialog was closed because nobody can see it: [^\n]*\n$");
+}
+
 TEST_F(DialogTest, DoneWithoutAWindowThrows) {
   dialog_ = Make(ColumnForm(LineEdit("edit")));
   const auto end = [&] {
