@@ -45,7 +45,7 @@ class WEXA_API Rect {
   // -- Tests
   // ---------------------------------------------------------------------------------------
 
-  constexpr bool IsEmpty() const { return Width() <= 0 || Height() <= 0; }
+  constexpr bool IsEmpty() const { return rect_.IsEmpty(); }
   // All four edges are 0.
   constexpr bool IsNull() const { return *this == Rect(); }
   constexpr bool Contains(const Point& p) const {

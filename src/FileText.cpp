@@ -1,5 +1,7 @@
 #include "FileText.h"
 
+#include <utf8.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -8,13 +10,47 @@
 
 namespace Wexa {
 
+namespace {
+
+// A byte of a path that belongs to no character, as half of a pair that no text has.
+constexpr wchar_t kForeignByte = 0xDC00;
+
+bool IsForeign(wchar_t c) {
+  return c >= kForeignByte + 0x80 && c <= kForeignByte + 0xFF;
+}
+
+}  // namespace
+
 std::string NativePath(std::string path) {
   std::ranges::replace(path, '\\', '/');
   return path;
 }
 
 std::string NativePath(const std::wstring& path) {
-  return NativePath(NarrowUtf8(path));
+  std::string native;
+  native.reserve(path.size());
+  for (const wchar_t c : path) {
+    if (IsForeign(c)) {
+      native += static_cast<char>(c);
+    } else {
+      native += NarrowUtf8({&c, 1});
+    }
+  }
+  return NativePath(std::move(native));
+}
+
+std::wstring WidePath(std::string_view native) {
+  std::wstring path;
+  while (!native.empty()) {
+    const auto end = utf8::find_invalid(native.begin(), native.end());
+    const auto valid = static_cast<std::size_t>(end - native.begin());
+    path += *WidenUtf8(native.substr(0, valid));
+    native.remove_prefix(valid);
+    if (native.empty()) break;
+    path += static_cast<wchar_t>(kForeignByte | static_cast<unsigned char>(native.front()));
+    native.remove_prefix(1);
+  }
+  return path;
 }
 
 bool IsFileTooLarge(const std::wstring& path) {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace Wexa {
 
@@ -18,5 +19,7 @@ bool IsFileTooLarge(const std::wstring& path);
 // The path as the file system wants it.
 std::string NativePath(const std::wstring& path);
 std::string NativePath(std::string path);
+// The way back, for any path: bytes that are not UTF-8 come as U+DC80 to U+DCFF.
+std::wstring WidePath(std::string_view native);
 
 }  // namespace Wexa

@@ -18,9 +18,9 @@ namespace {
 std::wstring ExecutableDirectory() {
   std::error_code error;
   const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-  const auto path = WidenUtf8(program.string());
-  if (error || !path) throw WexaException("src/WexaConfig", __LINE__, "Cannot get modul's path.");
-  return path->substr(0, path->rfind(L'/') + 1);
+  if (error) throw WexaException("src/WexaConfig", __LINE__, "Cannot get modul's path.");
+  const std::wstring path = WidePath(program.native());
+  return path.substr(0, path.rfind(L'/') + 1);
 }
 
 bool IsSeparator(wchar_t c) {

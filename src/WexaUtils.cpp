@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -127,10 +128,13 @@ namespace {
 
 constexpr int kPointsPerPica = 12;
 
-// A double as a 32-bit integer; the nearest one for values outside its range.
-int ToInt(double value) {
+// A double as an integer, cut toward zero; the nearest one for values outside its range.
+template <typename Integer>
+Integer To(double value) {
+  constexpr double kBeyond = -static_cast<double>(std::numeric_limits<Integer>::min());
   if (std::isnan(value)) return 0;
-  return static_cast<int>(std::clamp(value, -2147483648.0, 2147483647.0));
+  if (value >= kBeyond) return std::numeric_limits<Integer>::max();
+  return static_cast<Integer>(std::max(value, -kBeyond));
 }
 
 // Wraps around, so that no length overflows.
@@ -141,7 +145,7 @@ std::int64_t Sum(std::int64_t a, std::int64_t b) {
 }  // namespace
 
 PicaPoint WexaUtils::ConvertToPicaPoint(PicaPoint value) {
-  const int carry = ToInt(value.point) / kPointsPerPica;
+  const std::int64_t carry = To<std::int64_t>(value.point) / kPointsPerPica;
   if (carry < 1) return value;
   const double rest = std::fmod(value.point, kPointsPerPica);
   const bool positive = value.pica >= 0 && value.point >= 0;
@@ -151,7 +155,7 @@ PicaPoint WexaUtils::ConvertToPicaPoint(PicaPoint value) {
 PicaPoint WexaUtils::DoubleToPica(double picas) {
   double whole = 0;
   const double fraction = std::modf(picas, &whole);
-  return {ToInt(whole), fraction * kPointsPerPica};
+  return {To<std::int32_t>(whole), fraction * kPointsPerPica};
 }
 
 double WexaUtils::PicaToDouble(PicaPoint value) {

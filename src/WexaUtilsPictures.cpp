@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <limits>
 #include <memory>
 #include <span>
 
@@ -13,8 +12,6 @@
 
 namespace {
 
-constexpr int kMostBytes = std::numeric_limits<int>::max();
-
 std::span<const BYTE> BytesOf(const unsigned char* data, int size) {
   return data && size > 0 ? std::span<const BYTE>(data, static_cast<std::size_t>(size))
                           : std::span<const BYTE>();
@@ -24,9 +21,8 @@ std::span<const BYTE> BytesOf(const unsigned char* data, int size) {
 
 unsigned char* WexaUtils::LoadImageBuffer(const std::wstring& path, int* size) {
   const auto bytes = Wexa::ReadFile(path);
-  const bool fits = bytes && bytes->size() <= kMostBytes;
-  if (size) *size = fits ? static_cast<int>(bytes->size()) : 0;
-  if (!fits) return nullptr;
+  if (size) *size = bytes ? static_cast<int>(bytes->size()) : 0;
+  if (!bytes) return nullptr;
   auto buffer = std::make_unique<unsigned char[]>(bytes->size());
   std::ranges::copy(*bytes, buffer.get());
   return buffer.release();

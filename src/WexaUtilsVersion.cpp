@@ -1,5 +1,8 @@
 #include <dlfcn.h>
+#include <link.h>
+#include <filesystem>
 #include <memory>
+#include <utility>
 
 #include "FileText.h"
 #include "Utf8.h"
@@ -29,16 +32,37 @@ struct ModuleRelease {
   void operator()(void* module) const { dlclose(module); }
 };
 
-// Null for a module that is not loaded already.
-std::unique_ptr<void, ModuleRelease> LoadedModule(const std::wstring& name) {
-  return std::unique_ptr<void, ModuleRelease>(
-      dlopen(Wexa::NativePath(name).c_str(), RTLD_LAZY | RTLD_NOLOAD));
+using Module = std::unique_ptr<void, ModuleRelease>;
+
+// The path that a module of this file name was loaded by; empty when there is none.
+std::string PathOfLoaded(const std::string& fileName) {
+  std::pair<const std::string&, std::string> search(fileName, {});
+  const auto look = [](dl_phdr_info* module, std::size_t, void* data) {
+    auto& [wanted, path] = *static_cast<decltype(search)*>(data);
+    if (std::filesystem::path(module->dlpi_name).filename() != wanted) return 0;
+    path = module->dlpi_name;
+    return 1;
+  };
+  dl_iterate_phdr(look, &search);
+  return search.second;
+}
+
+// Null for a module that is not loaded already. The loader knows one by its path or by the name
+// that it gives itself, which it may lack.
+Module LoadedModule(const std::string& name) {
+  const auto find = [](const std::string& path) {
+    return Module(dlopen(path.c_str(), RTLD_LAZY | RTLD_NOLOAD));
+  };
+  Module module = find(name);
+  if (module || name.empty() || name.find('/') != name.npos) return module;
+  const std::string path = PathOfLoaded(name);
+  return path.empty() ? nullptr : find(path);
 }
 
 }  // namespace
 
 unsigned long WexaUtils::GetVersion(const std::wstring& moduleName) {
-  const auto module = LoadedModule(moduleName);
+  const auto module = LoadedModule(Wexa::NativePath(moduleName));
   void* symbol = module ? dlsym(module.get(), "DllGetVersion") : nullptr;
   DLLVERSIONINFO info{sizeof(DLLVERSIONINFO), 0, 0, 0, 0};
   if (!symbol || reinterpret_cast<DllGetVersionProcedure>(symbol)(&info) < 0) return 0;

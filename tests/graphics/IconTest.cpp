@@ -47,6 +47,14 @@ TEST(Icon, IndexedImagesTakeTheirColorsFromThePalette) {
   }
 }
 
+TEST(Icon, SixteenBitsHoldFiveOfEachColor) {
+  const Opened icon(
+      IconImageBytes(3, 2, 16, [](int x, int y) { return x == 2 && y == 1 ? 0xFC10u : 0u; }));
+  ASSERT_TRUE(icon.exists);
+  EXPECT_EQ(icon.ColorAt(2, 1), 0xFFFF0084u);
+  EXPECT_EQ(icon.ColorAt(0, 0), 0xFF000000u);
+}
+
 TEST(Icon, AnIndexBeyondThePaletteIsBlack) {
   EXPECT_EQ(Opened(IconImageBytes(2, 2, 8, Always(200), Always(0), {1, 2})).ColorAt(0, 0),
             0xFF000000u);

@@ -52,6 +52,13 @@ TEST(PixelRegion, AlgebraAgreesWithSetsOfPixels) {
   }
 }
 
+TEST(PixelRegion, NothingIsTheSameEverywhere) {
+  const PixelRegion apart = PixelRegion(RECT{5, 5, 9, 9}).Intersect(RECT{20, 20, 30, 30});
+  EXPECT_TRUE(apart == PixelRegion());
+  EXPECT_TRUE(PixelRegion(RECT{5, 5, 9, 9}).Subtract(RECT{0, 0, 9, 9}).Move(3, 3) == apart);
+  EXPECT_FALSE(apart == PixelRegion(RECT{5, 5, 9, 9}));
+}
+
 TEST(PixelRegion, BandsCoverEachPixelOnce) {
   PixelRegion region(RECT{0, 0, 10, 10});
   region.Subtract(RECT{2, 2, 5, 5});

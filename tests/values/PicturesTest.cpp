@@ -168,10 +168,17 @@ TEST(Pictures, AFileIsReadWhole) {
   std::filesystem::remove(path);
 }
 
-TEST(Pictures, AMissingFileGivesNothing) {
-  int size = -1;
-  EXPECT_EQ(WexaUtils::LoadImageBuffer(L"no\\such\\file.png", &size), nullptr);
-  EXPECT_EQ(size, 0);
+TEST(Pictures, AFileThatIsMissingOrTooBigGivesNothing) {
+  const std::string path = testing::TempDir() + "wexa-picture";
+  std::ofstream(path) << "GIF8";
+  std::filesystem::resize_file(path, std::uintmax_t{1} << 31);  // all but the start takes no room
+  for (const auto& file :
+       {std::wstring(L"no\\such\\file.png"), std::wstring(path.begin(), path.end())}) {
+    int size = -1;
+    EXPECT_EQ(WexaUtils::LoadImageBuffer(file, &size), nullptr);
+    EXPECT_EQ(size, 0);
+  }
+  std::filesystem::remove(path);
 }
 
 }  // namespace

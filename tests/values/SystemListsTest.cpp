@@ -50,6 +50,7 @@ TEST(ModuleVersion, IsToldByAModuleThatIsLoaded) {
   void* module = dlopen(path.c_str(), RTLD_NOW);
   ASSERT_TRUE(module) << dlerror();
   EXPECT_EQ(WexaUtils::GetVersion(name), 6u << 16 | 10u);
+  EXPECT_EQ(WexaUtils::GetVersion(name.substr(name.rfind(L'/') + 1)), 6u << 16 | 10u);
   dlclose(module);
   EXPECT_EQ(WexaUtils::GetVersion(name), 0u) << "asking did not keep it";
   EXPECT_EQ(WexaUtils::GetVersion(L"libc.so.6"), 0u) << "it does not tell";

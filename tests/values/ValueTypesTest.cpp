@@ -47,6 +47,7 @@ TEST(Rect, RightAndBottomAreOutside) {
 TEST(Rect, EmptyIsNotNull) {
   EXPECT_TRUE(Rect(1, 1, 0, 5).IsEmpty());
   EXPECT_TRUE(Rect(1, 1, -1, 5).IsEmpty());
+  EXPECT_FALSE(Rect(POINT{-2000000000, 0}, POINT{2000000000, 1}).IsEmpty());
   EXPECT_FALSE(Rect(1, 1, 0, 5).IsNull());
   EXPECT_TRUE(Rect().IsNull());
 }

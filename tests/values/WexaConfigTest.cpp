@@ -28,6 +28,12 @@ TEST(WexaConfig, WorksInTheDirectoryOfTheHost) {
   EXPECT_EQ(GetWorkingDirPath(), WidenUtf8(program));
 }
 
+TEST(WexaConfig, PathsThatAreNotUtf8KeepTheirBytes) {
+  const std::string path = "/\xC3\xA9/\xFF\x80/a\xC3";
+  EXPECT_EQ(WidePath(path), L"/\u00E9/\xDCFF\xDC80/a\xDCC3");
+  EXPECT_EQ(NativePath(WidePath(path)), path);
+}
+
 TEST(WexaConfig, FindsTheDirectoriesOfAComponent) {
   const auto before = GetWorkingDirPath();
   SetWorkingDirPath(L"C:\\App\\");

@@ -87,6 +87,9 @@ TEST(WexaUtils, PicasHaveTwelvePoints) {
   ExpectPica(WexaUtils::ConvertToPicaPoint({-1, 30}), -3, 6);
   ExpectPica(WexaUtils::ConvertToPicaPoint({1, 11.5}), 1, 11.5);
   ExpectPica(WexaUtils::ConvertToPicaPoint({0, -30}), 0, -30);
+  ExpectPica(WexaUtils::ConvertToPicaPoint({1, 36e9}), 3000000001, 0);
+  ExpectPica(WexaUtils::DoubleToPica(3e9), 2147483647, 0);
+  EXPECT_DOUBLE_EQ(WexaUtils::PicaToDouble({0, 36e9}), 3e9);
   EXPECT_DOUBLE_EQ(WexaUtils::PicaToDouble({0, 30}), 2.5);
   EXPECT_DOUBLE_EQ(WexaUtils::PicaToDouble({-2, 6}), -2.5);
   EXPECT_DOUBLE_EQ(WexaUtils::PicaToDouble({0, -30}), -2.5);

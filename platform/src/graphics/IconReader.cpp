@@ -38,7 +38,7 @@ std::size_t RowBytes(int width, int depth) {
 }
 
 bool IsDepth(std::uint32_t depth) {
-  return depth == 1 || depth == 4 || depth == 8 || depth == 24 || depth == 32;
+  return depth == 1 || depth == 4 || depth == 8 || depth == 16 || depth == 24 || depth == 32;
 }
 
 std::optional<Layout> ReadHeader(Bytes bytes) {
@@ -67,10 +67,20 @@ std::uint32_t Indexed(Bytes bytes, const Layout& layout, Bytes row, int x) {
   return index < layout.colorCount ? kOpaque | Number(bytes, kHeaderSize + index * 4, 3) : kOpaque;
 }
 
+// Five bits a colour, below a bit without meaning.
+std::uint32_t FromFiveBits(std::uint32_t pixel) {
+  const auto channel = [pixel](int shift) {
+    const std::uint32_t five = pixel >> shift & 0x1F;
+    return five << 3 | five >> 2;
+  };
+  return kOpaque | channel(10) << 16 | channel(5) << 8 | channel(0);
+}
+
 std::uint32_t PixelAt(Bytes bytes, const Layout& layout, Bytes row, int x) {
   const auto column = static_cast<std::size_t>(x);
   if (layout.depth == 32) return Number(row, column * 4);
   if (layout.depth == 24) return kOpaque | Number(row, column * 3, 3);
+  if (layout.depth == 16) return FromFiveBits(Number(row, column * 2, 2));
   return Indexed(bytes, layout, row, x);
 }
 

@@ -105,6 +105,7 @@ std::span<const RECT> PixelRegion::Rects() const {
 }
 
 bool PixelRegion::operator==(const PixelRegion& other) const {
+  if (IsEmpty() || other.IsEmpty()) return IsEmpty() == other.IsEmpty();  // wherever they are empty
   return pixman_region32_equal(Operand(region_), Operand(other.region_));
 }
 

@@ -1,6 +1,7 @@
 #include "MFC/WidgetPictures.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdint>
 
 #include "MFC/BaseImplMFC.h"
@@ -21,20 +22,25 @@ WexaUtils::ImageTypes TypeOf(const std::wstring& path) {
                                    : WexaUtils::WstrToImageType(path.substr(dot));
 }
 
+int Clamped(std::int64_t value) {
+  return static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX));
+}
+
 // value * numerator / denominator, for positive numbers rounded down; 0 where nothing is to share.
 int Portion(int value, int numerator, int denominator) {
-  return denominator > 0 ? static_cast<int>(std::int64_t{value} * numerator / denominator) : 0;
+  return denominator > 0 ? Clamped(std::int64_t{value} * numerator / denominator) : 0;
 }
 
 }  // namespace
 
 CSize ScaledPictureSize(CSize picture, WexaUtils::ScalePicture mode, const CRect& area) {
+  const int width = Clamped(std::int64_t{area.right} - area.left);
+  const int height = Clamped(std::int64_t{area.bottom} - area.top);
   switch (mode) {
     case WexaUtils::KeepSize: return picture;
-    case WexaUtils::FitHeight:
-      return {Portion(area.Height(), picture.cx, picture.cy), area.Height()};
-    case WexaUtils::FitWidth: return {area.Width(), Portion(area.Width(), picture.cy, picture.cx)};
-    case WexaUtils::FillTarget: return {area.Width(), area.Height()};
+    case WexaUtils::FitHeight: return {Portion(height, picture.cx, picture.cy), height};
+    case WexaUtils::FitWidth: return {width, Portion(width, picture.cy, picture.cx)};
+    case WexaUtils::FillTarget: return {width, height};
     default: return {Scale(picture.cx), Scale(picture.cy)};
   }
 }

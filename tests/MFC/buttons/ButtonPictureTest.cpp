@@ -225,10 +225,14 @@ TEST_F(ScaleBitmapTest, ABitmapThatFitsStaysTheSame) {
 TEST_F(ScaleBitmapTest, NothingComesOfNothing) {
   EXPECT_EQ(WexaUtils::ScaleBitmap(nullptr, WexaUtils::KeepSize, RECT{}, nullptr), nullptr);
   UniqueBitmap bitmap(CreateBitmap(20, 10, 32));
-  for (const RECT target : {RECT{}, RECT{9, 9, 0, 0}, RECT{0, 0, 1 << 30, 1 << 30}}) {
-    EXPECT_EQ(WexaUtils::ScaleBitmap(bitmap.get(), WexaUtils::FillTarget, target, nullptr),
-              nullptr);
-  }
+  const RECT targets[] = {{},
+                          {9, 9, 0, 0},
+                          {0, 0, 1 << 30, 1 << 30},
+                          {INT_MIN, INT_MIN, INT_MAX, INT_MAX},
+                          {INT_MAX, INT_MAX, INT_MIN, INT_MIN}};
+  for (const auto mode : {WexaUtils::FillTarget, WexaUtils::FitWidth, WexaUtils::FitHeight})
+    for (const RECT& target : targets)
+      EXPECT_EQ(WexaUtils::ScaleBitmap(bitmap.get(), mode, target, nullptr), nullptr);
 }
 
 }  // namespace
