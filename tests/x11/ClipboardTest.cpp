@@ -173,5 +173,19 @@ TEST_F(X11ClipboardTest, NoOwnerIsNoText) {
   EXPECT_EQ(display_->ClipboardText(), L"");
 }
 
+TEST_F(X11ClipboardTest, AnOwnerThatHangsIsAskedOnce) {
+  xcb_connection_t* hung = person_.Connection();
+  xcb_set_selection_owner(hung, person_.CreateWindow(), person_.Atom("CLIPBOARD"),
+                          XCB_CURRENT_TIME);
+  person_.Sync();
+  EXPECT_EQ(display_->ClipboardText(), L"");
+  int requests = 0;
+  while (xcb_generic_event_t* event = xcb_poll_for_event(hung)) {
+    if ((event->response_type & 0x7F) == XCB_SELECTION_REQUEST) ++requests;
+    std::free(event);
+  }
+  EXPECT_EQ(requests, 1);
+}
+
 }  // namespace
 }  // namespace display

@@ -22,7 +22,8 @@ void Clipboard::Own(const std::wstring& text, xcb_timestamp_t time) {
 std::wstring Clipboard::Ask(xcb_timestamp_t time, const std::function<void(std::uint64_t)>& pump) {
   if (owned_) return text_;
   if (AskAs(connection_[Atom::Utf8String], time, pump)) return Widen(FromUtf8(reader_.Bytes()));
-  if (AskAs(XCB_ATOM_STRING, time, pump)) return FromLatin1(reader_.Bytes());
+  if (reader_.WasRefused() && AskAs(XCB_ATOM_STRING, time, pump))
+    return FromLatin1(reader_.Bytes());
   return {};
 }
 
@@ -37,9 +38,8 @@ bool Clipboard::AskAs(xcb_atom_t type, xcb_timestamp_t time,
     if (reader_.Bytes().size() != length) deadline = Waker::Now() + kPatience;
     length = reader_.Bytes().size();
   }
-  const bool done = reader_.IsDone();
-  reader_.Abandon();
-  return done;
+  if (reader_.IsOpen()) reader_.Abandon();
+  return reader_.IsDone();
 }
 
 void Clipboard::Lost(const xcb_selection_clear_event_t& event) {

@@ -24,6 +24,7 @@ class SelectionReader {
   void Abandon() { state_ = State::None; }
   bool IsOpen() const { return state_ == State::Waiting || state_ == State::InPieces; }
   bool IsDone() const { return state_ == State::Done; }
+  bool WasRefused() const { return state_ == State::Refused; }
   // What has come so far.
   const std::string& Bytes() const { return bytes_; }
 

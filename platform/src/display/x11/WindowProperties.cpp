@@ -88,7 +88,10 @@ void WriteIdentity(Connection& connection, xcb_window_t window, SurfaceKind kind
   WriteDropTarget(connection, window);
 }
 
-void WriteTitle(Connection& connection, xcb_window_t window, const std::wstring& title) {
+// Window managers and their lists show no more than the start of a long one.
+void WriteTitle(Connection& connection, xcb_window_t window, const std::wstring& whole) {
+  constexpr std::size_t kMostCharacters = 4096;
+  const std::wstring title = whole.substr(0, kMostCharacters);
   const std::string plain = ToLatin1(title);
   xcb_icccm_set_wm_name(connection.Get(), window, XCB_ATOM_STRING, 8,
                         static_cast<std::uint32_t>(plain.size()), plain.data());
