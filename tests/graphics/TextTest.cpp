@@ -57,6 +57,20 @@ TEST(TextExtent, LongTextsAreMeasuredWhole) {
   EXPECT_GE(WidthOf(word), 1000 * WidthOf(L"x") - 1000);
 }
 
+// Measured whole, each of these would take seconds.
+TEST(TextExtent, CountsOnlyWhatASurfaceHasRoomFor) {
+  for (const wchar_t letter : {L'x', L'\u0416'}) {
+    const std::wstring word(10000000, letter);
+    EXPECT_EQ(WidthOf(word), WidthOf(word.substr(0, 16384)));
+    EXPECT_GT(WidthOf(word), 16384);
+    EXPECT_EQ(GetTextExtent(nullptr, word, 100, DT_WORDBREAK).cy, LineHeight());
+    InkOf(word, CRect(0, 0, 200, 20), kCentred | DT_END_ELLIPSIS);
+  }
+  std::wstring words;
+  for (int i = 0; i < 2000000; ++i) words += L"word ";
+  EXPECT_GT(GetTextExtent(nullptr, words, 300, DT_WORDBREAK).cy, 16384);
+}
+
 TEST(TextExtent, AnyCharacterIsHarmless) {
   std::wstring odd{L'a', wchar_t{0}, wchar_t{0xD800}, wchar_t{0x7FFFFFFF}, wchar_t{0xFFFE}, L'\t'};
   EXPECT_GT(WidthOf(odd), WidthOf(L"a"));

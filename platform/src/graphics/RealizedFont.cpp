@@ -81,12 +81,14 @@ bool RealizedFont::CanComposeWords(std::wstring_view text, BaseDirection directi
 }
 
 int RealizedFont::Width(std::wstring_view text, BaseDirection direction) {
+  text = text.substr(0, kMostSeen);
   int width = 0;
   if (CanComposeWords(text, direction) && words_.AddWidth(text, width)) return width;
   return Shape(text, direction).Width();
 }
 
 const ShapedLine& RealizedFont::Shape(std::wstring_view text, BaseDirection direction) {
+  text = text.substr(0, kMostSeen);
   if (text.size() > kMaxLineLength) return longLine_ = MakeLine(text, direction);
   TextMap<ShapedLine>& lines = lines_[static_cast<std::size_t>(direction)];
   if (auto found = lines.find(text); found != lines.end()) return found->second;

@@ -45,6 +45,8 @@ class RealizedFont {
   bool HasUnderline() const { return underline_; }
   bool HasStrikeOut() const { return strikeOut_; }
 
+  // What lies beyond the first kMostSeen characters counts for nothing: no surface is that wide.
+  static constexpr std::size_t kMostSeen = 16384;
   // Valid until the next call.
   const ShapedLine& Shape(std::wstring_view text, BaseDirection direction);
   int Width(std::wstring_view text, BaseDirection direction);

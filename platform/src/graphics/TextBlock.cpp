@@ -34,6 +34,8 @@ TextBlock::TextBlock(RealizedFont& font, std::wstring_view text, int width, UINT
       width_(width),
       format_(format),
       direction_(format & DT_RTLREADING ? BaseDirection::RightToLeft : BaseDirection::FirstStrong) {
+  constexpr std::size_t kMostSeen = 1 << 20;  // more characters than any surface has room for
+  text = text.substr(0, kMostSeen);
   bool marked = !(format & DT_NOPREFIX) && text.find(L'&') != text.npos;
   if (marked) TakeOutMarks(text);
   AddParagraphs(marked ? std::wstring_view(withoutMarks_) : text);
@@ -85,6 +87,7 @@ void TextBlock::Wrap(std::wstring_view paragraph) {
 }
 
 void TextBlock::AddLine(std::wstring_view text) {
+  text = text.substr(0, RealizedFont::kMostSeen);
   Line line{text, WidthOf(text)};
   if (mnemonic_ != kNone && withoutMarks_.data() + mnemonic_ >= text.data()) {
     auto place = static_cast<std::size_t>(withoutMarks_.data() + mnemonic_ - text.data());
@@ -98,13 +101,21 @@ void TextBlock::AddLine(std::wstring_view text) {
   lines_.push_back(line);
 }
 
-// As much of the text as fits in front of an ellipsis.
+// As much of the text as fits in front of an ellipsis. The first guesses are short: far more text
+// than fits would take long to measure.
 std::wstring_view TextBlock::Shortened(std::wstring_view text) {
+  constexpr std::size_t kGuess = 64;
   auto cut = [&](std::size_t length) { return std::wstring(text.substr(0, length)) + kEllipsis; };
+  auto isTooLong = [&](std::size_t length) { return WidthOf(cut(length)) > width_; };
   std::size_t fits = 0;
-  for (std::size_t tooLong = text.size(); tooLong - fits > 1;) {
+  std::size_t tooLong = std::min(kGuess, text.size());
+  while (tooLong < text.size() && !isTooLong(tooLong)) {
+    fits = tooLong;
+    tooLong = std::min(2 * tooLong, text.size());
+  }
+  while (tooLong - fits > 1) {
     std::size_t middle = fits + (tooLong - fits) / 2;
-    (WidthOf(cut(middle)) <= width_ ? fits : tooLong) = middle;
+    (isTooLong(middle) ? tooLong : fits) = middle;
   }
   while (fits > 0 && IsInsideCluster(text, fits)) --fits;
   return shortened_.emplace_back(cut(fits));
