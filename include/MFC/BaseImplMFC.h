@@ -84,7 +84,7 @@ class BaseImplMFC : public BaseImpl {
                         bool closesInTime) override;
   bool HideBalloonTip() override;
   bool IsBalloonTipDisplayed() override;
-  // The window is due to be painted.
+  // The widget and those in it are due to be painted, once however many slots change before.
   void OnSkinColorsChanged() override;
   HWND GetHandle() override;
 
@@ -97,7 +97,8 @@ class BaseImplMFC : public BaseImpl {
   bool PostLayoutRequest() override;
   int ParentScrollOffset() override;
   void SetFixedSize(Size size) override;
-  void RefreshSkinColors() override {}
+  // With the windows that are parts of the widget.
+  void RefreshSkinColors() override;
   bool Create(HWND parent) override;
   SkinManager& GetSkinManager() override { return skinManager_; }
   bool SetSkinMode(SkinMode mode, bool repaint) override;
@@ -127,8 +128,8 @@ class BaseImplMFC : public BaseImpl {
   virtual void OnSystemColorsChanged() {}
   // The native window is going: what the user entered stays readable.
   virtual void KeepState();
-  // The colours the native control paints with, from the skin.
-  virtual void FillPalette(ControlPalette& palette);
+  // What the widget's window paints with: the one place where slots become a palette.
+  void ReadPalette(ControlPalette& palette);
   // The colour the widget gives what stands on it.
   virtual COLORREF BackgroundColor();
   // The window that a child widget's window is made in.
@@ -151,6 +152,8 @@ class BaseImplMFC : public BaseImpl {
   virtual bool CreateNative(CWnd* parent) = 0;
   // The window object, or the "Control is not valid." exception.
   CWnd& Window();
+  // Puts the colours of the widget's family into a palette whose background is given.
+  virtual void FillPalette(ControlPalette& palette);
   // The creation rectangle in device pixels.
   CRect ScaledRect() const;
   // The window's text, or what it will be given.

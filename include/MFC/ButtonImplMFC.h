@@ -20,8 +20,6 @@ class Button::impl : public BaseImplMFC {
   CWnd* GetCWnd() override { return window_.get(); }
   Size IdealSize() override;
   Size MinimumIdealSize() override { return IdealSize(); }
-  void FillPalette(ControlPalette& palette) override;
-  void RefreshSkinColors() override;
   void Show(bool show, bool updateLayout) override;
 
   void SetText(const std::wstring& text);
@@ -54,6 +52,7 @@ class Button::impl : public BaseImplMFC {
 
  protected:
   bool CreateNative(CWnd* parent) override;
+  void FillPalette(ControlPalette& palette) override;
 
  private:
   bool CreateButton(const CRect& rect, DWORD style, CWnd* parent);

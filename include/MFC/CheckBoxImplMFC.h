@@ -13,8 +13,6 @@ class CheckBox::impl : public BaseImplMFC {
   CWnd* GetCWnd() override { return &window_; }
   Size IdealSize() override;
   Size MinimumIdealSize() override { return IdealSize(); }
-  void FillPalette(ControlPalette& palette) override;
-  void RefreshSkinColors() override;
   void KeepState() override;
 
   using BaseImplMFC::SetText;
@@ -33,6 +31,7 @@ class CheckBox::impl : public BaseImplMFC {
 
  protected:
   bool CreateNative(CWnd* parent) override;
+  void FillPalette(ControlPalette& palette) override;
 
  private:
   ButtonMFC<CheckBox> window_;

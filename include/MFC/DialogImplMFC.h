@@ -36,10 +36,7 @@ class Dialog::impl : public BaseImplMFC {
   void SetFixedSize(Size size) override;
   void MoveWindow(int x, int y, int width, int height, bool repaint) override;
   COLORREF BackgroundColor() override;
-  void FillPalette(ControlPalette& palette) override;
-  void OnSkinColorsChanged() override;
   void OnSystemColorsChanged() override;
-  void RefreshSkinColors() override;
   bool SetSkinMode(SkinMode mode, bool repaint) override;
   void SetCustomSkin(const SkinManager& skin, bool update);
 

@@ -16,8 +16,6 @@ class Edit::impl : public BaseImplMFC {
   CWnd* GetCWnd() override;
   Size IdealSize() override;
   Size MinimumIdealSize() override;
-  void FillPalette(ControlPalette& palette) override;
-  void RefreshSkinColors() override;
 
   using BaseImplMFC::Text;
   void SetText(const std::wstring& text);
@@ -37,6 +35,7 @@ class Edit::impl : public BaseImplMFC {
 
  protected:
   bool CreateNative(CWnd* parent) override;
+  void FillPalette(ControlPalette& palette) override;
 
  private:
   class EditMFC;

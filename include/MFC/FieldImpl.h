@@ -11,11 +11,10 @@ namespace Wexa {
 class FieldImpl : public PaintedImpl {
  public:
   explicit FieldImpl(BaseGUIObject* owner);
-  void FillPalette(ControlPalette& palette) override;
-  void RefreshSkinColors() override;
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
 
  protected:
+  void FillPalette(ControlPalette& palette) override;
   // Draws inside the field's padding.
   virtual void PaintContent(Painter& painter, const CRect& inner,
                             const ControlPalette& palette) = 0;

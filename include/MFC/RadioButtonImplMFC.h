@@ -17,8 +17,6 @@ class RadioButton::impl : public BaseImplMFC {
   CWnd* GetCWnd() override { return &window_; }
   Size IdealSize() override;
   Size MinimumIdealSize() override { return IdealSize(); }
-  void FillPalette(ControlPalette& palette) override;
-  void RefreshSkinColors() override;
   void KeepState() override;
 
   using BaseImplMFC::SetText;
@@ -39,6 +37,7 @@ class RadioButton::impl : public BaseImplMFC {
 
  protected:
   bool CreateNative(CWnd* parent) override;
+  void FillPalette(ControlPalette& palette) override;
 
  private:
   unsigned CheckedIdOfGroup();

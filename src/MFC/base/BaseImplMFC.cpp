@@ -323,7 +323,13 @@ bool BaseImplMFC::SetSkinMode(SkinMode mode, bool repaint) {
 }
 
 void BaseImplMFC::OnSkinColorsChanged() {
-  if (!skinManager_.GetColorChangeFlag() && GetHandle()) Window().Invalidate();
+  if (!skinManager_.GetColorChangeFlag()) RefreshSkinColors();
+  for (BaseGUIObject* child : children_) child->GetSkinManager().SetColorChangeFlag(true);
+}
+
+void BaseImplMFC::RefreshSkinColors() {
+  if (!GetHandle()) return;
+  Window().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 COLORREF BaseImplMFC::BackgroundColor() {
@@ -331,9 +337,13 @@ COLORREF BaseImplMFC::BackgroundColor() {
   return parent ? parent->BackgroundColor() : DialogBackground(skinManager_);
 }
 
+void BaseImplMFC::ReadPalette(ControlPalette& palette) {
+  palette.background = BackgroundColor();
+  FillPalette(palette);
+}
+
 void BaseImplMFC::FillPalette(ControlPalette& palette) {
   FillCommonPalette(palette, skinManager_);
-  palette.background = BackgroundColor();
 }
 
 }  // namespace Wexa

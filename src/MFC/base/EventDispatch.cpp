@@ -298,7 +298,7 @@ class EventDispatch {
   // so that a host can draw over what its children painted.
   LRESULT OnPaint() {
     if (lParam_ == kPostPaint) return OnPostPaint();
-    impl_.GetSkinManager().UpdateCustomColors();
+    impl_.GetSkinManager().SetColorChangeFlag(false);  // what is painted is up to date
     bool handled = Offer(PaintEvent());
     if (!IsAlive()) return kHandled;
     LRESULT result = kHandled;
@@ -331,7 +331,7 @@ class EventDispatch {
   }
 
   LRESULT OnGetPalette() {
-    impl_.FillPalette(*reinterpret_cast<ControlPalette*>(lParam_));
+    impl_.ReadPalette(*reinterpret_cast<ControlPalette*>(lParam_));
     return kHandled;
   }
 

@@ -88,7 +88,6 @@ COLORREF SwapRedAndBlue(int color) {
 }
 
 void FillCommonPalette(ControlPalette& palette, const SkinManager& skin) {
-  palette.background = DialogBackground(skin);
   palette.face = palette.background;
   palette.disabledFace = palette.background;
   palette.text = SlotColor(skin, Slot::kDialogText);

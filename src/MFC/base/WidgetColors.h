@@ -76,7 +76,8 @@ COLORREF DialogBackground(const SkinManager& skin);
 // Between 0x00RRGGBB and 0x00BBGGRR.
 COLORREF SwapRedAndBlue(int color);
 
-// What all families share: selection, focus, dialog text. The other fills add to it.
+// What all families share: selection, focus, dialog text. The other fills add to it. The palette's
+// background is given: what the widget stands on.
 void FillCommonPalette(ControlPalette& palette, const SkinManager& skin);
 void FillButtonPalette(ControlPalette& palette, const SkinManager& skin);
 void FillCheckPalette(ControlPalette& palette, const SkinManager& skin);

@@ -143,13 +143,8 @@ void Button::impl::SetTextColors(std::optional<RGBColor> normal, std::optional<R
   if (GetHandle()) Repaint();
 }
 
-void Button::impl::RefreshSkinColors() {
-  if (GetHandle()) window_->Invalidate();
-}
-
 void Button::impl::FillPalette(ControlPalette& palette) {
   FillButtonPalette(palette, GetSkinManager());
-  palette.background = BackgroundColor();
   if (!faces_) return;
   bool isChecked = checkable_ && IsChecked();
   palette.face = Word((*faces_)[isChecked ? 4 : 0]);
@@ -164,7 +159,7 @@ void Button::impl::PaintOwnerDrawn() {
   CPaintDC dc(GetHandle());
   Painter painter(dc);
   ControlPalette palette = SystemPalette();
-  FillPalette(palette);
+  ReadPalette(palette);
   CRect client = window_->GetClientRect();
   UINT state = window_->GetState();
   ControlState look;

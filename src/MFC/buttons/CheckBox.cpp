@@ -85,11 +85,6 @@ void CheckBox::impl::SetTristate(bool tristate) {
 
 void CheckBox::impl::FillPalette(ControlPalette& palette) {
   FillCheckPalette(palette, GetSkinManager());
-  palette.background = BackgroundColor();
-}
-
-void CheckBox::impl::RefreshSkinColors() {
-  if (GetHandle()) window_.Invalidate();
 }
 
 void CheckBox::impl::KeepState() {

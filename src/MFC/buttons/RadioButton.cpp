@@ -104,11 +104,6 @@ bool RadioButton::impl::IsChecked() {
 
 void RadioButton::impl::FillPalette(ControlPalette& palette) {
   FillCheckPalette(palette, GetSkinManager());
-  palette.background = BackgroundColor();
-}
-
-void RadioButton::impl::RefreshSkinColors() {
-  if (GetHandle()) window_.Invalidate();
 }
 
 unsigned RadioButton::impl::CheckedIdOfGroup() {
@@ -151,7 +146,7 @@ void RadioButton::impl::PaintOwnerDrawn() {
   CPaintDC dc(GetHandle());
   Painter painter(dc);
   ControlPalette palette = SystemPalette();
-  FillPalette(palette);
+  ReadPalette(palette);
   CRect area = window_.GetClientRect();
   ControlState look = Look();
   look.hovered = IsMouseTracked();

@@ -91,11 +91,6 @@ class GroupBox::impl : public ContainerImpl {
     EnableChildren();
   }
 
-  void RefreshSkinColors() override {
-    ContainerImpl::RefreshSkinColors();
-    if (check_->GetSafeHwnd()) check_->Invalidate();
-  }
-
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
     ContainerImpl::Paint(painter, client, palette);
     ControlState state;
@@ -140,8 +135,8 @@ class GroupBox::impl : public ContainerImpl {
   bool IsOpen() { return (!isCheckable_ || isChecked_) && GetCWnd()->IsWindowEnabled(); }
 
   void FillCheckPalette(ControlPalette& palette) {
-    Wexa::FillCheckPalette(palette, GetSkinManager());
     palette.background = BackgroundColor();
+    Wexa::FillCheckPalette(palette, GetSkinManager());
   }
 
   // Disabling takes the focus away, and a handler of that may destroy the box.

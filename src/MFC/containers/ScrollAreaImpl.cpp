@@ -183,13 +183,6 @@ void ScrollArea::impl::Paint(Painter& painter, const CRect& client, const Contro
   if (isFramed_) painter.FrameRect(client, palette.border, Border());
 }
 
-void ScrollArea::impl::RefreshSkinColors() {
-  ContainerImpl::RefreshSkinColors();
-  for (CWnd* window : {static_cast<CWnd*>(&view_), static_cast<CWnd*>(vertical_.get()),
-                       static_cast<CWnd*>(horizontal_.get())})
-    if (window->GetSafeHwnd()) window->Invalidate();
-}
-
 // -- Input --------------------------------------------------------------------
 
 bool ScrollArea::impl::OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT& result) {

@@ -18,7 +18,6 @@ class ScrollArea::impl : public ContainerImpl {
   Size IdealSize() override;
   Size MinimumIdealSize() override;
   void UpdateLayout() override;
-  void RefreshSkinColors() override;
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
   bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
   bool OnPreTranslate(const MSG& message) override;

@@ -158,15 +158,6 @@ void Splitter::impl::GiveSizes(const std::list<int>& sizes) {
   UpdateLayout();
 }
 
-void Splitter::impl::RefreshSkinColors() {
-  ContainerImpl::RefreshSkinColors();
-  for (Pane& pane : panes_) {
-    if (!pane.window->GetSafeHwnd()) continue;
-    pane.window->Invalidate();
-    pane.handle->Invalidate();
-  }
-}
-
 // -- Arrangement --------------------------------------------------------------
 
 void Splitter::impl::UpdateLayout() {

@@ -20,7 +20,6 @@ class Splitter::impl : public ContainerImpl {
   Size IdealSize() override;
   Size MinimumIdealSize() override;
   void UpdateLayout() override;
-  void RefreshSkinColors() override;
   HWND HolderOf(const BaseGUIObject& view) override;
   void OnChildCreated(BaseGUIObject&) override { UpdateLayout(); }
   bool OnPreTranslate(const MSG& message) override;

@@ -90,17 +90,6 @@ class TabView::impl : public PagesImpl {
     PagesImpl::UpdateLayout();
   }
 
-  void RefreshSkinColors() override {
-    PagesImpl::RefreshSkinColors();
-    if (strip_->GetSafeHwnd()) strip_->Invalidate();
-  }
-
-  void FillPalette(ControlPalette& palette) override {
-    PagesImpl::FillPalette(palette);
-    palette.face = palette.background;
-    palette.hoverBorder = SlotColor(GetSkinManager(), Slot::kButtonHoverBorder);
-  }
-
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
     PagesImpl::Paint(painter, client, palette);
     painter.FrameRect(FrameOfPages(client), palette.border, Border());
@@ -136,6 +125,11 @@ class TabView::impl : public PagesImpl {
   }
 
  protected:
+  void FillPalette(ControlPalette& palette) override {
+    PagesImpl::FillPalette(palette);
+    palette.hoverBorder = SlotColor(GetSkinManager(), Slot::kButtonHoverBorder);
+  }
+
   bool CreateNative(CWnd* parent) override {
     if (!PagesImpl::CreateNative(parent)) return false;
     DWORD tabStop = Creation().style & WS_TABSTOP;

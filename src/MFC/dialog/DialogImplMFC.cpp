@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "Configuration.h"
-#include "MFC/ContainerImpl.h"
 #include "MFC/base/WidgetColors.h"
 #include "MFC/dialog/BaseDialogMFC.h"
 #include "MFC/tips/ToolTips.h"
@@ -227,15 +226,6 @@ COLORREF Dialog::impl::BackgroundColor() {
   return DialogBackground(GetSkinManager());
 }
 
-void Dialog::impl::FillPalette(ControlPalette& palette) {
-  FillCommonPalette(palette, GetSkinManager());
-}
-
-void Dialog::impl::OnSkinColorsChanged() {
-  BaseImplMFC::OnSkinColorsChanged();
-  PassSkinChange(Children());
-}
-
 // The window core has the dialog painted.
 void Dialog::impl::OnSystemColorsChanged() {
   WexaConfig::Instance().FollowSystemColors();
@@ -243,10 +233,6 @@ void Dialog::impl::OnSystemColorsChanged() {
   if (skin.GetRequestedMode() == SkinMode::XML) skin.SetParentSkinManager(KeyMapParent());
   skin.ReloadPalette();
   ReloadPalettesOf(Children());
-}
-
-void Dialog::impl::RefreshSkinColors() {
-  if (GetHandle()) window_->Invalidate();
 }
 
 bool Dialog::impl::SetSkinMode(SkinMode mode, bool repaint) {

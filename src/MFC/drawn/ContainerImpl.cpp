@@ -6,21 +6,8 @@
 
 namespace Wexa {
 
-void PassSkinChange(const std::vector<BaseGUIObject*>& children) {
-  for (BaseGUIObject* child : children) child->GetSkinManager().SetColorChangeFlag(true);
-}
-
 ContainerImpl::ContainerImpl(BaseGUIObject* owner) : PaintedImpl(owner) {
   Creation().exStyle |= WS_EX_CONTROLPARENT;
-}
-
-void ContainerImpl::OnSkinColorsChanged() {
-  PaintedImpl::OnSkinColorsChanged();
-  PassSkinChange(Children());
-}
-
-void ContainerImpl::RefreshSkinColors() {
-  if (GetHandle()) GetCWnd()->Invalidate();
 }
 
 void ContainerImpl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {

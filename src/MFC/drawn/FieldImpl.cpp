@@ -21,11 +21,6 @@ FieldImpl::FieldImpl(BaseGUIObject* owner) : PaintedImpl(owner) {}
 
 void FieldImpl::FillPalette(ControlPalette& palette) {
   FillInputPalette(palette, GetSkinManager());
-  palette.background = BackgroundColor();
-}
-
-void FieldImpl::RefreshSkinColors() {
-  if (GetHandle()) GetCWnd()->Invalidate();
 }
 
 bool FieldImpl::IsShownEnabled() {

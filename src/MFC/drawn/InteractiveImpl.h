@@ -13,9 +13,6 @@ class InteractiveImpl : public BaseImplMFC {
 
   CWnd* GetCWnd() override { return window_.get(); }
   InteractiveWnd& Shown() { return *window_; }
-  void RefreshSkinColors() override {
-    if (GetHandle()) window_->Invalidate();
-  }
 
  protected:
   bool CreateNative(CWnd* parent) override {

@@ -77,11 +77,6 @@ Size Edit::impl::MinimumIdealSize() {
 
 void Edit::impl::FillPalette(ControlPalette& palette) {
   FillInputPalette(palette, GetSkinManager());
-  palette.background = BackgroundColor();
-}
-
-void Edit::impl::RefreshSkinColors() {
-  if (GetHandle()) window_->Invalidate();
 }
 
 void Edit::impl::SetText(const std::wstring& text) {

@@ -53,11 +53,9 @@ class ProgressBar::impl : public PaintedImpl {
   void Refresh() {
     if (GetHandle()) GetCWnd()->Invalidate();
   }
-  void RefreshSkinColors() override { Refresh(); }
 
   void FillPalette(ControlPalette& palette) override {
     FillInputPalette(palette, GetSkinManager());
-    palette.background = BackgroundColor();
     if (GetCWnd()->IsWindowEnabled()) return;
     palette.accent = palette.disabledBorder;
     palette.text = palette.disabledText;

@@ -21,7 +21,6 @@ class SliderImpl : public RangeControl::impl {
 
   void FillPalette(ControlPalette& palette) override {
     FillInputPalette(palette, GetSkinManager());
-    palette.background = BackgroundColor();
   }
 
  protected:

@@ -114,7 +114,6 @@ class HyperLinkElement::impl : public InteractiveImpl {
 
   void FillPalette(ControlPalette& palette) override {
     FillLinkPalette(palette, GetSkinManager());
-    palette.background = BackgroundColor();
   }
 };
 

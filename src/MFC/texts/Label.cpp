@@ -63,14 +63,6 @@ class Label::impl : public BaseImplMFC {
     return HasHeightForWidth() ? Extent(std::max(width, 1)).cy : -1;
   }
 
-  void FillPalette(ControlPalette& palette) override {
-    FillCommonPalette(palette, GetSkinManager());
-    palette.background = BackgroundColor();
-  }
-  void RefreshSkinColors() override {
-    if (GetHandle()) window_.Invalidate();
-  }
-
   using BaseImplMFC::SetText;
   using BaseImplMFC::Text;
 

@@ -26,9 +26,6 @@ class Line::impl : public BaseImplMFC {
     palette.border = ReadableTint(GetSkinManager(), Slot::kSeparator, palette.border,
                                   palette.background, kVisible);
   }
-  void RefreshSkinColors() override {
-    if (GetHandle()) window_.Invalidate();
-  }
 
  protected:
   bool CreateNative(CWnd* parent) override {

@@ -19,6 +19,7 @@ using Fill = void (*)(ControlPalette&, const SkinManager&);
 
 ControlPalette PaletteOf(Fill fill, const SkinManager& skin) {
   ControlPalette palette{};
+  palette.background = DialogBackground(skin);
   fill(palette, skin);
   return palette;
 }
