@@ -10,6 +10,7 @@
 #include "platform/Classes.h"
 
 struct ControlPalette;
+struct ControlState;
 
 namespace Wexa {
 
@@ -130,6 +131,8 @@ class BaseImplMFC : public BaseImpl {
   virtual void KeepState();
   // What the widget's window paints with: the one place where slots become a palette.
   void ReadPalette(ControlPalette& palette);
+  // The state its window paints itself in, as the widget wants it.
+  virtual void RefineState(ControlState&) {}
   // The colour the widget gives what stands on it.
   virtual COLORREF BackgroundColor();
   // The window that a child widget's window is made in.

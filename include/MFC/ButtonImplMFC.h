@@ -21,6 +21,7 @@ class Button::impl : public BaseImplMFC {
   Size IdealSize() override;
   Size MinimumIdealSize() override { return IdealSize(); }
   void Show(bool show, bool updateLayout) override;
+  void RefineState(ControlState& state) override;
 
   void SetText(const std::wstring& text);
   std::wstring GetText() { return Text(); }
@@ -39,6 +40,7 @@ class Button::impl : public BaseImplMFC {
 
   // The dialog's default button, as its form says.
   bool isDefault = false;
+  // What changes the look of the button; RefreshSkinColors shows it.
   bool focusRectDisabled = false;
   int cornerRadius = 0;  // 96-DPI units
 
@@ -62,7 +64,8 @@ class Button::impl : public BaseImplMFC {
   std::wstring Caption();
   CSize CaptionSize();
   void ReplacePicture(UniqueBitmap& picture, const PictureRequest& request, bool redraw);
-  void PaintContent(Painter& painter, const CRect& client, bool enabled, COLORREF color);
+  void PaintContent(Painter& painter, const CRect& client, const ControlState& look,
+                    COLORREF color);
 
   std::shared_ptr<CButton> window_;
   ButtonStyle style_ = ButtonStyle::Native;

@@ -41,7 +41,6 @@ class RadioButton::impl : public BaseImplMFC {
 
  private:
   unsigned CheckedIdOfGroup();
-  ControlState Look() const;
 
   ButtonMFC<RadioButton> window_;
   WidgetPictures pictures_;

@@ -20,6 +20,7 @@ FLOORS = LAYER + ["engine"] + ROOMS
 PLACES = {
     "platform/include/platform/Window.h": "window",
     "platform/include/platform/Picture.h": "window",
+    "platform/include/platform/SelfDrawn.h": "controls",
     "platform/include/platform/DialogManager.h": "controls",
     "platform/include/platform/Classes.h": "classes",
     "include/MFC/BaseImpl.h": "engine",

@@ -17,6 +17,11 @@ ControlState With(bool ControlState::*flag, bool value = true) {
 }
 
 // How each part is drawn into a rectangle.
+ControlPalette Round(ControlPalette palette, int radius) {
+  palette.radius = radius;
+  return palette;
+}
+
 struct Part {
   const char* name;
   std::function<void(Painter&, const RECT&, const ControlState&)> draw;
@@ -25,11 +30,12 @@ struct Part {
 std::vector<Part> AllParts() {
   static const ControlPalette palette = SystemPalette();
   return {
-      {"button", [](auto& p, auto& r, auto& s) { Theme::DrawPushButton(p, r, s, palette, 0); }},
-      {"round", [](auto& p, auto& r, auto& s) { Theme::DrawPushButton(p, r, s, palette, 5); }},
-      {"check", [](auto& p, auto& r, auto& s) { Theme::DrawCheckBox(p, r, s, palette, 0); }},
+      {"button", [](auto& p, auto& r, auto& s) { Theme::DrawPushButton(p, r, s, palette); }},
+      {"round",
+       [](auto& p, auto& r, auto& s) { Theme::DrawPushButton(p, r, s, Round(palette, 5)); }},
+      {"check", [](auto& p, auto& r, auto& s) { Theme::DrawCheckBox(p, r, s, palette); }},
       {"radio", [](auto& p, auto& r, auto& s) { Theme::DrawRadioButton(p, r, s, palette); }},
-      {"field", [](auto& p, auto& r, auto& s) { Theme::DrawField(p, r, s, palette, 3); }},
+      {"field", [](auto& p, auto& r, auto& s) { Theme::DrawField(p, r, s, Round(palette, 3)); }},
       {"drop", [](auto& p, auto& r, auto& s) { Theme::DrawDropDownArrow(p, r, s, palette); }},
       {"spin", [](auto& p, auto& r, auto& s) { Theme::DrawSpinArrows(p, r, s, palette); }},
       {"group",

@@ -28,6 +28,7 @@ struct ControlPalette {
   COLORREF selection;   // behind selected text
   COLORREF selectionText;
   COLORREF placeholder;
+  int radius = 0;  // of the control's corners
 };
 
 struct ControlState {
@@ -35,7 +36,8 @@ struct ControlState {
   bool hovered = false;
   bool pressed = false;
   bool focused = false;
-  bool focusCue = false;  // the keyboard was used: focus and mnemonics are shown
+  bool focusCue = false;     // focused, and shown so: the keyboard was used
+  bool mnemonicCue = false;  // the keyboard was used: texts show their mnemonics, focused or not
   bool isDefault = false;
   int check = 0;  // 0 unchecked, 1 checked, 2 partially checked
 };
@@ -49,16 +51,18 @@ ControlPalette SystemPalette();
 
 namespace Theme {
 
+// DT_HIDEPREFIX until the keyboard was used.
+UINT PrefixFormat(const ControlState&);
 // Push buttons: the frame, and how much room it takes around the text on each side.
-void DrawPushButton(Painter&, const RECT&, const ControlState&, const ControlPalette&, int radius);
+void DrawPushButton(Painter&, const RECT&, const ControlState&, const ControlPalette&);
 SIZE PushButtonPadding();
 // Check boxes and radio buttons: the square or circle of this side length, and the gap to the text.
 int CheckSize();
 int CheckGap();
-void DrawCheckBox(Painter&, const RECT&, const ControlState&, const ControlPalette&, int radius);
+void DrawCheckBox(Painter&, const RECT&, const ControlState&, const ControlPalette&);
 void DrawRadioButton(Painter&, const RECT&, const ControlState&, const ControlPalette&);
 // Bordered fields (edits, lists, combo boxes): fill and frame.
-void DrawField(Painter&, const RECT&, const ControlState&, const ControlPalette&, int radius);
+void DrawField(Painter&, const RECT&, const ControlState&, const ControlPalette&);
 // Field's inner padding from its outer edge to its text.
 SIZE FieldPadding();
 // The drop-down arrow of a combo box and the arrow pair of a spin box at the right end.

@@ -96,3 +96,6 @@ inline constexpr UINT DM_SETDEFID = 0x0401;
 // Of this layer: asks a control for its colours (lParam = ControlPalette* filled with the
 // system's, to be changed in place); the answer is not used.
 inline constexpr UINT WM_GETCONTROLPALETTE = 0x03F0;
+// Of this layer: asks a control for its state (lParam = ControlState* to be filled); TRUE when it
+// draws itself. What stands before the control may change the answer.
+inline constexpr UINT WM_GETCONTROLSTATE = 0x03F1;

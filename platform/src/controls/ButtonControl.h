@@ -11,7 +11,8 @@ class ButtonControl : public Control {
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  protected:
-  void Paint(Painter& painter, const CRect& client) const override;
+  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
+  void AddState(ControlState& state) const override;
 
  private:
   LRESULT HandleInput(UINT message, WPARAM wParam, LPARAM lParam);
@@ -20,7 +21,6 @@ class ButtonControl : public Control {
   DWORD Type() const;
   bool IsPushType() const;
   LRESULT DialogCode() const;
-  ControlState ButtonState() const;
 
   void OnPress(POINT point, bool secondClick);
   void OnDrag(POINT point);
@@ -36,9 +36,9 @@ class ButtonControl : public Control {
   void UncheckGroup() const;
   LRESULT StateBits() const;
 
-  void PaintPush(Painter& painter, const CRect& client) const;
-  void PaintMarked(Painter& painter, const CRect& client) const;
-  void PaintGroup(Painter& painter, const CRect& client) const;
+  void PaintPush(Painter& painter, const CRect& client, const ControlPalette& palette) const;
+  void PaintMarked(Painter& painter, const CRect& client, const ControlPalette& palette) const;
+  void PaintGroup(Painter& painter, const CRect& client, const ControlPalette& palette) const;
 
   int check_ = 0;
   bool pushed_ = false;        // looks pressed

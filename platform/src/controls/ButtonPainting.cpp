@@ -23,57 +23,55 @@ CRect TextBounds(const CRect& area, const std::wstring& text, HFONT font) {
 
 }  // namespace
 
-void ButtonControl::Paint(Painter& painter, const CRect& client) const {
+void ButtonControl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
+  painter.FillRect(client, palette.background);
   switch (ButtonGeometry::LookOf(Style())) {
-    case Look::Push: return PaintPush(painter, client);
+    case Look::Push: return PaintPush(painter, client, palette);
     case Look::Check:
-    case Look::Radio: return PaintMarked(painter, client);
-    case Look::Group: return PaintGroup(painter, client);
+    case Look::Radio: return PaintMarked(painter, client, palette);
+    case Look::Group: return PaintGroup(painter, client, palette);
   }
 }
 
-ControlState ButtonControl::ButtonState() const {
-  ControlState state = State();
+void ButtonControl::AddState(ControlState& state) const {
   state.pressed = pushed_;
   state.isDefault = Type() == BS_DEFPUSHBUTTON;
   state.check = check_;
-  return state;
 }
 
-void ButtonControl::PaintPush(Painter& painter, const CRect& client) const {
-  ControlState state = ButtonState();
+void ButtonControl::PaintPush(Painter& painter, const CRect& client,
+                              const ControlPalette& palette) const {
+  ControlState state = State();
   state.pressed = state.pressed || check_ != BST_UNCHECKED;
-  const ControlPalette palette = Palette();
-  painter.FillRect(client, palette.background);
-  Theme::DrawPushButton(painter, client, state, palette, 0);
+  Theme::DrawPushButton(painter, client, state, palette);
   const COLORREF color =
       state.enabled && state.pressed ? palette.pressedText : TextColor(state, palette);
-  painter.Text(Text(), ButtonGeometry::PushTextRect(client),
-               DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | PrefixFormat(), Font(),
-               color);
+  painter.Text(
+      Text(), ButtonGeometry::PushTextRect(client),
+      DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | Theme::PrefixFormat(state), Font(),
+      color);
 }
 
-void ButtonControl::PaintMarked(Painter& painter, const CRect& client) const {
-  const ControlState state = ButtonState();
-  const ControlPalette palette = Palette();
+void ButtonControl::PaintMarked(Painter& painter, const CRect& client,
+                                const ControlPalette& palette) const {
+  const ControlState state = State();
   const CRect mark = ButtonGeometry::MarkRect(client);
-  painter.FillRect(client, palette.background);
   if (ButtonGeometry::LookOf(Style()) == Look::Check) {
-    Theme::DrawCheckBox(painter, mark, state, palette, 0);
+    Theme::DrawCheckBox(painter, mark, state, palette);
   } else {
     Theme::DrawRadioButton(painter, mark, state, palette);
   }
   const std::wstring text = Text();
   const CRect area = ButtonGeometry::MarkTextRect(client);
-  painter.Text(text, area, DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | PrefixFormat(), Font(),
+  painter.Text(text, area,
+               DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | Theme::PrefixFormat(state), Font(),
                TextColor(state, palette));
   if (state.focusCue && !text.empty()) {
     painter.FocusRect(TextBounds(area, text, Font()).Shrunk(-ScaleUnits(1), 0), palette.text);
   }
 }
 
-void ButtonControl::PaintGroup(Painter& painter, const CRect& client) const {
-  const ControlPalette palette = Palette();
-  painter.FillRect(client, palette.background);
+void ButtonControl::PaintGroup(Painter& painter, const CRect& client,
+                               const ControlPalette& palette) const {
   Theme::DrawGroupBox(painter, client, Text(), Font(), State(), palette);
 }

@@ -7,53 +7,28 @@
 #include <string>
 
 #include "platform/Geometry.h"
-#include "platform/Theme.h"
+#include "platform/SelfDrawn.h"
 #include "platform/Window.h"
 
-class Control {
- public:
-  virtual ~Control() = default;
-  Control(const Control&) = delete;
-  Control& operator=(const Control&) = delete;
-
-  // Messages common to all controls; the rest goes to DefWindowProcW.
-  virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
-
+class Control : public SelfDrawn {
  protected:
   explicit Control(HWND window) : window_(window) {}
 
-  // Draws the whole client area and changes nothing.
-  virtual void Paint(Painter& painter, const CRect& client) const = 0;
-  virtual void OnFontChanged() {}
+  HWND Window() const final { return window_; }
+  LRESULT Unhandled(UINT message, WPARAM wParam, LPARAM lParam) final {
+    return Default(message, wParam, lParam);
+  }
 
-  HWND Window() const { return window_; }
-  HFONT Font() const { return font_; }
-  bool IsHovered() const { return hovered_; }
   DWORD Style() const;
   CRect Client() const;
   std::wstring Text() const { return GetWindowTextString(window_); }
   bool HasFocus() const { return GetFocus() == window_; }
-  ControlPalette Palette() const;
-  // Enabled, hovered, focused and the keyboard cues; the control adds what only it knows.
-  ControlState State() const;
-  // DT_HIDEPREFIX until the keyboard was used.
-  UINT PrefixFormat() const;
-
-  void Repaint() const { InvalidateRect(window_, nullptr, FALSE); }
   LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam) const;
   // WM_COMMAND to the parent. The window may be gone afterwards: false.
   bool Notify(int code) const;
 
  private:
-  void OnPaint() const;
-  void OnSetFont(HFONT font, bool redraw);
-  void SetHovered(bool hovered);
-  bool ShowsCue(int flag) const;
-  LRESULT DefaultThenRepaint(UINT message, WPARAM wParam, LPARAM lParam) const;
-
   HWND window_;
-  HFONT font_ = nullptr;
-  bool hovered_ = false;
 };
 
 // The window procedure of the class whose windows are `ControlType`s. The object outlives the

@@ -6,7 +6,7 @@
 #include "platform/DialogManager.h"
 #include "platform/Geometry.h"
 #include "platform/Painter.h"
-#include "platform/Theme.h"
+#include "platform/SelfDrawn.h"
 
 namespace {
 
@@ -80,11 +80,9 @@ void GoToControl(HWND dialog, WPARAM wParam, bool isHandle) {
 }
 
 void FillBackground(HWND dialog, HDC dc) {
-  ControlPalette palette = SystemPalette();
-  SendMessageW(dialog, WM_GETCONTROLPALETTE, 0, reinterpret_cast<LPARAM>(&palette));
   CRect client;
   GetClientRect(dialog, &client);
-  Painter(dc).FillRect(client, palette.background);
+  Painter(dc).FillRect(client, GetControlPalette(dialog).background);
 }
 
 void RequestCancel(HWND dialog) {

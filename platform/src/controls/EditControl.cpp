@@ -332,12 +332,11 @@ EditView::Marks EditControl::Marks() const {
   return marks;
 }
 
-void EditControl::Paint(Painter& painter, const CRect& client) const {
-  const ControlPalette palette = Palette();
+void EditControl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
   const ControlState state = State();
   if (HasFrame(Style())) {
     painter.FillRect(client, palette.background);
-    Theme::DrawField(painter, client, state, palette, 0);
+    Theme::DrawField(painter, client, state, palette);
   } else {
     painter.FillRect(client, state.enabled ? palette.face : palette.disabledFace);
   }

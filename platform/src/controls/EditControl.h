@@ -16,7 +16,7 @@ class EditControl : public Control {
   static int IdealHeight(HWND window);
 
  protected:
-  void Paint(Painter& painter, const CRect& client) const override;
+  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
   void OnFontChanged() override;
 
  private:

@@ -47,16 +47,16 @@ LRESULT StaticControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-void StaticControl::Paint(Painter& painter, const CRect& client) const {
-  const ControlPalette palette = Palette();
+void StaticControl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
   const DWORD style = Style();
   painter.FillRect(client, palette.background);
   if (IsLine(style)) {
     Theme::DrawLine(painter, client, (style & SS_TYPEMASK) == SS_ETCHEDVERT, palette);
     return;
   }
-  const COLORREF color = IsWindowEnabled(Window()) ? palette.text : palette.disabledText;
-  painter.Text(Text(), client, TextFormat(style) | PrefixFormat(), Font(), color);
+  const ControlState state = State();
+  const COLORREF color = state.enabled ? palette.text : palette.disabledText;
+  painter.Text(Text(), client, TextFormat(style) | Theme::PrefixFormat(state), Font(), color);
 }
 
 SIZE StaticControl::IdealSize(HWND window, int width) {

@@ -14,5 +14,5 @@ class StaticControl : public Control {
   static SIZE IdealSize(HWND window, int width);
 
  protected:
-  void Paint(Painter& painter, const CRect& client) const override;
+  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
 };

@@ -51,20 +51,20 @@ int CheckGap() {
 }
 
 void DrawPushButton(Painter& painter, const RECT& rect, const ControlState& state,
-                    const ControlPalette& palette, int radius) {
+                    const ControlPalette& palette) {
   BoxColors colors = PlainColors(state, palette);
   int thickness = state.enabled && state.isDefault ? 2 * LineWidth() : LineWidth();
-  DrawBox(painter, rect, radius, colors.face, colors.border, thickness);
+  DrawBox(painter, rect, palette.radius, colors.face, colors.border, thickness);
   if (!state.focused || !state.focusCue) return;
   int inset = ScaleUnits(kFocusInset);
   painter.FocusRect(CRect(rect).Shrunk(inset, inset), InkColor(state, palette));
 }
 
 void DrawCheckBox(Painter& painter, const RECT& rect, const ControlState& state,
-                  const ControlPalette& palette, int radius) {
+                  const ControlPalette& palette) {
   bool checked = state.check == 1;
   BoxColors colors = checked ? CheckedColors(state, palette) : PlainColors(state, palette);
-  DrawBox(painter, rect, radius, colors.face, colors.border, LineWidth());
+  DrawBox(painter, rect, palette.radius, colors.face, colors.border, LineWidth());
   if (checked) return painter.CheckMark(rect, MarkColor(state, palette));
   if (state.check != 2) return;
   int inset = ScaleUnits(kPartialInset);

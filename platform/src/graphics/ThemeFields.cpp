@@ -36,12 +36,12 @@ int ArrowButtonWidth() {
 }
 
 void DrawField(Painter& painter, const RECT& rect, const ControlState& state,
-               const ControlPalette& palette, int radius) {
+               const ControlPalette& palette) {
   COLORREF face = state.enabled ? palette.face : palette.disabledFace;
   COLORREF border = FieldBorder(state, palette);
   int line = LineWidth();
-  DrawBox(painter, rect, radius, face, border, line);
-  if (!state.focused || !state.enabled || radius > 0) return;
+  DrawBox(painter, rect, palette.radius, face, border, line);
+  if (!state.focused || !state.enabled || palette.radius > 0) return;
   painter.FillRect(RECT{rect.left, rect.bottom - 2 * line, rect.right, rect.bottom}, border);
 }
 

@@ -19,7 +19,7 @@ COLORREF InkColor(const ControlState& state, const ControlPalette& palette) {
 }
 
 UINT PrefixFormat(const ControlState& state) {
-  return state.focusCue ? 0 : DT_HIDEPREFIX;
+  return state.mnemonicCue ? 0 : DT_HIDEPREFIX;
 }
 
 }  // namespace Theme

@@ -16,6 +16,5 @@ void DrawBox(Painter& painter, const RECT& rect, int radius, COLORREF face, COLO
              int thickness);
 // Text and glyph colour of a part that has no colour of its own for its states.
 COLORREF InkColor(const ControlState& state, const ControlPalette& palette);
-UINT PrefixFormat(const ControlState& state);
 
 }  // namespace Theme

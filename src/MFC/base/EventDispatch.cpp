@@ -102,6 +102,7 @@ class EventDispatch {
       case kUpdateLayoutsMessage: return OnUpdateLayouts();
       case kDeferredCallMessage: RunDeferredCall(wParam_); return Default(message);
       case WM_GETCONTROLPALETTE: return OnGetPalette();
+      case WM_GETCONTROLSTATE: return OnGetState();
       case WM_DESTROY: return OnDestroy();
       case WM_NCDESTROY: return OnFinalDestroy();
       default: return Default(message);
@@ -333,6 +334,12 @@ class EventDispatch {
   LRESULT OnGetPalette() {
     impl_.ReadPalette(*reinterpret_cast<ControlPalette*>(lParam_));
     return kHandled;
+  }
+
+  LRESULT OnGetState() {
+    const LRESULT result = Default(WM_GETCONTROLSTATE);
+    impl_.RefineState(*reinterpret_cast<ControlState*>(lParam_));
+    return result;
   }
 
   LRESULT OnDestroy() {

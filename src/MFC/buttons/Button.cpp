@@ -102,12 +102,14 @@ void Button::Use3dStyle() {
 }
 void Button::DisableFocusRect(bool disable) {
   impl_->focusRectDisabled = disable;
+  impl_->RefreshSkinColors();
 }
 bool Button::IsDisableFocusRect() {
   return impl_->focusRectDisabled;
 }
 void Button::SetRoundedButtonCornerRadius(int radius) {
   impl_->cornerRadius = radius;
+  impl_->RefreshSkinColors();
 }
 int Button::GetRoundedButtonCornerRadius() {
   return impl_->cornerRadius;

@@ -7,7 +7,7 @@
 #include "WexaException.h"
 #include "platform/ControlConstants.h"
 #include "platform/Painter.h"
-#include "platform/Theme.h"
+#include "platform/SelfDrawn.h"
 #include "platform/VirtualKeys.h"
 
 namespace Wexa {
@@ -145,6 +145,7 @@ void Button::impl::SetTextColors(std::optional<RGBColor> normal, std::optional<R
 
 void Button::impl::FillPalette(ControlPalette& palette) {
   FillButtonPalette(palette, GetSkinManager());
+  palette.radius = Scale(cornerRadius);
   if (!faces_) return;
   bool isChecked = checkable_ && IsChecked();
   palette.face = Word((*faces_)[isChecked ? 4 : 0]);
@@ -155,25 +156,22 @@ void Button::impl::FillPalette(ControlPalette& palette) {
 
 // -- Painting and input
 
+void Button::impl::RefineState(ControlState& state) {
+  if (focusRectDisabled) state.focusCue = false;
+}
+
 void Button::impl::PaintOwnerDrawn() {
   CPaintDC dc(GetHandle());
   Painter painter(dc);
-  ControlPalette palette = SystemPalette();
-  ReadPalette(palette);
-  CRect client = window_->GetClientRect();
-  UINT state = window_->GetState();
-  ControlState look;
-  look.enabled = window_->IsWindowEnabled();
-  look.pressed = (state & BST_PUSHED) != 0 || (style_ == ButtonStyle::Native && IsChecked());
-  look.focused = (state & BST_FOCUS) != 0;
-  look.focusCue = look.focused && !focusRectDisabled;
-  look.hovered = IsMouseTracked();
-  look.isDefault = window_->GetButtonStyle() == BS_DEFPUSHBUTTON;
+  const ControlPalette palette = GetControlPalette(GetHandle());
+  const CRect client = window_->GetClientRect();
+  ControlState look = GetControlState(GetHandle());
+  look.pressed = look.pressed || (style_ == ButtonStyle::Native && IsChecked());
   painter.FillRect(client, palette.background);
-  Theme::DrawPushButton(painter, client, look, palette, Scale(cornerRadius));
+  Theme::DrawPushButton(painter, client, look, palette);
   COLORREF color =
       look.enabled ? (look.pressed ? palette.pressedText : palette.text) : palette.disabledText;
-  PaintContent(painter, client, look.enabled, color);
+  PaintContent(painter, client, look, color);
 }
 
 void Button::impl::OnClicked() {

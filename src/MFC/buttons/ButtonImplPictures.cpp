@@ -57,15 +57,15 @@ CSize Button::impl::CaptionSize() {
   return GetTextExtent(Font(), Caption(), INT32_MAX, DT_SINGLELINE);
 }
 
-void Button::impl::PaintContent(Painter& painter, const CRect& client, bool enabled,
+void Button::impl::PaintContent(Painter& painter, const CRect& client, const ControlState& look,
                                 COLORREF color) {
-  constexpr UINT kLine = DT_VCENTER | DT_SINGLELINE | DT_HIDEPREFIX;
-  HBITMAP picture = pictures_.For(enabled);
-  if (!picture) return painter.Text(Text(), client, DT_CENTER | kLine, Font(), color);
+  const UINT line = DT_VCENTER | DT_SINGLELINE | Theme::PrefixFormat(look);
+  HBITMAP picture = pictures_.For(look.enabled);
+  if (!picture) return painter.Text(Text(), client, DT_CENTER | line, Font(), color);
   ContentPlaces places =
       PlaceContent(client, pictures_.Size(), CaptionSize(), ContentAlignment::Centre);
   painter.Picture(picture, places.picture);
-  painter.Text(Caption(), places.text, DT_END_ELLIPSIS | kLine, Font(), color);
+  painter.Text(Caption(), places.text, DT_END_ELLIPSIS | line, Font(), color);
 }
 
 }  // namespace Wexa

@@ -6,7 +6,7 @@
 #include "MFC/base/WidgetColors.h"
 #include "platform/ControlConstants.h"
 #include "platform/Painter.h"
-#include "platform/Theme.h"
+#include "platform/SelfDrawn.h"
 
 namespace Wexa {
 
@@ -132,24 +132,12 @@ void RadioButton::impl::LoadPicture(const PictureRequest& request) {
   InvalidateLayout();
 }
 
-ControlState RadioButton::impl::Look() const {
-  UINT state = window_.GetState();
-  ControlState look;
-  look.enabled = window_.IsWindowEnabled();
-  look.pressed = (state & BST_PUSHED) != 0;
-  look.focused = (state & BST_FOCUS) != 0;
-  look.check = window_.GetCheck();
-  return look;
-}
-
 void RadioButton::impl::PaintOwnerDrawn() {
   CPaintDC dc(GetHandle());
   Painter painter(dc);
-  ControlPalette palette = SystemPalette();
-  ReadPalette(palette);
+  const ControlPalette palette = GetControlPalette(GetHandle());
+  const ControlState look = GetControlState(GetHandle());
   CRect area = window_.GetClientRect();
-  ControlState look = Look();
-  look.hovered = IsMouseTracked();
   painter.FillRect(area, palette.background);
   Theme::DrawRadioButton(painter, MarkRect(area), look, palette);
   area.left += MarkWidth();
@@ -157,9 +145,10 @@ void RadioButton::impl::PaintOwnerDrawn() {
   ContentPlaces places = PlaceContent(area, pictures_.Size(), text, ContentAlignment::Left);
   painter.Picture(pictures_.For(look.enabled), places.picture);
   COLORREF color = look.enabled ? palette.text : palette.disabledText;
-  painter.Text(Text(), places.text, DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_HIDEPREFIX,
-               Font(), color);
-  if (look.focused) painter.FocusRect(places.text, palette.text);
+  painter.Text(Text(), places.text,
+               DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | Theme::PrefixFormat(look), Font(),
+               color);
+  if (look.focusCue) painter.FocusRect(places.text, palette.text);
 }
 
 // -- Input

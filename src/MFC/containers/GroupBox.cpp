@@ -95,7 +95,7 @@ class GroupBox::impl : public ContainerImpl {
     ContainerImpl::Paint(painter, client, palette);
     ControlState state;
     state.enabled = GetCWnd()->IsWindowEnabled();
-    state.focusCue = (GetCWnd()->SendMessage(WM_QUERYUISTATE) & UISF_HIDEACCEL) == 0;
+    state.mnemonicCue = (GetCWnd()->SendMessage(WM_QUERYUISTATE) & UISF_HIDEACCEL) == 0;
     CRect frame = client;
     if (isCheckable_) frame.top += TitleHeight() / 2;
     Theme::DrawGroupBox(painter, frame, isCheckable_ ? L"" : Title(), Font(), state, palette);

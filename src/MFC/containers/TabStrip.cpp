@@ -97,8 +97,7 @@ ControlState TabStrip::StateOf(int index) const {
   state.enabled = state.enabled && isEnabled(index);
   state.hovered = state.hovered && hovered_ == index;
   // A caption shows its mnemonic where the keyboard is used, focused or not.
-  state.focused = state.focusCue;
-  state.focusCue = (SendMessage(WM_QUERYUISTATE) & UISF_HIDEACCEL) == 0;
+  state.mnemonicCue = (SendMessage(WM_QUERYUISTATE) & UISF_HIDEACCEL) == 0;
   return state;
 }
 

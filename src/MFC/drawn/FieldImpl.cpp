@@ -21,6 +21,7 @@ FieldImpl::FieldImpl(BaseGUIObject* owner) : PaintedImpl(owner) {}
 
 void FieldImpl::FillPalette(ControlPalette& palette) {
   FillInputPalette(palette, GetSkinManager());
+  palette.radius = Scale(CornerRadius());
 }
 
 bool FieldImpl::IsShownEnabled() {
@@ -40,7 +41,7 @@ void FieldImpl::Paint(Painter& painter, const CRect& client, const ControlPalett
   ControlState state;
   state.enabled = IsShownEnabled();
   painter.FillRect(client, palette.background);
-  Theme::DrawField(painter, client, state, palette, Scale(CornerRadius()));
+  Theme::DrawField(painter, client, state, palette);
   SIZE padding = Theme::FieldPadding();
   CRect inner = client.Shrunk(padding.cx, padding.cy);
   if (inner.IsEmpty()) return;
