@@ -20,7 +20,6 @@ class FieldImpl : public PaintedImpl {
                             const ControlPalette& palette) = 0;
   virtual int CornerRadius() const { return 0; }
   COLORREF TextColor(const ControlPalette& palette);
-  bool IsShownEnabled();
   // One line of this width in pixels with the field's padding around it.
   Size LineSize(int textWidth) const;
 };

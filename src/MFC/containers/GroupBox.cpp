@@ -5,6 +5,7 @@
 
 #include "MFC/ContainerImpl.h"
 #include "MFC/base/WidgetColors.h"
+#include "WexaConfig.h"
 #include "platform/ControlConstants.h"
 #include "platform/DialogManager.h"
 #include "platform/Theme.h"
@@ -93,12 +94,10 @@ class GroupBox::impl : public ContainerImpl {
 
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
     ContainerImpl::Paint(painter, client, palette);
-    ControlState state;
-    state.enabled = GetCWnd()->IsWindowEnabled();
-    state.mnemonicCue = (GetCWnd()->SendMessage(WM_QUERYUISTATE) & UISF_HIDEACCEL) == 0;
     CRect frame = client;
     if (isCheckable_) frame.top += TitleHeight() / 2;
-    Theme::DrawGroupBox(painter, frame, isCheckable_ ? L"" : Title(), Font(), state, palette);
+    Theme::DrawGroupBox(painter, frame, isCheckable_ ? L"" : Title(), Font(), Shown().State(),
+                        palette);
     if (isCheckable_)
       painter.FillRect(CheckRect().Shrunk(-Scale(kCheckGap), 0), palette.background);
   }
@@ -108,7 +107,6 @@ class GroupBox::impl : public ContainerImpl {
       check_->SendMessage(message, wParam, lParam);
       PlaceCheck();
     }
-    if (message == WM_UPDATEUISTATE || message == WM_ENABLE) GetCWnd()->Invalidate();
     return false;
   }
 
@@ -137,6 +135,7 @@ class GroupBox::impl : public ContainerImpl {
   void FillCheckPalette(ControlPalette& palette) {
     palette.background = BackgroundColor();
     Wexa::FillCheckPalette(palette, GetSkinManager());
+    palette.radius = Scale(checkRadius_);
   }
 
   // Disabling takes the focus away, and a handler of that may destroy the box.
@@ -201,6 +200,7 @@ class GroupBox::impl : public ContainerImpl {
   }
 
   std::shared_ptr<TitleCheck> check_ = std::make_shared<TitleCheck>();
+  int checkRadius_ = GetCheckboxRadius();
   bool isCheckable_ = false;
   bool isChecked_ = true;
 };

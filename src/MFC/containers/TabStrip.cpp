@@ -96,8 +96,6 @@ ControlState TabStrip::StateOf(int index) const {
   ControlState state = State();
   state.enabled = state.enabled && isEnabled(index);
   state.hovered = state.hovered && hovered_ == index;
-  // A caption shows its mnemonic where the keyboard is used, focused or not.
-  state.mnemonicCue = (SendMessage(WM_QUERYUISTATE) & UISF_HIDEACCEL) == 0;
   return state;
 }
 

@@ -24,12 +24,8 @@ void FieldImpl::FillPalette(ControlPalette& palette) {
   palette.radius = Scale(CornerRadius());
 }
 
-bool FieldImpl::IsShownEnabled() {
-  return GetCWnd()->IsWindowEnabled();
-}
-
 COLORREF FieldImpl::TextColor(const ControlPalette& palette) {
-  return IsShownEnabled() ? palette.text : palette.disabledText;
+  return Shown().State().enabled ? palette.text : palette.disabledText;
 }
 
 Size FieldImpl::LineSize(int textWidth) const {
@@ -38,10 +34,8 @@ Size FieldImpl::LineSize(int textWidth) const {
 }
 
 void FieldImpl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
-  ControlState state;
-  state.enabled = IsShownEnabled();
   painter.FillRect(client, palette.background);
-  Theme::DrawField(painter, client, state, palette);
+  Theme::DrawField(painter, client, Shown().State(), palette);
   SIZE padding = Theme::FieldPadding();
   CRect inner = client.Shrunk(padding.cx, padding.cy);
   if (inner.IsEmpty()) return;

@@ -1,36 +1,24 @@
 #pragma once
 
-#include <functional>
 #include <memory>
-#include <string>
 
-#include "platform/Classes.h"
-
-class Painter;
+#include "MFC/DrawnWnd.h"
 
 namespace Wexa {
 
-// A window that draws itself and is used by mouse and keyboard. What all of them do alike is here:
-// hovering, capture while the button is held, focus, keyboard cues. With WS_TABSTOP it takes the
-// focus, by a click too. A window held by a shared pointer lives through the message it handles;
-// after a notification a handler looks whether the window still exists (IsGone).
-class InteractiveWnd : public CWnd, public std::enable_shared_from_this<InteractiveWnd> {
+// A window that is used by mouse and keyboard: capture while the button is held, focus, keys. With
+// WS_TABSTOP it takes the focus, by a click too. A window held by a shared pointer lives through
+// the message it handles; after a notification a handler looks whether the window still exists
+// (IsGone).
+class InteractiveWnd : public DrawnWnd, public std::enable_shared_from_this<InteractiveWnd> {
  public:
-  // The window's colours when it is part of a widget; without it they are its parent's.
-  std::function<void(ControlPalette&)> fillPalette;
-
-  // `parent` and `id` as for any child window; the text is the window's own.
-  BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0,
-              DWORD exStyle = 0);
   bool HasFocus() const { return ::GetFocus() == m_hWnd; }
-  // The font that WM_SETFONT gave; null stands for the system's.
-  HFONT Font() const { return font_; }
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  protected:
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-  MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
+  void AddState(ControlState& state) const override;
 
-  virtual void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) = 0;
   virtual void OnPress(POINT) {}
   virtual void OnDrag(POINT) {}
   virtual void OnRelease(POINT) {}
@@ -48,33 +36,20 @@ class InteractiveWnd : public CWnd, public std::enable_shared_from_this<Interact
   // An IDC_ identifier, or null for the arrow.
   virtual const wchar_t* Cursor() const { return nullptr; }
 
-  // Enabled, hovered, pressed, focused, with the focus cue when the keyboard was used.
-  ControlState State() const;
   bool IsHeld() const { return held_; }
-  bool IsHovered() const { return hovered_; }
   bool IsGone() const { return m_hWnd == nullptr; }
   // Left and right arrows change places in a mirrored window.
   int Mirrored(int virtualKey) const;
 
  private:
-  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
-  LRESULT DefaultThenRepaint(UINT message, WPARAM wParam, LPARAM lParam);
-  LRESULT OnGetPalette(WPARAM wParam, LPARAM lParam);
-  LRESULT OnPaint();
   LRESULT OnMouseMove(POINT point);
-  LRESULT OnMouseLeave();
   LRESULT OnButtonDown(POINT point);
   LRESULT OnButtonUp(POINT point);
   LRESULT OnCaptureChanged();
   LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
   LRESULT OnSetCursor(WPARAM wParam, LPARAM lParam);
 
-  HFONT font_ = nullptr;
-  bool hovered_ = false;
   bool held_ = false;
 };
-
-// Fills a palette with what the window answers, over the system's colours.
-ControlPalette PaletteOf(CWnd& window);
 
 }  // namespace Wexa

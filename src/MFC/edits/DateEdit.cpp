@@ -22,9 +22,7 @@ class DateEdit::impl : public LineFieldImpl {
   }
   int ContentWidth() override { return GetTextExtent(Font(), L"0000-00-00").cx; }
   void PaintEnd(Painter& painter, const CRect& end, const ControlPalette& palette) override {
-    ControlState state;
-    state.enabled = IsShownEnabled();
-    Theme::DrawSpinArrows(painter, end, state, palette);
+    Theme::DrawSpinArrows(painter, end, Shown().State(), palette);
   }
 };
 

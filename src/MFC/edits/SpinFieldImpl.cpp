@@ -62,9 +62,7 @@ int SpinFieldImpl::ContentWidth() {
 }
 
 void SpinFieldImpl::PaintEnd(Painter& painter, const CRect& end, const ControlPalette& palette) {
-  ControlState state;
-  state.enabled = IsShownEnabled();
-  Theme::DrawSpinArrows(painter, end, state, palette);
+  Theme::DrawSpinArrows(painter, end, Shown().State(), palette);
 }
 
 }  // namespace Wexa

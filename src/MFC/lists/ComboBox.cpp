@@ -42,9 +42,7 @@ class ComboBox::impl : public LineFieldImpl {
   int CornerRadius() const override { return GetComboboxRadius(); }
 
   void PaintEnd(Painter& painter, const CRect& end, const ControlPalette& palette) override {
-    ControlState state;
-    state.enabled = IsShownEnabled();
-    Theme::DrawDropDownArrow(painter, end, state, palette);
+    Theme::DrawDropDownArrow(painter, end, Shown().State(), palette);
   }
 };
 

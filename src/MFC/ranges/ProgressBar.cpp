@@ -79,7 +79,6 @@ class ProgressBar::impl : public PaintedImpl {
   }
 
   bool OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT&) override {
-    if (message == WM_ENABLE) GetCWnd()->Invalidate();
     if (message != WM_TIMER || wParam != kMoveTimer) return false;
     GetCWnd()->KillTimer(kMoveTimer);
     if (IsIndeterminate()) GetCWnd()->Invalidate();

@@ -7,7 +7,7 @@ namespace Wexa {
 // -- Implementation -----------------------------------------------------------
 
 RangeControl::impl::impl(RangeControl* owner, std::shared_ptr<RangeWnd> window)
-    : InteractiveImpl(owner, std::move(window)) {
+    : DrawnImpl(owner, std::move(window)) {
   Creation().style |= WS_TABSTOP;
   Bar().onChanged = [this](int value) {
     if (Owner()) static_cast<RangeControl*>(Owner())->ValueChanged(value);
@@ -19,7 +19,7 @@ RangeControl::impl::impl(RangeControl* owner, std::shared_ptr<RangeWnd> window)
 
 bool RangeControl::impl::CreateNative(CWnd* parent) {
   Bar().vertical = IsVertical();
-  return InteractiveImpl::CreateNative(parent);
+  return DrawnImpl::CreateNative(parent);
 }
 
 Size RangeControl::impl::Turned(Size size) const {

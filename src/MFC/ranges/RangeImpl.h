@@ -1,13 +1,13 @@
 #pragma once
 
-#include "MFC/drawn/InteractiveImpl.h"
+#include "MFC/DrawnImpl.h"
 #include "MFC/ranges/RangeWnd.h"
 #include "RangeControl.h"
 
 namespace Wexa {
 
 // Sliders and scroll bars: the window keeps the value, also before it is created.
-class RangeControl::impl : public InteractiveImpl {
+class RangeControl::impl : public DrawnImpl {
  public:
   impl(RangeControl* owner, std::shared_ptr<RangeWnd> window);
 

@@ -1,6 +1,7 @@
 #include "DrawElement.h"
 
-#include "MFC/drawn/InteractiveImpl.h"
+#include "MFC/DrawnImpl.h"
+#include "MFC/drawn/InteractiveWnd.h"
 #include "platform/Painter.h"
 
 namespace Wexa {
@@ -26,9 +27,9 @@ class CanvasWnd : public InteractiveWnd {
 
 }  // namespace
 
-class DrawElement::impl : public InteractiveImpl {
+class DrawElement::impl : public DrawnImpl {
  public:
-  explicit impl(DrawElement* owner) : InteractiveImpl(owner, std::make_shared<CanvasWnd>()) {}
+  explicit impl(DrawElement* owner) : DrawnImpl(owner, std::make_shared<CanvasWnd>()) {}
 
   void SetProcedure(const PaintProcedure& procedure) {
     static_cast<CanvasWnd&>(Shown()).procedure = procedure;

@@ -4,8 +4,9 @@
 #include <functional>
 #include <utility>
 
+#include "MFC/DrawnImpl.h"
 #include "MFC/base/WidgetColors.h"
-#include "MFC/drawn/InteractiveImpl.h"
+#include "MFC/drawn/InteractiveWnd.h"
 #include "platform/Painter.h"
 #include "platform/VirtualKeys.h"
 
@@ -94,16 +95,16 @@ class LinkWnd : public InteractiveWnd {
 
 }  // namespace
 
-class HyperLinkElement::impl : public InteractiveImpl {
+class HyperLinkElement::impl : public DrawnImpl {
  public:
-  explicit impl(HyperLinkElement* owner) : InteractiveImpl(owner, std::make_shared<LinkWnd>()) {
+  explicit impl(HyperLinkElement* owner) : DrawnImpl(owner, std::make_shared<LinkWnd>()) {
     Creation().style |= WS_TABSTOP;
     static_cast<LinkWnd&>(Shown()).onUsed = [this] {
       if (Owner()) static_cast<HyperLinkElement*>(Owner())->Clicked();
     };
   }
-  using InteractiveImpl::SetText;
-  using InteractiveImpl::Text;
+  using DrawnImpl::SetText;
+  using DrawnImpl::Text;
 
   Size IdealSize() override {
     SIZE text = GetTextExtent(Font(), Text(), INT32_MAX, kFormat);
@@ -112,9 +113,7 @@ class HyperLinkElement::impl : public InteractiveImpl {
   }
   Size MinimumIdealSize() override { return IdealSize(); }
 
-  void FillPalette(ControlPalette& palette) override {
-    FillLinkPalette(palette, GetSkinManager());
-  }
+  void FillPalette(ControlPalette& palette) override { FillLinkPalette(palette, GetSkinManager()); }
 };
 
 HyperLinkElement::HyperLinkElement()
