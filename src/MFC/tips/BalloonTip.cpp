@@ -20,25 +20,25 @@ BalloonTip* g_shown = nullptr;
 
 // -- Arrow
 
-void BalloonArrow::Point(HWND owner, POINT tip, bool upwards, const TipColors& colors,
+void BalloonArrow::Point(HWND owner, POINT tip, bool upwards, const ControlPalette& palette,
                          COLORREF background) {
   if (!Prepare(owner)) return;
   upwards_ = upwards;
   background_ = background;
-  SetContent({}, colors, nullptr);
+  SetContent({}, palette, nullptr);
   const int height = Scale(kArrowHeight) + 1;  // over the balloon's border
   const int top = upwards ? tip.y : tip.y - height;
   ShowAt({tip.x - height + 1, top, tip.x + height, top + height});
 }
 
-void BalloonArrow::Paint(Painter& painter, const CRect& client) {
+void BalloonArrow::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
   painter.FillRect(client, background_);
   const int centre = client.Width() / 2;
   for (int row = 0; row < client.Height(); ++row) {
     const int y = upwards_ ? client.top + row : client.bottom - 1 - row;
     const CRect line(centre - row, y, centre + row + 1, y + 1);
-    painter.FillRect(line, Colors().border);
-    painter.FillRect(line.Shrunk(1, 0), Colors().face);
+    painter.FillRect(line, palette.border);
+    painter.FillRect(line.Shrunk(1, 0), palette.face);
   }
 }
 
@@ -56,7 +56,7 @@ bool BalloonTip::Show(BaseGUIObject& widget, const TipContent& content, Manner m
   widgetGone_ = ScopedConnection(widget.Destroyed,
                                  widget.Destroyed.Connect([this](BaseGUIObject*) { Close(); }));
   manner_ = manner;
-  SetContent(content, TipColorsOf(widget.GetSkinManager()), ImplOf(&widget)->Font());
+  SetContent(content, TipPalette(widget.GetSkinManager()), ImplOf(&widget)->Font());
   Place(widget);
   g_shown = this;
   if (manner.milliseconds > 0) SetTimer(kCloseTimer, manner.milliseconds);
@@ -90,12 +90,12 @@ void BalloonTip::OnInput() {
   if (g_shown && g_shown->manner_.closesOnInput) g_shown->Close();
 }
 
-LRESULT BalloonTip::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT BalloonTip::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_TIMER || message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) {
     Close();
     return 0;
   }
-  return TipWindow::WindowProc(message, wParam, lParam);
+  return TipWindow::Handle(message, wParam, lParam);
 }
 
 }  // namespace Wexa

@@ -11,10 +11,11 @@ class BaseGUIObject;
 class BalloonArrow : public TipWindow {
  public:
   // With its tip at the point, upwards or downwards.
-  void Point(HWND owner, POINT tip, bool upwards, const TipColors& colors, COLORREF background);
+  void Point(HWND owner, POINT tip, bool upwards, const ControlPalette& palette,
+             COLORREF background);
 
  protected:
-  void Paint(Painter& painter, const CRect& client) override;
+  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
 
  private:
   bool upwards_ = true;
@@ -39,7 +40,7 @@ class BalloonTip : public TipWindow {
   static void OnInput();
 
  protected:
-  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
   void Place(BaseGUIObject& widget);

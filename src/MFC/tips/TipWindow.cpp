@@ -14,7 +14,6 @@ namespace Wexa {
 
 namespace {
 
-constexpr wchar_t kWindowClass[] = L"WexaTip";
 constexpr DWORD kExtendedStyle = WS_EX_NOACTIVATE | WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
 constexpr UINT kTextFormat = DT_WORDBREAK | DT_NOPREFIX;
 constexpr int kPadding = 8;
@@ -24,12 +23,6 @@ constexpr int kIconSide = 16;
 // On light and on dark faces.
 constexpr COLORREF kWarning[] = {RGB(157, 93, 0), RGB(255, 200, 61)};
 constexpr COLORREF kError[] = {RGB(196, 43, 28), RGB(255, 145, 135)};
-
-void RegisterOnce() {
-  static const WNDCLASSW description{kWindowClass, DefWindowProcW, 0, nullptr};
-  static const ATOM registered = RegisterClassW(&description);
-  static_cast<void>(registered);
-}
 
 DWORD ExtendedStyleFor(HWND owner) {
   auto style = static_cast<DWORD>(GetWindowLongPtrW(owner, GWL_EXSTYLE));
@@ -49,7 +42,7 @@ SIZE IconSizeOf(const TipContent& content) {
   return hasIcon ? SIZE{Scale(kIconSide), Scale(kIconSide)} : SIZE{};
 }
 
-COLORREF IconColor(BalloonTipIconType icon, const TipColors& colors) {
+COLORREF IconColor(BalloonTipIconType icon, const ControlPalette& colors) {
   if (WexaUtils::IsSystemHighContrastMode()) return colors.text;
   if (icon == BalloonTipIconType::Information) return colors.accent;
   const auto& signs = icon == BalloonTipIconType::Warning ? kWarning : kError;
@@ -59,9 +52,17 @@ COLORREF IconColor(BalloonTipIconType icon, const TipColors& colors) {
 
 }  // namespace
 
-TipColors TipColorsOf(const SkinManager& skin) {
-  return {SlotColor(skin, Slot::kTipFace), SlotColor(skin, Slot::kTipText),
-          SlotColor(skin, Slot::kTipBorder), SlotColor(skin, Slot::kSelection)};
+ControlPalette TipPalette(const SkinManager& skin) {
+  ControlPalette palette{};
+  palette.face = SlotColor(skin, Slot::kTipFace);
+  palette.text = SlotColor(skin, Slot::kTipText);
+  palette.border = SlotColor(skin, Slot::kTipBorder);
+  palette.accent = SlotColor(skin, Slot::kSelection);
+  return palette;
+}
+
+TipWindow::TipWindow() {
+  fillPalette = [this](ControlPalette& palette) { palette = palette_; };
 }
 
 CRect ScreenArea() {
@@ -80,16 +81,14 @@ void TipWindow::Hide() {
 
 bool TipWindow::Prepare(HWND owner) {
   if (GetSafeHwnd()) return true;
-  RegisterOnce();
   HWND root = GetAncestor(owner, GA_ROOT);
-  return CreateEx(ExtendedStyleFor(root), kWindowClass, L"", WS_POPUP, CRect(),
-                  CWnd::FromHandle(root), 0) != FALSE;
+  return Create(L"", WS_POPUP, CRect(), CWnd::FromHandle(root), 0, ExtendedStyleFor(root)) != FALSE;
 }
 
-void TipWindow::SetContent(const TipContent& content, const TipColors& colors, HFONT font) {
+void TipWindow::SetContent(const TipContent& content, const ControlPalette& palette, HFONT font) {
   content_ = content;
-  colors_ = colors;
-  font_ = font;
+  palette_ = palette;
+  textFont_ = font;
   FontData bold = FontRecordOf(font);
   bold.bold = 1;
   titleFont_ = content.title.empty() ? nullptr : MakeFont(bold);
@@ -116,49 +115,42 @@ SIZE TipWindow::TextExtent(const std::wstring& text, HFONT font) const {
 void TipWindow::Measure() {
   iconSize_ = IconSizeOf(content_);
   titleSize_ = titleFont_ ? TextExtent(content_.title, titleFont_->GetSafeHandle()) : SIZE{};
-  const SIZE text = TextExtent(content_.text, font_);
+  const SIZE text = TextExtent(content_.text, textFont_);
   const int gap = titleSize_.cy > 0 && text.cy > 0 ? Scale(kTitleGap) : 0;
   const int icon = iconSize_.cx > 0 ? iconSize_.cx + Scale(kGap) : 0;
   size_ = {icon + std::max(titleSize_.cx, text.cx) + 2 * Scale(kPadding),
            std::max(titleSize_.cy + gap + text.cy, iconSize_.cy) + 2 * Scale(kPadding)};
 }
 
-void TipWindow::Paint(Painter& painter, const CRect& client) {
-  painter.FillRect(client, colors_.face);
-  painter.FrameRect(client, colors_.border);
+void TipWindow::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
+  painter.FillRect(client, palette.face);
+  painter.FrameRect(client, palette.border);
   CRect rest = client.Shrunk(Scale(kPadding), Scale(kPadding));
   if (iconSize_.cx > 0) {
-    PaintIcon(painter, {rest.left, rest.top, rest.left + iconSize_.cx, rest.top + iconSize_.cy});
+    PaintIcon(painter, {rest.left, rest.top, rest.left + iconSize_.cx, rest.top + iconSize_.cy},
+              palette);
     rest.left += iconSize_.cx + Scale(kGap);
   }
   if (titleFont_) {
-    painter.Text(content_.title, rest, kTextFormat, titleFont_->GetSafeHandle(), colors_.text);
+    painter.Text(content_.title, rest, kTextFormat, titleFont_->GetSafeHandle(), palette.text);
     rest.top += titleSize_.cy + Scale(kTitleGap);
   }
-  painter.Text(content_.text, rest, kTextFormat, font_, colors_.text);
+  painter.Text(content_.text, rest, kTextFormat, textFont_, palette.text);
 }
 
-void TipWindow::PaintIcon(Painter& painter, const CRect& place) const {
+void TipWindow::PaintIcon(Painter& painter, const CRect& place,
+                          const ControlPalette& palette) const {
   if (content_.picture) return painter.Picture(content_.picture.get(), place);
-  painter.FillEllipse(place, IconColor(content_.icon, colors_));
-  if (content_.icon == BalloonTipIconType::Error) return painter.Cross(place, colors_.face);
+  painter.FillEllipse(place, IconColor(content_.icon, palette));
+  if (content_.icon == BalloonTipIconType::Error) return painter.Cross(place, palette.face);
   const wchar_t* mark = content_.icon == BalloonTipIconType::Warning ? L"!" : L"i";
-  painter.Text(mark, place, DT_CENTER | DT_VCENTER | DT_SINGLELINE, font_, colors_.face);
+  painter.Text(mark, place, DT_CENTER | DT_VCENTER | DT_SINGLELINE, textFont_, palette.face);
 }
 
 // -- Messages
 
-LRESULT TipWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_MOUSEACTIVATE) return MA_NOACTIVATE;
-  if (message != WM_PAINT) return CWnd::WindowProc(message, wParam, lParam);
-  OnPaint();
-  return 0;
-}
-
-void TipWindow::OnPaint() {
-  CPaintDC dc(m_hWnd);
-  Painter painter(dc);
-  Paint(painter, GetClientRect());
+LRESULT TipWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  return message == WM_MOUSEACTIVATE ? MA_NOACTIVATE : DrawnWnd::Handle(message, wParam, lParam);
 }
 
 }  // namespace Wexa

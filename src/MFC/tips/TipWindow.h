@@ -4,10 +4,8 @@
 #include <string>
 
 #include "BalloonTipIconType.h"
+#include "MFC/DrawnWnd.h"
 #include "SkinManager.h"
-#include "platform/Classes.h"
-
-class Painter;
 
 namespace Wexa {
 
@@ -20,18 +18,12 @@ struct TipContent {
   int width = 320;  // at which lines are broken, in 96-DPI units
 };
 
-struct TipColors {
-  COLORREF face;
-  COLORREF text;
-  COLORREF border;
-  COLORREF accent;
-};
-
-TipColors TipColorsOf(const SkinManager& skin);
+ControlPalette TipPalette(const SkinManager& skin);
 
 // A window over all others that never gets the activation, with an icon, a bold title and a text.
-class TipWindow : public CWnd {
+class TipWindow : public DrawnWnd {
  public:
+  TipWindow();
   bool IsShown() const;
   void Hide();
 
@@ -39,24 +31,24 @@ class TipWindow : public CWnd {
   // Makes the hidden window, which lives no longer than the owner's top-level window. False when it
   // cannot be made.
   bool Prepare(HWND owner);
-  void SetContent(const TipContent& content, const TipColors& colors, HFONT font);
+  void SetContent(const TipContent& content, const ControlPalette& palette, HFONT font);
   // With the padding around the content.
   SIZE ContentSize() const { return size_; }
   // Moved into the work area and shown there.
   void ShowAt(CRect place);
-  const TipColors& Colors() const { return colors_; }
-  virtual void Paint(Painter& painter, const CRect& client);
-  LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+  const ControlPalette& Colors() const { return palette_; }
+  void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
+  bool ShowsHover() const override { return false; }
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  void OnPaint();
   void Measure();
-  void PaintIcon(Painter& painter, const CRect& place) const;
+  void PaintIcon(Painter& painter, const CRect& place, const ControlPalette& palette) const;
   SIZE TextExtent(const std::wstring& text, HFONT font) const;
 
   TipContent content_;
-  TipColors colors_{};
-  HFONT font_ = nullptr;
+  ControlPalette palette_{};
+  HFONT textFont_ = nullptr;
   std::unique_ptr<CFont> titleFont_;
   SIZE iconSize_{};
   SIZE titleSize_{};

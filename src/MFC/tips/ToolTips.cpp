@@ -41,7 +41,7 @@ bool IsSame(const std::weak_ptr<BaseGUIObject>& a, const std::weak_ptr<BaseGUIOb
 void ToolTipWindow::ShowLater(BaseGUIObject& widget, const TipContent& content) {
   Cancel();
   if (!Prepare(widget.GetPlatformHandle())) return;
-  SetContent(content, TipColorsOf(widget.GetSkinManager()), ImplOf(&widget)->Font());
+  SetContent(content, TipPalette(widget.GetSkinManager()), ImplOf(&widget)->Font());
   SetTimer(kShowTimer, kRestMilliseconds);
 }
 
