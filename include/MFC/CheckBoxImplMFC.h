@@ -21,7 +21,9 @@ class CheckBox::impl : public BaseImplMFC {
   int GetCheck();
   void SetTristate(bool tristate);
 
-  int borderRadius = 0;
+  // 96-DPI units; the configuration's at first.
+  void SetBorderRadius(int radius);
+  int GetBorderRadius() const { return borderRadius_; }
 
   // -- From the native button
   void OnClicked();
@@ -36,6 +38,7 @@ class CheckBox::impl : public BaseImplMFC {
  private:
   ButtonMFC<CheckBox> window_;
   int initialCheck_ = 0;
+  int borderRadius_;
 };
 
 }  // namespace Wexa

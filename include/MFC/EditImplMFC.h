@@ -5,6 +5,7 @@
 
 #include "Edit.h"
 #include "MFC/BaseImplMFC.h"
+#include "WexaConfig.h"
 
 namespace Wexa {
 
@@ -47,6 +48,7 @@ class Edit::impl : public BaseImplMFC {
   PasswordMode passwordMode_ = PasswordMode::Normal;
   int limit_ = -1;
   bool frame_ = true;
+  int radius_ = GetEditRadius();  // 96-DPI units
   bool changedByProgram_ = false;
 };
 

@@ -2,7 +2,9 @@
 
 #include "MFC/CheckBoxImplMFC.h"
 #include "MFC/base/WidgetColors.h"
+#include "WexaConfig.h"
 #include "platform/ControlConstants.h"
+#include "platform/Theme.h"
 
 namespace Wexa {
 
@@ -42,17 +44,18 @@ std::wstring CheckBox::GetText() {
   return impl_->Text();
 }
 void CheckBox::SetBorderRadius(int radius) {
-  if (radius >= 0) impl_->borderRadius = radius;
+  if (radius >= 0) impl_->SetBorderRadius(radius);
 }
 int CheckBox::GetBorderRadius() const {
-  return impl_->borderRadius;
+  return impl_->GetBorderRadius();
 }
 void CheckBox::SetWrap(bool) {}
 void CheckBox::SetMinimumHeight(unsigned int) {}
 
 // -- Implementation
 
-CheckBox::impl::impl(CheckBox* owner) : BaseImplMFC(owner), window_(*this) {
+CheckBox::impl::impl(CheckBox* owner)
+    : BaseImplMFC(owner), window_(*this), borderRadius_(GetCheckboxRadius()) {
   Creation().style |= WS_TABSTOP | BS_AUTOCHECKBOX;
 }
 
@@ -85,6 +88,12 @@ void CheckBox::impl::SetTristate(bool tristate) {
 
 void CheckBox::impl::FillPalette(ControlPalette& palette) {
   FillCheckPalette(palette, GetSkinManager());
+  palette.radius = Scale(borderRadius_);
+}
+
+void CheckBox::impl::SetBorderRadius(int radius) {
+  borderRadius_ = radius;
+  RefreshSkinColors();
 }
 
 void CheckBox::impl::KeepState() {

@@ -77,6 +77,7 @@ Size Edit::impl::MinimumIdealSize() {
 
 void Edit::impl::FillPalette(ControlPalette& palette) {
   FillInputPalette(palette, GetSkinManager());
+  palette.radius = Scale(radius_);
 }
 
 void Edit::impl::SetText(const std::wstring& text) {
