@@ -1,15 +1,12 @@
 #include "classes/ClassLayer.h"
 #include "controls/StandardControls.h"
+#include "platform/Postponed.h"
 
-// What handlers throw at the end of their windows cannot leave a destructor.
 CWnd::~CWnd() {
   const HWND window = m_hWnd;
   const bool owned = owned_;
   ClassLayer::Detach(*this);
-  try {
-    if (owned) ::DestroyWindow(window);
-  } catch (...) {
-  }
+  if (owned) RunPostponing([window] { ::DestroyWindow(window); });
 }
 
 CWnd* CWnd::FromHandle(HWND window) {

@@ -1,6 +1,7 @@
 #include "classes/MessagePump.h"
 
 #include "platform/Classes.h"
+#include "window/Queue.h"
 
 namespace {
 
@@ -30,6 +31,7 @@ Pumped PumpOneMessage(int& exitCode) {
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }
+  core::ThrowPostponed();
   return Pumped::Message;
 }
 

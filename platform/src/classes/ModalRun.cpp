@@ -6,6 +6,7 @@
 #include "classes/ClassLayer.h"
 #include "classes/MessagePump.h"
 #include "controls/DialogState.h"
+#include "platform/Postponed.h"
 
 namespace {
 
@@ -27,12 +28,9 @@ ModalRun::ModalRun(CDialogEx& dialog, HWND owner)
   if (owner_) EnableWindow(owner_, FALSE);
 }
 
-// Reached with the window still there only when an exception passes; a second one ends here.
+// Reached with the window still there only when an exception passes.
 ModalRun::~ModalRun() {
-  try {
-    Close();
-  } catch (...) {
-  }
+  RunPostponing([this] { Close(); });
   if (dialog_) ClassLayer::SetRun(*dialog_, nullptr);
 }
 
@@ -48,9 +46,9 @@ std::intptr_t ModalRun::Run(const DLGTEMPLATE* dialogTemplate, CWnd* owner) {
 void ModalRun::Pump() {
   int exitCode = 0;
   const Pumped pumped = PumpOneMessage(exitCode);
+  if (pumped == Pumped::Quit) PostQuitMessage(exitCode);
+  if (pumped == Pumped::Message || IsOver()) return;
   if (pumped == Pumped::NothingLeft) return CloseUnseen();
-  if (pumped == Pumped::Message) return;
-  PostQuitMessage(exitCode);
   End(IDCANCEL);
 }
 

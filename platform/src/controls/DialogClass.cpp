@@ -97,11 +97,13 @@ void SetDialogFont(HWND dialog, DialogState& state, HFONT font, bool redraw) {
   if (redraw) InvalidateRect(dialog, nullptr, TRUE);
 }
 
+// Whoever pumps for the dialog looks again whether it is there.
 void Forget(HWND dialog) {
   auto** slot = static_cast<DialogState**>(GetWindowExtra(dialog));
   if ((*slot)->ownFont) DeleteFont((*slot)->ownFont);
   delete *slot;
   *slot = nullptr;
+  PostMessageW(nullptr, WM_NULL, 0, 0);
 }
 
 LRESULT HandleInDialog(HWND dialog, DialogState& state, UINT message, WPARAM wParam,

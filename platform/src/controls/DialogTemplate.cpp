@@ -11,6 +11,7 @@
 #include "platform/DialogManager.h"
 #include "platform/Font.h"
 #include "platform/Geometry.h"
+#include "platform/Postponed.h"
 
 namespace {
 
@@ -107,7 +108,9 @@ CRect WindowRect(const DLGTEMPLATE& header, HFONT font, HWND owner) {
 class UnfinishedDialog {
  public:
   explicit UnfinishedDialog(HWND window) : window_(window) {}
-  ~UnfinishedDialog() { DestroyWindow(window_); }
+  ~UnfinishedDialog() {
+    RunPostponing([this] { DestroyWindow(window_); });
+  }
   UnfinishedDialog(const UnfinishedDialog&) = delete;
   UnfinishedDialog& operator=(const UnfinishedDialog&) = delete;
   HWND Get() const { return window_; }

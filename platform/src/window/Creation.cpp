@@ -1,3 +1,4 @@
+#include "platform/Postponed.h"
 #include "window/Coordinates.h"
 #include "window/CreationHook.h"
 #include "window/Dispatch.h"
@@ -64,7 +65,7 @@ class Unfinished {
  public:
   explicit Unfinished(Window& window) : window_(window.handle) {}
   ~Unfinished() {
-    if (window_) DestroyWindow(window_);
+    if (window_) RunPostponing([this] { DestroyWindow(window_); });
   }
   Unfinished(const Unfinished&) = delete;
   Unfinished& operator=(const Unfinished&) = delete;

@@ -8,11 +8,14 @@
 #include "window/Pointer.h"
 #include "window/Timers.h"
 #include "window/TopLevelSurface.h"
+#include "window/WindowClass.h"
 
 namespace core {
 namespace {
 
-// Ends windows. What their handlers throw is kept until everything is gone.
+// Ends windows. A handler on the way may end what holds the window, and the window with it: each
+// step is done once, by whoever comes to it first. What handlers throw is kept until everything is
+// gone.
 class Destroyer {
  public:
   void Destroy(Window& window) {
@@ -64,18 +67,29 @@ class Destroyer {
   }
 
   void SendDestroy(Window& window) {
+    Hold hold(&window);
     window.destroying = true;
-    Guarded([&] { Send(window, WM_DESTROY); });
+    if (!std::exchange(window.destroyTold, true)) Guarded([&] { Send(window, WM_DESTROY); });
+    if (!hold.Alive()) return;
     for (const HWND handle : Children(window))
       if (Window* child = Find(handle)) SendDestroy(*child);
   }
 
   void Remove(Window& window) {
     Hold hold(&window);
-    while (!window.children.empty()) Remove(*window.children.back());
-    Guarded([&] { Send(window, WM_NCDESTROY); });
+    while (hold.Alive() && !window.children.empty()) Remove(*window.children.back());
+    TellTheEnd(window);
+    if (!hold.Alive()) return;
     Forget(window);
     RemoveWindow(window);
+  }
+
+  // The class frees what it keeps for the window, also where a subclass did not let it know.
+  void TellTheEnd(Window& window) {
+    if (!std::exchange(window.endTold, true)) Guarded([&] { Send(window, WM_NCDESTROY); });
+    if (!window.alive || window.classToldEnd) return;
+    window.classToldEnd = true;
+    Guarded([&] { window.windowClass->procedure(window.handle, WM_NCDESTROY, 0, 0); });
   }
 
   static void Forget(Window& window) {

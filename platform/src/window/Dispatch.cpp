@@ -39,6 +39,7 @@ class Passage {
       if (link.procedure)
         return link.procedure(window_.handle, message, wParam, lParam, link.id, link.data);
     }
+    window_.classToldEnd |= message == WM_NCDESTROY;
     return window_.windowClass->procedure(window_.handle, message, wParam, lParam);
   }
 

@@ -5,6 +5,7 @@
 #include <mutex>
 #include <optional>
 
+#include "platform/Postponed.h"
 #include "platform/SystemColors.h"
 #include "window/Dispatch.h"
 #include "window/InputRouting.h"
@@ -32,6 +33,7 @@ PostedMessages& Posted() {
 struct PumpState {
   std::optional<MSG> peeked;  // looked at and left in the queue
   std::optional<int> quit;
+  std::exception_ptr postponed;
 };
 
 PumpState& Pump() {
@@ -75,6 +77,7 @@ std::optional<MSG> TakeQueued() {
 
 // One round through the sources, in their order.
 std::optional<MSG> TakeMessage() {
+  ThrowPostponed();
   BroadcastSchemeChange();
   if (auto message = TakeQueued()) return message;
   if (PaintNow())
@@ -130,6 +133,10 @@ void ExpectMore(int change) {
 
 }  // namespace
 
+void ThrowPostponed() {
+  if (Pump().postponed) std::rethrow_exception(std::exchange(Pump().postponed, nullptr));
+}
+
 bool HasPosted() {
   std::lock_guard lock(Posted().mutex);
   return !Posted().messages.empty();
@@ -153,6 +160,12 @@ void ExpectPosts() {
 
 void ExpectNoMorePosts() {
   core::ExpectMore(-1);
+}
+
+// The message wakes a pump that waits.
+void PostponeException(std::exception_ptr exception) {
+  if (!core::Pump().postponed) core::Pump().postponed = std::move(exception);
+  PostMessageW(nullptr, WM_NULL, 0, 0);
 }
 
 void PostQuitMessage(int exitCode) {

@@ -6,5 +6,7 @@ namespace core {
 
 // Whether posted messages wait.
 bool HasPosted();
+// Throws the exception that was postponed, if any.
+void ThrowPostponed();
 
 }  // namespace core

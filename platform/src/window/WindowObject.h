@@ -73,7 +73,10 @@ struct Window {
   bool eraseDue = false;
   bool subtreeDirty = false;  // it or a descendant has something to paint
   bool redraw = true;         // off between WM_SETREDRAW messages
-  bool destroying = false;
+  bool destroying = false;    // nobody may begin it again
+  bool destroyTold = false;   // WM_DESTROY was sent
+  bool endTold = false;       // WM_NCDESTROY was sent
+  bool classToldEnd = false;  // and its class has got it
 
   int scrollPositions[2] = {};  // SB_HORZ, SB_VERT
   bool allDue = false;          // the update region covers the whole window

@@ -12,6 +12,7 @@
 #include "layout/Layout.h"
 #include "layout/SizeLimits.h"
 #include "layout/WidgetItem.h"
+#include "platform/Postponed.h"
 #include "platform/Theme.h"
 
 namespace Wexa {
@@ -70,7 +71,7 @@ void BaseImplMFC::KeepState() {
 
 void BaseImplMFC::Release() {
   HWND window = GetHandle();
-  if (window) Window().DestroyWindow();
+  if (window) RunPostponing([this] { Window().DestroyWindow(); });
   // One of the window's last handlers may be what ends the widget: the window is there still.
   if (IsWindow(window) && owner_) DetachWindowProcedure(*owner_, window);
   owner_ = nullptr;
