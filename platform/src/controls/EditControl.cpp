@@ -160,7 +160,9 @@ bool EditControl::HandleInput(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 
 bool EditControl::HandleWindow(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
   switch (message) {
-    case WM_CREATE: TakeFirstText(*reinterpret_cast<const CREATESTRUCTW*>(lParam)); return true;
+    case WM_CREATE:
+      if (lParam) TakeFirstText(*reinterpret_cast<const CREATESTRUCTW*>(lParam));
+      return true;
     case WM_SIZE: FitView(Scroll::ToCaret); return true;
     case WM_STYLECHANGED:
       result = Default(message, wParam, lParam);

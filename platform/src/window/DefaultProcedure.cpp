@@ -17,7 +17,7 @@ namespace core {
 namespace {
 
 LRESULT OnNcCalcSize(const Window& window, LPARAM lParam) {
-  TakeFrameOff(window, *reinterpret_cast<RECT*>(lParam));
+  if (auto* rect = reinterpret_cast<RECT*>(lParam)) TakeFrameOff(window, *rect);
   return 0;
 }
 
@@ -55,16 +55,19 @@ LRESULT OnPaint(Window& window) {
 }
 
 LRESULT OnWindowPosChanging(Window& window, LPARAM lParam) {
-  auto& request = *reinterpret_cast<WINDOWPOS*>(lParam);
-  if (!window.top || !window.Is(WS_THICKFRAME) || (request.flags & SWP_NOSIZE)) return 0;
-  const SIZE size = LimitsOf(window).Clamp({request.cx, request.cy});
-  request.cx = size.cx;
-  request.cy = size.cy;
+  auto* request = reinterpret_cast<WINDOWPOS*>(lParam);
+  const bool isLimited = request && window.top && window.Is(WS_THICKFRAME);
+  if (!isLimited || (request->flags & SWP_NOSIZE)) return 0;
+  const SIZE size = LimitsOf(window).Clamp({request->cx, request->cy});
+  request->cx = size.cx;
+  request->cy = size.cy;
   return 0;
 }
 
 LRESULT OnWindowPosChanged(Window& window, LPARAM lParam) {
-  const UINT flags = reinterpret_cast<const WINDOWPOS*>(lParam)->flags;
+  const auto* change = reinterpret_cast<const WINDOWPOS*>(lParam);
+  if (!change) return 0;
+  const UINT flags = change->flags;
   Hold hold(&window);
   if (!(flags & kNoClientMove)) SendMove(window);
   if (hold.Alive() && !(flags & kNoClientSize)) SendSize(window);

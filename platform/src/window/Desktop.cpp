@@ -8,8 +8,8 @@ namespace {
 // Whatever change is asked for, nothing changes.
 LRESULT DesktopProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message != WM_WINDOWPOSCHANGING) return DefWindowProcW(window, message, wParam, lParam);
-  reinterpret_cast<WINDOWPOS*>(lParam)->flags =
-      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
+  if (auto* request = reinterpret_cast<WINDOWPOS*>(lParam))
+    request->flags = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
   return 0;
 }
 

@@ -28,7 +28,7 @@ class TitleCheck : public CButton, public std::enable_shared_from_this<TitleChec
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
     const auto self = shared_from_this();  // a click may destroy the box
     if (message != WM_GETCONTROLPALETTE) return CButton::WindowProc(message, wParam, lParam);
-    fillPalette(*reinterpret_cast<ControlPalette*>(lParam));
+    if (lParam) fillPalette(*reinterpret_cast<ControlPalette*>(lParam));
     return 1;
   }
   BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM, LRESULT*) override {

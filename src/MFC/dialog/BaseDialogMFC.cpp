@@ -29,7 +29,9 @@ LRESULT BaseDialogMFC::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
       if (LOWORD(lParam) == HTCLIENT && impl_.OnSetCursor()) return TRUE;
       break;
     case WM_SIZE: impl_.Pages().Fit(); break;
-    case WM_GETMINMAXINFO: impl_.OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam)); return 0;
+    case WM_GETMINMAXINFO:
+      if (lParam) impl_.OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
+      return 0;
     default: break;
   }
   return CDialogEx::WindowProc(message, wParam, lParam);

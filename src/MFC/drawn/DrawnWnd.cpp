@@ -28,7 +28,7 @@ LRESULT DrawnWnd::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   const bool isPostPaint = message == WM_PAINT && lParam == kPostPaint;
   const bool asksForColors = message == WM_GETCONTROLPALETTE;
   if (asksForColors && fillPalette) {
-    fillPalette(*reinterpret_cast<ControlPalette*>(lParam));
+    if (lParam) fillPalette(*reinterpret_cast<ControlPalette*>(lParam));
     return TRUE;
   }
   if (isPostPaint || asksForColors) return GetParent()->SendMessage(message, wParam, lParam);
