@@ -128,7 +128,7 @@ class CallbackList {
 
     void Post(const Connection& connection, const Args&... args) {
       if (!CanReceiveDeferredCalls(connection.receiver)) return;
-      pending.remove_if([](const auto& call) { return call->done.load(); });
+      while (!pending.empty() && pending.front()->done) pending.pop_front();
       auto call = std::make_shared<DeferredCall>();
       call->call = [callback = connection.callback, args...] { callback(args...); };
       pending.push_back(call);

@@ -11,47 +11,60 @@ namespace Wexa {
 
 namespace {
 
-// Calls on their way through a window's queue, and the widgets that have one. The queue carries a
+// The widgets that have a window, and the calls on their way through its queue. The queue carries a
 // token, never an address, so a call whose owner dies first is simply not found; nor does a posting
 // thread look into a widget.
 class CallsUnderWay {
  public:
   void AddReceiver(BaseGUIObject* receiver, HWND window) {
+    RemoveReceiver(receiver);
     std::lock_guard lock(lock_);
-    receivers_[receiver] = window;
+    receivers_[receiver].window = window;
   }
 
-  void RemoveReceiver(BaseGUIObject* receiver, HWND window) {
-    std::lock_guard lock(lock_);
-    auto found = receivers_.find(receiver);
-    if (found != receivers_.end() && found->second == window) receivers_.erase(found);
+  // What its window's queue still carries will never run.
+  void RemoveReceiver(BaseGUIObject* receiver) {
+    for (const auto& [token, waiting] : TakeOut(receiver).calls)
+      if (const auto call = waiting.lock()) call->done = true;
   }
 
   HWND WindowOf(BaseGUIObject* receiver) {
     std::lock_guard lock(lock_);
     auto found = receivers_.find(receiver);
-    return found == receivers_.end() ? nullptr : found->second;
+    return found == receivers_.end() ? nullptr : found->second.window;
   }
 
-  std::uintptr_t Add(const std::shared_ptr<DeferredCall>& call) {
+  bool Post(BaseGUIObject* receiver, const std::shared_ptr<DeferredCall>& call) {
     std::lock_guard lock(lock_);
-    calls_.emplace(++lastToken_, call);
-    return lastToken_;
+    auto found = receivers_.find(receiver);
+    if (found == receivers_.end()) return false;
+    if (!PostMessageW(found->second.window, kDeferredCallMessage, ++lastToken_, 0)) return false;
+    found->second.calls.emplace(lastToken_, call);
+    return true;
   }
 
-  std::shared_ptr<DeferredCall> Take(std::uintptr_t token) {
+  std::shared_ptr<DeferredCall> Take(BaseGUIObject* receiver, std::uintptr_t token) {
     std::lock_guard lock(lock_);
-    auto found = calls_.find(token);
-    if (found == calls_.end()) return nullptr;
-    auto call = found->second.lock();
-    calls_.erase(found);
-    return call;
+    auto found = receivers_.find(receiver);
+    if (found == receivers_.end()) return nullptr;
+    auto waiting = found->second.calls.extract(token);
+    return waiting ? waiting.mapped().lock() : nullptr;
   }
 
  private:
+  struct Receiver {
+    HWND window = nullptr;
+    std::unordered_map<std::uintptr_t, std::weak_ptr<DeferredCall>> calls;
+  };
+
+  Receiver TakeOut(BaseGUIObject* receiver) {
+    std::lock_guard lock(lock_);
+    auto found = receivers_.extract(receiver);
+    return found ? std::move(found.mapped()) : Receiver{};
+  }
+
   std::mutex lock_;
-  std::unordered_map<std::uintptr_t, std::weak_ptr<DeferredCall>> calls_;
-  std::unordered_map<BaseGUIObject*, HWND> receivers_;
+  std::unordered_map<BaseGUIObject*, Receiver> receivers_;
   std::uintptr_t lastToken_ = 0;
 };
 
@@ -67,7 +80,7 @@ void AddReceiver(BaseGUIObject* receiver, HWND window) {
 }
 
 void RemoveReceiver(BaseGUIObject* receiver, HWND window) {
-  Calls().RemoveReceiver(receiver, window);
+  if (Calls().WindowOf(receiver) == window) Calls().RemoveReceiver(receiver);
 }
 
 bool CanReceiveDeferredCalls(BaseGUIObject* receiver) {
@@ -75,16 +88,11 @@ bool CanReceiveDeferredCalls(BaseGUIObject* receiver) {
 }
 
 bool PostDeferredCall(BaseGUIObject* receiver, const std::shared_ptr<DeferredCall>& call) {
-  HWND window = Calls().WindowOf(receiver);
-  if (!window) return false;
-  std::uintptr_t token = Calls().Add(call);
-  if (PostMessageW(window, kDeferredCallMessage, token, 0)) return true;
-  Calls().Take(token);
-  return false;
+  return Calls().Post(receiver, call);
 }
 
-void RunDeferredCall(std::uintptr_t token) {
-  auto call = Calls().Take(token);
+void RunDeferredCall(BaseGUIObject* receiver, std::uintptr_t token) {
+  auto call = Calls().Take(receiver, token);
   if (!call || call->done.exchange(true)) return;
   call->call();
 }

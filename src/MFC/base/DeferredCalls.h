@@ -14,7 +14,7 @@ inline constexpr UINT kDeferredCallMessage = WM_APP + 1;
 // From now on, or no longer, calls for the widget are posted to this window.
 void AddReceiver(BaseGUIObject* receiver, HWND window);
 void RemoveReceiver(BaseGUIObject* receiver, HWND window);
-// Runs the posted call of a token once. Nothing happens when its owner is gone.
-void RunDeferredCall(std::uintptr_t token);
+// Runs the widget's posted call of a token once. Nothing happens when its owner is gone.
+void RunDeferredCall(BaseGUIObject* receiver, std::uintptr_t token);
 
 }  // namespace Wexa

@@ -100,7 +100,7 @@ class EventDispatch {
       case WM_SYSCOLORCHANGE: return Finish(message, OnSystemColors());
       case WM_PAINT: return OnPaint();
       case kUpdateLayoutsMessage: return OnUpdateLayouts();
-      case kDeferredCallMessage: RunDeferredCall(wParam_); return Default(message);
+      case kDeferredCallMessage: RunDeferredCall(&widget_, wParam_); return Default(message);
       case WM_GETCONTROLPALETTE: return OnGetPalette();
       case WM_GETCONTROLSTATE: return OnGetState();
       case WM_DESTROY: return OnDestroy();
@@ -187,7 +187,8 @@ class EventDispatch {
   bool OfferVisibility(bool shown) { return shown ? Offer(ShowEvent()) : Offer(HideEvent()); }
 
   bool OnPositionChanged() {
-    UINT flags = reinterpret_cast<const WINDOWPOS*>(lParam_)->flags;
+    const auto* change = reinterpret_cast<const WINDOWPOS*>(lParam_);
+    const UINT flags = change ? change->flags : 0;
     bool handled = false;
     if (flags & SWP_SHOWWINDOW) handled = Offer(ShowEvent());
     if (IsAlive() && (flags & SWP_HIDEWINDOW)) handled = Offer(HideEvent()) || handled;
@@ -332,7 +333,7 @@ class EventDispatch {
   }
 
   LRESULT OnGetPalette() {
-    impl_.ReadPalette(*reinterpret_cast<ControlPalette*>(lParam_));
+    if (lParam_) impl_.ReadPalette(*reinterpret_cast<ControlPalette*>(lParam_));
     return kHandled;
   }
 
@@ -349,9 +350,8 @@ class EventDispatch {
   }
 
   LRESULT OnFinalDestroy() {
-    const LRESULT result = Default(WM_NCDESTROY);
     DetachWindowProcedure(widget_, window_);
-    return result;
+    return Default(WM_NCDESTROY);
   }
 
   HWND window_;
