@@ -57,8 +57,8 @@ class Button::impl : public BaseImplMFC {
   void FillPalette(ControlPalette& palette) override;
 
  private:
-  bool CreateButton(const CRect& rect, DWORD style, CWnd* parent);
   void MakeCheckable();
+  void ReplaceWindow(std::shared_ptr<CButton> next);
   void TellButtonBox();
   // The text that stands on the button, which a picture may replace.
   std::wstring Caption();

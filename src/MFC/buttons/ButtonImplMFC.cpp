@@ -33,19 +33,19 @@ Button::impl::impl(Button* owner)
 }
 
 Button::impl::impl(Button* owner, std::shared_ptr<CButton> native)
-    : BaseImplMFC(owner), window_(std::move(native)) {}
+    : BaseImplMFC(owner), window_(std::move(native)) {
+  if (HWND window = GetHandle()) AttachWindowProcedure(*owner, window);
+}
 
 Button::impl::~impl() = default;
 
 bool Button::impl::CreateNative(CWnd* parent) {
   DWORD style = Creation().style | (checkable_ ? kToggleStyle : 0);
-  if (!CreateButton(ScaledRect(), style, parent)) return false;
+  if (!window_ ||
+      !window_->Create(Creation().text, style, ScaledRect(), parent, Creation().controlId))
+    return false;
   if (beginsChecked_) window_->SetCheck(BST_CHECKED);
   return true;
-}
-
-bool Button::impl::CreateButton(const CRect& rect, DWORD style, CWnd* parent) {
-  return window_ && window_->Create(Creation().text, style, rect, parent, Creation().controlId);
 }
 
 Size Button::impl::IdealSize() {
@@ -81,23 +81,31 @@ void Button::impl::SetChecked(bool checked) {
   window_->Invalidate();
 }
 
-// A push button cannot become a check box in place: the window is made again where it was.
+// A push button cannot become a check box in place: another window takes the place of its own.
 void Button::impl::MakeCheckable() {
   CWnd& old = Window();
   CWnd* parent = old.GetParent();
-  HWND previous = GetWindow(old.GetSafeHwnd(), GW_HWNDPREV);
   CRect rect = old.GetWindowRect();
   parent->ScreenToClient(&rect);
-  DWORD style = old.GetStyle() | kToggleStyle;
-  Creation().text = old.GetWindowText();
-  HFONT font = old.GetFont();
-  window_ = std::make_shared<ButtonMFC<Button>>(*this);
-  if (!CreateButton(rect, style, parent))
+  auto next = std::make_shared<ButtonMFC<Button>>(*this);
+  if (!next->Create(old.GetWindowText(), old.GetStyle() | kToggleStyle, rect, parent,
+                    static_cast<UINT>(old.GetDlgCtrlID())))
     throw WexaException("include/MFC/ButtonImplMFC", __LINE__, "SetChecked re-create error");
-  AttachWindowProcedure(*Owner(), GetHandle());
-  window_->SetFont(font);
-  window_->SetWindowPos(previous, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  next->SetFont(old.GetFont());
+  next->SetWindowPos(old.GetSafeHwnd(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   checkable_ = true;
+  ReplaceWindow(std::move(next));
+}
+
+// To its host the button is the same: it hears nothing of the change.
+void Button::impl::ReplaceWindow(std::shared_ptr<CButton> next) {
+  const auto old = std::exchange(window_, std::move(next));
+  DetachWindowProcedure(*Owner(), old->GetSafeHwnd());
+  if (GetFocus() == old->GetSafeHwnd()) window_->SetFocus();
+  AttachWindowProcedure(*Owner(), GetHandle());
+  SetMouseTracked(false);
+  if (IsAcceptDrops()) SetAcceptDrops(true);
+  old->DestroyWindow();
 }
 
 bool Button::impl::IsChecked() {
