@@ -50,6 +50,7 @@ class Dialog::impl : public BaseImplMFC {
   const std::vector<Element>& Elements() const { return elements_; }
   std::shared_ptr<BaseGUIObject> ElementByName(const std::wstring& name) const;
   BaseGUIObject* FocusedElement() const;
+  BaseGUIObject* WidgetOf(HWND window) const;
   void SetDefaultButton(Button* button);
 
   Size clientSize;  // as built, in pixels

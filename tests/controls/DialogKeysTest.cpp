@@ -47,6 +47,34 @@ TEST_F(DialogKeysTest, TabEntersNestedControlParents) {
   EXPECT_EQ(FocusedBy(VK_TAB, 4), (std::vector{11, 12, 14, 10}));
 }
 
+TEST_F(DialogKeysTest, AStopThatIsDisabledOrHiddenHandsTheFocusOn) {
+  const auto page = [&](int id) {
+    const HWND holder = CreateWindowExW(WS_EX_CONTROLPARENT, WC_DIALOG, L"", WS_CHILD | WS_VISIBLE,
+                                        0, 0, 50, 50, dialog_.m_hWnd, nullptr, nullptr);
+    Add(WC_BUTTON, WS_TABSTOP, {0, 0, 20, 20}, id, L"", holder);
+    return holder;
+  };
+  std::vector<HWND> stops;
+  for (int id = 10; id < 13; ++id) stops.push_back(AddStop(id));
+  const HWND holder = page(13);
+  AddStop(14);
+  SetFocus(stops[0]);
+  EnableWindow(stops[0], FALSE);
+  EXPECT_EQ(GetFocus(), stops[1]);
+  ShowWindow(stops[1], SW_HIDE);
+  EXPECT_EQ(GetFocus(), stops[2]);
+  DestroyWindow(stops[2]);
+  EXPECT_EQ(GetDlgCtrlID(GetFocus()), 13);
+  EnableWindow(holder, FALSE);
+  EXPECT_EQ(GetDlgCtrlID(GetFocus()), 14);
+  EnableWindow(GetFocus(), FALSE);
+  EXPECT_EQ(GetFocus(), dialog_.m_hWnd) << "no stop is left";
+  EnableWindow(holder, TRUE);
+  EXPECT_EQ(FocusedBy(VK_TAB, 1), std::vector{13});
+  robot_.Key(VK_ESCAPE);
+  EXPECT_EQ(dialog_.TakeClicks(), std::vector{IDCANCEL});
+}
+
 TEST_F(DialogKeysTest, TabSelectsTheTextOfAnEdit) {
   SetFocus(AddStop(10));
   const HWND edit = AddRow(WC_EDIT, WS_TABSTOP, 11, L"text");

@@ -106,7 +106,7 @@ TEST_F(PlaceTest, ChildOfAHiddenWindowIsNotVisible) {
   EXPECT_TRUE(IsWindowVisible(child));
 }
 
-TEST_F(PlaceTest, DisablingTakesFocusAndCapture) {
+TEST_F(PlaceTest, DisablingHandsTheFocusOnAndTakesTheCapture) {
   const HWND parent = ShowWindowAt({0, 0, 100, 100});
   const HWND child = MakeChild(parent, {0, 0, 10, 10});
   SetFocus(child);
@@ -115,7 +115,7 @@ TEST_F(PlaceTest, DisablingTakesFocusAndCapture) {
   EXPECT_FALSE(EnableWindow(child, FALSE));
   EXPECT_THAT(TakeNotes(), ElementsAre("CANCELMODE", "KILLFOCUS", "ENABLE"));
   EXPECT_EQ(GetCapture(), nullptr);
-  EXPECT_EQ(GetFocus(), nullptr);
+  EXPECT_EQ(GetFocus(), parent);
   EXPECT_TRUE(EnableWindow(child, FALSE));
   EXPECT_THAT(TakeNotes(), IsEmpty());
 }

@@ -27,10 +27,10 @@ bool HoldsControls(HWND window) {
 
 void AppendControls(HWND parent, std::vector<HWND>& controls) {
   for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-    if (!HoldsControls(child)) {
-      controls.push_back(child);
-    } else if (IsShownAndEnabled(child)) {
+    if (HoldsControls(child) && IsShownAndEnabled(child)) {
       AppendControls(child, controls);
+    } else {
+      controls.push_back(child);
     }
   }
 }

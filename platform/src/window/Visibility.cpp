@@ -21,10 +21,17 @@ UINT ShowFlags(const Window& window, int command) {
   return window.parent ? flags | SWP_NOZORDER : flags;
 }
 
-// A window that disappears or stops taking input gives the focus to what still can hold it.
+// A window that disappears or stops taking input hands the focus on: a dialog gives it to its next
+// stop, other windows to what holds this one.
 void PassFocusOn(Window& window) {
-  if (!core::IsInside(window, Find(GetFocus()))) return;
-  core::ChangeFocus(window.parent);
+  const auto hasFocus = [&] { return core::IsInside(window, core::FocusedWindow()); };
+  if (!hasFocus()) return;
+  Hold hold(&window);
+  if (window.parent) Send(core::Root(window), WM_NEXTDLGCTL);
+  if (!hold.Alive() || !hasFocus()) return;
+  Window* heir = window.parent;
+  while (heir && !heir->IsEnabled()) heir = heir->parent;
+  core::ChangeFocus(heir);
 }
 
 void Disable(Window& window) {
@@ -32,7 +39,7 @@ void Disable(Window& window) {
   Send(window, WM_CANCELMODE);
   if (!hold.Alive()) return;
   window.style |= WS_DISABLED;
-  if (core::IsInside(window, Find(GetFocus()))) core::ChangeFocus(nullptr);
+  PassFocusOn(window);
 }
 
 }  // namespace

@@ -104,11 +104,20 @@ std::shared_ptr<BaseGUIObject> Dialog::impl::ElementByName(const std::wstring& n
   return found == elementsByName_.end() ? nullptr : elements_[found->second].widget;
 }
 
+// A widget may consist of several windows.
 BaseGUIObject* Dialog::impl::FocusedElement() const {
-  HWND focus = GetFocus();
-  if (!focus) return nullptr;
-  for (const Element& element : elements_)
-    if (element.widget->GetPlatformHandle() == focus) return element.widget.get();
+  for (HWND window = GetFocus(); window; window = ::GetParent(window))
+    if (BaseGUIObject* widget = WidgetOf(window)) return widget;
+  return nullptr;
+}
+
+// An element, or a part of one that is a widget itself.
+BaseGUIObject* Dialog::impl::WidgetOf(HWND window) const {
+  for (const Element& element : elements_) {
+    if (element.widget->GetPlatformHandle() == window) return element.widget.get();
+    for (BaseGUIObject* part : ImplOf(element.widget.get())->Children())
+      if (part->GetPlatformHandle() == window) return part;
+  }
   return nullptr;
 }
 

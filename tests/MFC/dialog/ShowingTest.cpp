@@ -182,6 +182,19 @@ TEST_F(DialogTest, AnExceptionOfAHandlerLeavesNothingBehind) {
   EXPECT_EQ(modal->DoModal(), kOwnState) << "it can be shown again";
 }
 
+TEST_F(DialogTest, TheFocusInAPartOfAWidgetIsTheWidgets) {
+  Open(ColumnForm(
+      ItemXml(WidgetXml("QTabWidget", "tabs", WidgetXml("QWidget", "page"))) +
+      ItemXml(WidgetXml("QDialogButtonBox", "box",
+                        PropertyXml("standardButtons", "set", "QDialogButtonBox::Ok")))));
+  const auto focusFirstPartOf = [this](const wchar_t* name) {
+    SetFocus(GetWindow(Find<BaseGUIObject>(name).GetPlatformHandle(), GW_CHILD));
+    return dialog_->GetFocusedCtrlPtr();
+  };
+  EXPECT_EQ(focusFirstPartOf(L"tabs"), &Find<BaseGUIObject>(L"tabs"));
+  EXPECT_EQ(focusFirstPartOf(L"box"), Find<ButtonBox>(L"box").GetButton(StandardButton::OK).get());
+}
+
 TEST_F(DialogTest, AHandlerMayDestroyItsDialog) {
   auto& dialog = Scripted(ColumnForm(PushButton("bye")));
   auto& button = Find<Button>(L"bye");
