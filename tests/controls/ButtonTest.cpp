@@ -22,6 +22,16 @@ TEST_F(ButtonTest, ReleaseOutsideDoesNotClick) {
   EXPECT_EQ(GetCapture(), nullptr);
 }
 
+// The pointer may get there without a move in between.
+TEST_F(ButtonTest, WhereItIsReleasedCounts) {
+  const HWND button = AddRow(WC_BUTTON, 0, 10);
+  for (const auto& [pressed, released] : {std::pair{5, 500}, std::pair{500, 5}}) {
+    SendMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(pressed, 5));
+    SendMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(released, 5));
+    EXPECT_EQ(dialog_.TakeClicks().size(), released == 5 ? 1U : 0U);
+  }
+}
+
 TEST_F(ButtonTest, DraggingBackInsideClicks) {
   const HWND button = AddRow(WC_BUTTON, 0, 10);
   const POINT inside = CentreOf(button);

@@ -35,7 +35,7 @@ LRESULT ButtonControl::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case BM_GETSTATE: return StateBits();
     case BM_SETSTATE: SetPushed(wParam != 0); return 0;
     case BM_SETSTYLE: SetTypeStyle(static_cast<DWORD>(wParam), LOWORD(lParam) != 0); return 0;
-    case BM_CLICK: Click(); return 0;
+    case BM_CLICK: ClickByProgram(); return 0;
     case WM_SETFOCUS:
     case WM_KILLFOCUS: return HandleFocus(message, wParam, lParam);
     default: break;
@@ -49,7 +49,7 @@ LRESULT ButtonControl::HandleInput(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDOWN: OnPress(PointOf(lParam), false); return 0;
     case WM_LBUTTONDBLCLK: OnPress(PointOf(lParam), true); return 0;
     case WM_MOUSEMOVE: OnDrag(PointOf(lParam)); break;
-    case WM_LBUTTONUP: OnRelease(); return 0;
+    case WM_LBUTTONUP: OnRelease(PointOf(lParam)); return 0;
     case WM_CANCELMODE:
     case WM_CAPTURECHANGED: CancelPress(); return 0;
     case WM_KEYDOWN: OnKeyDown(wParam, lParam); break;
@@ -107,9 +107,9 @@ void ButtonControl::OnDrag(POINT point) {
   if (mousePressed_) SetPushed(Client().Contains(point));
 }
 
-void ButtonControl::OnRelease() {
+void ButtonControl::OnRelease(POINT point) {
   if (!mousePressed_) return;
-  const bool inside = pushed_;
+  const bool inside = Client().Contains(point);
   ReleaseCapture();
   CancelPress();
   if (inside) Click();
@@ -134,6 +134,12 @@ void ButtonControl::CancelPress() {
   keyPressed_ = false;
   SetPushed(false);
   if (held && GetCapture() == Window()) ReleaseCapture();
+}
+
+// As the mouse does: the focus comes first.
+void ButtonControl::ClickByProgram() {
+  if (IsWindowEnabled(Window())) SetFocus(Window());
+  if (IsWindow(Window())) Click();
 }
 
 void ButtonControl::Click() {

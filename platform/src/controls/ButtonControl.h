@@ -24,11 +24,12 @@ class ButtonControl : public Control {
 
   void OnPress(POINT point, bool secondClick);
   void OnDrag(POINT point);
-  void OnRelease();
+  void OnRelease(POINT point);
   void OnKeyDown(WPARAM key, LPARAM flags);
   void OnKeyUp(WPARAM key);
   void CancelPress();
   void Click();
+  void ClickByProgram();
 
   void SetPushed(bool pushed);
   void SetCheck(int check);
