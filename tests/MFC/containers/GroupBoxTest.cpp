@@ -1,6 +1,5 @@
 #include "GroupBox.h"
 
-#include "Event.h"
 #include "platform/VirtualKeys.h"
 #include "support/FormTest.h"
 
@@ -86,24 +85,6 @@ TEST_F(GroupBoxTest, CheckableOrNotTheContentStartsBelowTheTitle) {
   Robot::PumpAll();
   EXPECT_EQ(PlaceOf(L"host").Top(), plain);
   EXPECT_TRUE(IsEnabled(L"host")) << "a plain box disables nothing";
-}
-
-TEST_F(GroupBoxTest, AHandlerMayDestroyTheDialog) {
-  OpenGroup(Checkable("true")).Toggled.Connect([this](bool) { dialog_.reset(); });
-  robot_.ClickCentreOf(Check());
-  EXPECT_EQ(dialog_, nullptr);
-}
-
-TEST_F(GroupBoxTest, AChildThatLosesTheFocusMayDestroyTheDialog) {
-  GroupBox& group = OpenGroup(Checkable("true"));
-  auto& host = Find<BaseGUIObject>(L"host");
-  dialog_->SetFocusToCtrl(&host);
-  host.SetEventProcedure([this](BaseGUIObject*, Event* event) {
-    if (event->GetType() == Event::FocusOut) dialog_.reset();
-    return false;
-  });
-  group.SetChecked(false);
-  EXPECT_EQ(dialog_, nullptr);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "ScrollArea.h"
 
-#include "Event.h"
 #include "platform/Theme.h"
 #include "platform/VirtualKeys.h"
 #include "support/FormTest.h"
@@ -150,17 +149,6 @@ TEST_F(ScrollAreaTest, RowsThatGoMakeTheBarGo) {
     Find<BaseGUIObject>(row).Show(false, true);
   Robot::PumpAll();
   EXPECT_EQ(Content().Width(), withBar + Theme::ScrollBarWidth());
-}
-
-TEST_F(ScrollAreaTest, AFocusChangeInsideMayDestroyTheDialog) {
-  OpenRows(20);
-  Focus(L"row0");
-  Find<BaseGUIObject>(L"row0").SetEventProcedure([this](BaseGUIObject*, Event* event) {
-    if (event->GetType() == Event::FocusOut) dialog_.reset();
-    return false;
-  });
-  Focus(L"row19");
-  EXPECT_EQ(dialog_, nullptr);
 }
 
 }  // namespace

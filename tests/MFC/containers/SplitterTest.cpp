@@ -1,8 +1,5 @@
 #include "Splitter.h"
 
-#include <functional>
-
-#include "Event.h"
 #include "WexaConfig.h"
 #include "WexaUtils.h"
 #include "platform/VirtualKeys.h"
@@ -186,27 +183,6 @@ TEST_F(SplitterTest, FromRightToLeftHandlesFollowPointerAndArrows) {
   SetFocus(WindowFromPoint({handle.x - 30, handle.y}));
   robot_.Key(VK_RIGHT);
   EXPECT_LT(WidthOf(L"a"), a + 30);
-}
-
-TEST_F(SplitterTest, AViewThatMovesMayDestroyTheDialog) {
-  const std::vector<std::function<void()>> ways = {
-      [this] { DragHandle(L"a", 20); },
-      [this] {
-        SetFocus(WindowFromPoint(HandleAfter(L"a")));
-        robot_.Key(VK_RIGHT);
-      },
-      [this] { Split().SetHandleWidth(30); },
-      [this] { Split().SetOrientation(true); },
-  };
-  for (const auto& way : ways) {
-    OpenThree();
-    Find<BaseGUIObject>(L"b").SetEventProcedure([this](BaseGUIObject*, Event* event) {
-      if (event->GetType() == Event::Resize) dialog_.reset();
-      return false;
-    });
-    way();
-    EXPECT_EQ(dialog_, nullptr);
-  }
 }
 
 }  // namespace

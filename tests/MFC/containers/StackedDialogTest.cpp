@@ -61,16 +61,6 @@ TEST_F(StackedDialogTest, TheFocusLeavesAHiddenPage) {
   EXPECT_EQ(dialog_->GetFocusedCtrlPtr(), &Find<BaseGUIObject>(L"outside")) << "it was not inside";
 }
 
-TEST_F(StackedDialogTest, APageMayDestroyTheDialogWhenItIsHidden) {
-  OpenStack();
-  Find<BaseGUIObject>(L"one").SetEventProcedure([this](BaseGUIObject*, Event* event) {
-    if (event->GetType() == Event::Hide) dialog_.reset();
-    return false;
-  });
-  Stack().SetCurrentIndex(1);
-  EXPECT_EQ(dialog_, nullptr);
-}
-
 TEST_F(StackedDialogTest, APageDisabledWithMemoryStaysDisabled) {
   OpenStack();
   Stack().EnablePage(0, false, true);

@@ -1,7 +1,6 @@
 #include "TabView.h"
 
 #include "ChildDialog.h"
-#include "Event.h"
 #include "platform/DialogManager.h"
 #include "platform/Theme.h"
 #include "platform/VirtualKeys.h"
@@ -206,29 +205,6 @@ TEST_F(TabViewTest, RightToLeftMirrorsTabsAndArrows) {
   robot_.Click(TabPoint(2));
   EXPECT_EQ(Tabs().GetCurrentIndex(), 2);
   EXPECT_GT(TabPoint(0).x, (window.left + window.right) / 2);
-}
-
-TEST_F(TabViewTest, AHandlerMayDestroyTheDialog) {
-  for (int way = 0; way < 4; ++way) {
-    Open(ColumnForm(ThreePages()));
-    Tabs().CurrentChanged.Connect([this](int) { dialog_.reset(); });
-    SetFocus(Strip());
-    if (way == 0) robot_.Click(TabPoint(1));
-    if (way == 1) robot_.Key(VK_RIGHT);
-    if (way == 2) robot_.ControlKey(VK_TAB);
-    if (way == 3) robot_.AltKey(L'T');
-    EXPECT_EQ(dialog_, nullptr) << way;
-  }
-}
-
-TEST_F(TabViewTest, APageMayDestroyTheDialogWhenItIsHidden) {
-  Open(ColumnForm(ThreePages()));
-  Find<BaseGUIObject>(L"one").SetEventProcedure([this](BaseGUIObject*, Event* event) {
-    if (event->GetType() == Event::Hide) dialog_.reset();
-    return false;
-  });
-  robot_.Click(TabPoint(1));
-  EXPECT_EQ(dialog_, nullptr);
 }
 
 }  // namespace

@@ -137,18 +137,5 @@ TEST_F(RangeControlTest, TicksAreDrawnBesideTheTrack) {
   EXPECT_TRUE(Robot::HasInk(Range().GetPlatformHandle(), below));
 }
 
-TEST_F(RangeControlTest, AHandlerMayDestroyTheDialog) {
-  for (int way = 0; way < 4; ++way) {
-    OpenRange(way % 2 ? "QScrollBar" : "QSlider");
-    Range().ValueChanged.Connect([this](int) { dialog_.reset(); });
-    if (way == 0) robot_.Drag(At(5), At(100));
-    if (way == 1) robot_.Click(At(Place().Width() - 3));
-    if (way == 2) SetFocus(Range().GetPlatformHandle());
-    if (way == 2) robot_.Key(VK_RIGHT);
-    if (way == 3) Range().SetValue(4);
-    EXPECT_EQ(dialog_, nullptr) << way;
-  }
-}
-
 }  // namespace
 }  // namespace Wexa

@@ -49,11 +49,5 @@ TEST_F(DrawElementTest, TakesTheFocusOnlyWhenItShould) {
   EXPECT_TRUE(Robot::HasInk(window, {0, 0, 30, 2})) << "the focus shows";
 }
 
-TEST_F(DrawElementTest, TheProcedureMayDestroyTheDialog) {
-  OpenCanvas().SetPaintProcedure([this](Painter&, const Rect&) { dialog_.reset(); });
-  Robot::PumpAll();
-  EXPECT_EQ(dialog_, nullptr);
-}
-
 }  // namespace
 }  // namespace Wexa

@@ -92,18 +92,5 @@ TEST_F(HyperLinkElementTest, TheHandShowsOverTheTextOnly) {
   EXPECT_EQ(cursor(), display::CursorShape::Arrow);
 }
 
-TEST_F(HyperLinkElementTest, AHandlerMayDestroyTheDialog) {
-  for (bool byKey : {false, true}) {
-    OpenLink();
-    Link().Clicked.Connect([this] { dialog_.reset(); });
-    SetFocus(Link().GetPlatformHandle());
-    if (byKey)
-      robot_.Key(VK_RETURN);
-    else
-      robot_.Click(OnText());
-    EXPECT_EQ(dialog_, nullptr);
-  }
-}
-
 }  // namespace
 }  // namespace Wexa
