@@ -36,7 +36,8 @@ LRESULT SelfDrawn::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_PAINT: OnPaint(); return 0;
     case WM_ERASEBKGND: return TRUE;
-    case WM_GETCONTROLSTATE: return OnGetState(*reinterpret_cast<ControlState*>(lParam));
+    case WM_GETCONTROLSTATE:
+      return lParam ? OnGetState(*reinterpret_cast<ControlState*>(lParam)) : 0;
     case WM_SETFONT: OnSetFont(reinterpret_cast<HFONT>(wParam), LOWORD(lParam) != 0); return 0;
     case WM_GETFONT: return reinterpret_cast<LRESULT>(font_);
     case WM_MOUSEMOVE: SetHovered(true); return 0;

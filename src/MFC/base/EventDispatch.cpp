@@ -339,7 +339,7 @@ class EventDispatch {
 
   LRESULT OnGetState() {
     const LRESULT result = Default(WM_GETCONTROLSTATE);
-    impl_.RefineState(*reinterpret_cast<ControlState*>(lParam_));
+    if (lParam_) impl_.RefineState(*reinterpret_cast<ControlState*>(lParam_));
     return result;
   }
 
