@@ -61,17 +61,4 @@ class DialogTest : public FormTest {
   void Focus(const wchar_t* name) { dialog_->SetFocusToCtrl(&Find<BaseGUIObject>(name)); }
 };
 
-inline std::string TextWidget(const std::string& className, const std::string& name,
-                              const std::string& text, const std::string& more = "") {
-  return ItemXml(WidgetXml(className, name, PropertyXml("text", "string", text) + more));
-}
-
-inline std::string PushButton(const std::string& name, const std::string& more = "") {
-  return TextWidget("QPushButton", name, name, more);
-}
-
-inline std::string LineEdit(const std::string& name, const std::string& more = "") {
-  return TextWidget("QLineEdit", name, name, more);
-}
-
 }  // namespace Wexa

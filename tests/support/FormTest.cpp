@@ -7,39 +7,21 @@
 #include <fstream>
 
 #include "MFC/DialogImplMFC.h"
+#include "ScaleFactor.h"
 
 namespace Wexa {
-
-std::string WidgetXml(const std::string& className, const std::string& name,
-                      const std::string& inner) {
-  return "<widget class=\"" + className + "\" name=\"" + name + "\">" + inner + "</widget>";
-}
-
-std::string PropertyXml(const std::string& name, const std::string& kind,
-                        const std::string& value) {
-  return "<property name=\"" + name + "\"><" + kind + ">" + value + "</" + kind + "></property>";
-}
-
-std::string ItemXml(const std::string& inner, const std::string& attributes) {
-  return "<item " + attributes + ">" + inner + "</item>";
-}
-
-std::string FormXml(const std::string& rootContent, int width, int height) {
-  return "<ui version=\"4.0\"><widget class=\"QDialog\" name=\"root\">"
-         "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>" +
-         std::to_string(width) + "</width><height>" + std::to_string(height) +
-         "</height></rect></property>" + rootContent + "</widget></ui>";
-}
-
-std::string ColumnForm(const std::string& items, int width, int height) {
-  return FormXml("<layout class=\"QVBoxLayout\" name=\"column\">" + items + "</layout>", width,
-                 height);
-}
 
 void FormTest::TearDown() {
   dialog_.reset();
   Robot::PumpAll();
   for (const std::string& file : files_) std::remove(file.c_str());
+}
+
+void FormTest::UseResolution(int dpi) {
+  dialog_.reset();
+  Robot::PumpAll();
+  display::SetCurrent(std::make_unique<display::OffscreenDisplay>(dpi));
+  ResetScaleFactor();
 }
 
 std::wstring FormTest::FileOf(const std::string& form) {

@@ -14,7 +14,7 @@ constexpr int kCallsOfEach = 500;
 class PostingTest : public FormTest {
  protected:
   PostingTest() {
-    Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+    Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
     list_->Connect(dialog_.get(), [this](int n) { sum_ += n; });
   }
 

@@ -13,14 +13,6 @@
 namespace Wexa {
 namespace {
 
-std::string EditXml(const std::string& name) {
-  return ItemXml(WidgetXml("QLineEdit", name));
-}
-
-std::string LabelXml(const std::string& name, const std::string& text) {
-  return ItemXml(WidgetXml("QLabel", name, PropertyXml("text", "string", text)));
-}
-
 // The widgets of a form and what their event procedures got.
 class WidgetTest : public FormTest {
  protected:
@@ -42,7 +34,7 @@ class WidgetTest : public FormTest {
 };
 
 TEST_F(WidgetTest, ARememberedDisableOutlivesATemporaryEnable) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   auto& edit = Find<BaseGUIObject>(L"edit");
   edit.Enable(false, true);
   edit.Enable(true, false);
@@ -91,7 +83,7 @@ TEST_F(WidgetTest, WhatNeedsAWindowSaysThatThereIsNone) {
 }
 
 TEST_F(WidgetTest, MetricsAreThoseOfTheWindow) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   const Rect window = dialog_->GetWindowRect();
   const Rect client = dialog_->GetClientRect();
   EXPECT_GT(dialog_->GetFrarmeWidth(), 0);
@@ -139,7 +131,7 @@ TEST_F(WidgetTest, UnscaledPlacesAndLimitsAreIn96thsOfAnInch) {
 }
 
 TEST_F(WidgetTest, TextIsMeasuredInTheWidgetsFontOrAnother) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   auto& edit = Find<BaseGUIObject>(L"edit");
   std::wstring text = L"Some words";
   FontData large;
@@ -154,7 +146,7 @@ TEST_F(WidgetTest, TextIsMeasuredInTheWidgetsFontOrAnother) {
 }
 
 TEST_F(WidgetTest, EachWayToRedrawPaintsOnce) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   auto& edit = Find<BaseGUIObject>(L"edit");
   int paints = 0;
   edit.SetEventProcedure([&](BaseGUIObject*, Event* event) {
@@ -206,7 +198,7 @@ TEST_F(WidgetTest, ResizeEventsShareOneOldSize) {
 }
 
 TEST_F(WidgetTest, AHandledCharacterDoesNotReachTheEdit) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   auto& edit = Find<BaseGUIObject>(L"edit");
   dialog_->SetFocusToCtrl(&edit);
   robot_.Type(L"x");
@@ -216,7 +208,7 @@ TEST_F(WidgetTest, AHandledCharacterDoesNotReachTheEdit) {
 }
 
 TEST_F(WidgetTest, AHandledPaintSuppressesTheNativeOneAndEnds) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   auto& edit = Find<BaseGUIObject>(L"edit");
   int paints = 0;
   int postPaints = 0;
@@ -238,7 +230,7 @@ TEST_F(WidgetTest, AHandledPaintSuppressesTheNativeOneAndEnds) {
 }
 
 TEST_F(WidgetTest, TimersComeWithTheirIds) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   auto& edit = Find<BaseGUIObject>(L"edit");
   int fired = 0;
   edit.SetEventProcedure([&](BaseGUIObject* widget, Event* event) {
@@ -253,9 +245,8 @@ TEST_F(WidgetTest, TimersComeWithTheirIds) {
 }
 
 TEST_F(WidgetTest, AChangedTextLaysOutOnceAndMovesItsNeighbour) {
-  Open(FormXml("<layout class=\"QHBoxLayout\" name=\"row\">" + LabelXml("label", "a") +
-                   EditXml("edit") + "</layout>",
-               300, 60));
+  Open(FormXml(RowXml(TextWidget("QLabel", "label", "a") + WidgetItem("QLineEdit", "edit")), 300,
+               60));
   int before = PlaceOf(L"edit").Left();
   int layouts = 0;
   dialog_->SetEventProcedure([&](BaseGUIObject*, Event* event) {
@@ -270,7 +261,7 @@ TEST_F(WidgetTest, AChangedTextLaysOutOnceAndMovesItsNeighbour) {
 }
 
 TEST_F(WidgetTest, DestroyedIsFiredWithTheWidget) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   BaseGUIObject* dead = nullptr;
   auto& edit = Find<BaseGUIObject>(L"edit");
   edit.Destroyed.Connect([&](BaseGUIObject* widget) { dead = widget; });

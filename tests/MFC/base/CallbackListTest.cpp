@@ -128,7 +128,7 @@ TEST(CallbackListTest, ASenderOfADeadListDoesNothing) {
 class QueuedCallTest : public FormTest {};
 
 TEST_F(QueuedCallTest, CallsForAReceiverThatIsGoneAreDropped) {
-  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   List list;
   int calls = 0;
   list.Connect(dialog_.get(), [&](int) { ++calls; });
@@ -140,7 +140,7 @@ TEST_F(QueuedCallTest, CallsForAReceiverThatIsGoneAreDropped) {
 }
 
 TEST_F(QueuedCallTest, AReceiverGetsCallsAgainWhenItsWindowIsBack) {
-  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   List list;
   int calls = 0;
   list.Connect(dialog_.get(), [&](int n) { calls += n; });
@@ -153,7 +153,7 @@ TEST_F(QueuedCallTest, AReceiverGetsCallsAgainWhenItsWindowIsBack) {
 }
 
 TEST_F(QueuedCallTest, CallsKeepTheirOrderAndLeaveNothingBehind) {
-  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   const auto held = std::make_shared<int>();
   CallbackList<std::shared_ptr<int>, int> list;
   std::vector<int> got;
@@ -170,7 +170,7 @@ TEST_F(QueuedCallTest, CallsKeepTheirOrderAndLeaveNothingBehind) {
 }
 
 TEST_F(QueuedCallTest, ACallMayEndItsReceiverAndItsList) {
-  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   int calls = 0;
   auto list = std::make_unique<List>();
   list->Connect(dialog_.get(), [&](int) {
@@ -185,7 +185,7 @@ TEST_F(QueuedCallTest, ACallMayEndItsReceiverAndItsList) {
 }
 
 TEST_F(QueuedCallTest, ArgumentsAreCopied) {
-  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   CallbackList<std::wstring> list;
   std::wstring got;
   list.Connect(dialog_.get(), [&](std::wstring text) { got = text; });

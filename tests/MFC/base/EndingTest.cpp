@@ -25,13 +25,11 @@ namespace {
 const std::string kEdit = WidgetXml("QLineEdit", "inner");
 
 std::string Column(const std::string& inner) {
-  return "<layout class=\"QVBoxLayout\" name=\"rows\">" + ItemXml(inner) + "</layout>";
+  return ColumnXml(ItemXml(inner));
 }
 
 std::string PageXml(const std::string& name, const std::string& title, const std::string& inner) {
-  return WidgetXml(
-      "QWidget", name,
-      "<attribute name=\"title\"><string>" + title + "</string></attribute>" + Column(inner));
+  return WidgetXml("QWidget", name, AttributeXml("title", title) + Column(inner));
 }
 
 const std::string kPages = PageXml("page", "A", kEdit) +
@@ -42,8 +40,7 @@ class EndingTest : public FormTest {
  protected:
   // One widget, with an edit below it.
   BaseGUIObject& OpenOne(const char* className, const std::string& inner) {
-    Open(ColumnForm(ItemXml(WidgetXml(className, "widget", inner)) +
-                    ItemXml(WidgetXml("QLineEdit", "other"))));
+    Open(ColumnForm(WidgetItem(className, "widget", inner) + WidgetItem("QLineEdit", "other")));
     return Find<BaseGUIObject>(L"widget");
   }
   HWND Window(const wchar_t* name = L"widget") {
@@ -85,8 +82,8 @@ TEST_F(EndingTest, AHostMayEndTheDialogInAnyNotice) {
     EndIn(Event::FocusOut, L"inner");
   };
   const auto split = [this]() -> Splitter& { return Find<Splitter>(L"widget"); };
-  const std::string checkable = PropertyXml("checkable", "bool", "true") + Column(kEdit);
-  const std::string level = PropertyXml("orientation", "enum", "Qt::Horizontal");
+  const std::string checkable = BoolXml("checkable") + Column(kEdit);
+  const std::string level = EnumXml("orientation", "Qt::Horizontal");
   struct Case {
     const char* className;
     std::string inner;
@@ -98,10 +95,9 @@ TEST_F(EndingTest, AHostMayEndTheDialogInAnyNotice) {
       {"QCheckBox", "", [&] { Find<CheckBox>(L"widget").Clicked.Connect(end); }, click},
       {"QRadioButton", "", [&] { Find<RadioButton>(L"widget").Clicked.Connect(end); }, click},
       {"QRadioButton", "", [&] { Find<RadioButton>(L"widget").GroupChanged.Connect(end); }, click},
-      {"HyperLinkElement", PropertyXml("text", "string", "a link"), linkClicked,
+      {"HyperLinkElement", TextXml("a link"), linkClicked,
        [&] { robot_.Click(At(8, PlaceOf(L"widget").Height() / 2)); }},
-      {"HyperLinkElement", PropertyXml("text", "string", "a link"), linkClicked,
-       [&] { PressKey(Window(), VK_RETURN); }},
+      {"HyperLinkElement", TextXml("a link"), linkClicked, [&] { PressKey(Window(), VK_RETURN); }},
       {"DrawElement", "", [&] { Find<DrawElement>(L"widget").SetPaintProcedure(end); },
        [] { Robot::PumpAll(); }},
       {"QGroupBox", checkable, [&] { Find<GroupBox>(L"widget").Toggled.Connect(end); },
@@ -218,7 +214,7 @@ TEST_F(ReactingTest, AHostMayEndTheDialogOrThrowWhileAWidgetOrTheDialogEnds) {
 
 // The loop may not wait for input that would not concern it.
 TEST_F(EndingTest, ADialogThatEndsWithItsFirstPaintLeavesItsLoop) {
-  dialog_ = Make(ColumnForm(ItemXml(WidgetXml("QPushButton", "widget"))));
+  dialog_ = Make(ColumnForm(WidgetItem("QPushButton", "widget")));
   EndIn(Event::Paint, L"widget");
   EXPECT_EQ(dialog_->DoModal(), -1);
 }

@@ -14,13 +14,6 @@ using display::MouseButton;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::string EditXml(const std::string& name) {
-  return ItemXml(WidgetXml("QLineEdit", name));
-}
-std::string ButtonXml(const std::string& name) {
-  return ItemXml(WidgetXml("QPushButton", name, PropertyXml("text", "string", name)));
-}
-
 std::string Narrow(const std::wstring& text) {
   return {text.begin(), text.end()};
 }
@@ -104,7 +97,7 @@ class EventRulesTest : public FormTest {
 // -- Size, activation, focus, visibility
 
 TEST_F(EventRulesTest, ADraggedFrameResizesTheLayoutBeforeTheHostHears) {
-  Open(ColumnForm(EditXml("edit"), 300, 200));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit"), 300, 200));
   Size told;
   int editWidth = 0;
   dialog_->SetEventProcedure([&](BaseGUIObject*, Event* event) {
@@ -124,7 +117,7 @@ TEST_F(EventRulesTest, ADraggedFrameResizesTheLayoutBeforeTheHostHears) {
 }
 
 TEST_F(EventRulesTest, ActivationComesAndGoesWithTheDesktopsFocus) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(*dialog_, {Event::WindowActivate, Event::WindowDeactivate});
   Robot::Screen().LoseFocus();
   Robot::PumpAll();
@@ -133,7 +126,7 @@ TEST_F(EventRulesTest, ActivationComesAndGoesWithTheDesktopsFocus) {
 }
 
 TEST_F(EventRulesTest, FocusLeavesOneWidgetForTheNext) {
-  Open(ColumnForm(EditXml("a") + EditXml("b")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a") + WidgetItem("QLineEdit", "b")));
   Focus(L"a");
   Watch(Widget(L"a"), {Event::FocusIn, Event::FocusOut});
   Watch(Widget(L"b"), {Event::FocusIn, Event::FocusOut});
@@ -142,7 +135,7 @@ TEST_F(EventRulesTest, FocusLeavesOneWidgetForTheNext) {
 }
 
 TEST_F(EventRulesTest, HidingAndShowingAreTold) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(Widget(L"edit"), {Event::Show, Event::Hide});
   Widget(L"edit").Show(false, true);
   ASSERT_FALSE(types_.empty());
@@ -154,7 +147,7 @@ TEST_F(EventRulesTest, HidingAndShowingAreTold) {
 }
 
 TEST_F(EventRulesTest, OneMessageMayShowAndHide) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(Widget(L"edit"), {Event::Show, Event::Hide});
   WINDOWPOS position{};
   position.flags = SWP_SHOWWINDOW | SWP_HIDEWINDOW | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER;
@@ -164,7 +157,7 @@ TEST_F(EventRulesTest, OneMessageMayShowAndHide) {
 }
 
 TEST_F(EventRulesTest, AContextMenuRequestClimbsUntilSomeoneHandlesIt) {
-  Open(ColumnForm(ButtonXml("button")));
+  Open(ColumnForm(PushButton("button")));
   Watch(Widget(L"button"), {Event::ContextMenu});
   Watch(*dialog_, {Event::ContextMenu});
   robot_.RightClick(Robot::CentreOf(Widget(L"button").GetPlatformHandle()));
@@ -190,7 +183,7 @@ class NotedMenu : public ContextMenu {
 };
 
 TEST_F(EventRulesTest, AWidgetsMenuAnswersWhatItsHostLeaves) {
-  Open(ColumnForm(ButtonXml("button") + EditXml("edit")));
+  Open(ColumnForm(PushButton("button") + WidgetItem("QLineEdit", "edit")));
   const auto menu = std::make_shared<NotedMenu>();
   const auto outer = std::make_shared<NotedMenu>();
   for (const wchar_t* name : {L"button", L"edit"}) Widget(name).InsertContextMenu(menu);
@@ -216,7 +209,7 @@ TEST_F(EventRulesTest, AWidgetsMenuAnswersWhatItsHostLeaves) {
 }
 
 TEST_F(EventRulesTest, AMenuMayEndItsDialog) {
-  Open(ColumnForm(ButtonXml("button")));
+  Open(ColumnForm(PushButton("button")));
   Widget(L"button").InsertContextMenu(std::make_shared<NotedMenu>([this] { dialog_.reset(); }));
   robot_.RightClick(At(L"button", 6, 4));
   EXPECT_EQ(dialog_, nullptr);
@@ -225,7 +218,7 @@ TEST_F(EventRulesTest, AMenuMayEndItsDialog) {
 // -- Keys and characters
 
 TEST_F(EventRulesTest, AHandledTabStaysWithItsWidget) {
-  Open(ColumnForm(EditXml("a") + EditXml("b")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a") + WidgetItem("QLineEdit", "b")));
   Focus(L"a");
   Watch(Widget(L"a"), {Event::KeyPress}, true);
   robot_.Tab();
@@ -240,7 +233,7 @@ TEST_F(EventRulesTest, AHandledTabStaysWithItsWidget) {
 
 // Every key there is, pressed on a text widget and on another.
 TEST_F(EventRulesTest, OnlyKeysThatActAreReported) {
-  Open(ColumnForm(EditXml("edit") + ButtonXml("button")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit") + PushButton("button")));
   std::vector<int> acting = {VK_TAB, VK_RETURN, VK_SHIFT, VK_CONTROL, VK_MENU, VK_CAPITAL};
   acting.push_back(VK_ESCAPE);
   for (int key = VK_PRIOR; key <= VK_DOWN; ++key) acting.push_back(key);
@@ -257,7 +250,7 @@ TEST_F(EventRulesTest, OnlyKeysThatActAreReported) {
 }
 
 TEST_F(EventRulesTest, SpaceIsACharacterForTextAndAKeyForTheRest) {
-  Open(ColumnForm(EditXml("edit") + ButtonXml("button")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit") + PushButton("button")));
   Watch(Widget(L"edit"), {Event::KeyPress, Event::KeyRelease});
   Watch(Widget(L"button"), {Event::KeyPress, Event::KeyRelease});
   Focus(L"edit");
@@ -270,7 +263,7 @@ TEST_F(EventRulesTest, SpaceIsACharacterForTextAndAKeyForTheRest) {
 }
 
 TEST_F(EventRulesTest, CharactersBringTheKeyOfTheirPlaceOnTheKeyboard) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Focus(L"edit");
   Watch(Widget(L"edit"), {Event::KeyPress, Event::KeyRelease});
   robot_.Type(L"a");
@@ -282,7 +275,7 @@ TEST_F(EventRulesTest, CharactersBringTheKeyOfTheirPlaceOnTheKeyboard) {
 }
 
 TEST_F(EventRulesTest, OfTheSystemKeysOnlyAltIsReported) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Focus(L"edit");
   Watch(Widget(L"edit"), {Event::KeyPress, Event::KeyRelease});
   robot_.KeyDown(VK_MENU);
@@ -296,7 +289,7 @@ TEST_F(EventRulesTest, OfTheSystemKeysOnlyAltIsReported) {
 // -- Timer and pointer
 
 TEST_F(EventRulesTest, PointerEventsAreInClientCoordinatesWithButtonsAndModifiers) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(Widget(L"edit"), {Event::MousePress, Event::MouseRelease});
   robot_.KeyDown(VK_CONTROL);
   robot_.Press(At(L"edit", 7, 5));
@@ -309,7 +302,7 @@ TEST_F(EventRulesTest, PointerEventsAreInClientCoordinatesWithButtonsAndModifier
 }
 
 TEST_F(EventRulesTest, APositionLeftOfACapturingWindowIsNegative) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   robot_.Press(At(L"edit", 7, 5));
   Watch(Widget(L"edit"), {Event::MouseMove});
   robot_.MoveTo(At(L"edit", -4, -3));
@@ -319,7 +312,7 @@ TEST_F(EventRulesTest, APositionLeftOfACapturingWindowIsNegative) {
 }
 
 TEST_F(EventRulesTest, MiddleAndExtraButtonsAreNotEvents) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(Widget(L"edit"), {Event::MousePress, Event::MouseRelease, Event::MouseDoubleClick});
   for (auto button : {MouseButton::Middle, MouseButton::Extra1, MouseButton::Extra2}) {
     robot_.Press(At(L"edit", 7, 5), button);
@@ -329,7 +322,7 @@ TEST_F(EventRulesTest, MiddleAndExtraButtonsAreNotEvents) {
 }
 
 TEST_F(EventRulesTest, ADoubleClickIsOneOfTheLeftButton) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(Widget(L"edit"), {Event::MousePress, Event::MouseRelease, Event::MouseDoubleClick});
   robot_.DoubleClick(At(L"edit", 7, 5));
   EXPECT_THAT(types_, ElementsAre(Event::MousePress, Event::MouseRelease, Event::MouseDoubleClick,
@@ -337,7 +330,7 @@ TEST_F(EventRulesTest, ADoubleClickIsOneOfTheLeftButton) {
 }
 
 TEST_F(EventRulesTest, HoverAndLeaveFollowEachVisit) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(Widget(L"edit"), {Event::HoverEnter, Event::MouseLeave});
   for (int visit = 0; visit < 2; ++visit) {
     robot_.MoveTo(At(L"edit", 5, 5));
@@ -349,7 +342,7 @@ TEST_F(EventRulesTest, HoverAndLeaveFollowEachVisit) {
 }
 
 TEST_F(EventRulesTest, TheWheelIsInScreenCoordinates) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Focus(L"edit");
   Point place;
   int delta = 0;
@@ -368,7 +361,7 @@ TEST_F(EventRulesTest, TheWheelIsInScreenCoordinates) {
 }
 
 TEST_F(EventRulesTest, AHandledPressDoesNotPressTheButton) {
-  Open(ColumnForm(ButtonXml("button")));
+  Open(ColumnForm(PushButton("button")));
   int clicks = 0;
   Find<Button>(L"button").Clicked.Connect([&] { ++clicks; });
   Watch(Widget(L"button"), {Event::MousePress}, true);
@@ -380,7 +373,7 @@ TEST_F(EventRulesTest, AHandledPressDoesNotPressTheButton) {
 // -- Moving, drops, resolution, layout, deferred calls
 
 TEST_F(EventRulesTest, ADraggedCaptionTellsOfMoving) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(*dialog_, {Event::Moving});
   Rect frame = dialog_->GetWindowRect();
   const POINT caption{frame.Left() + frame.Width() / 2, frame.Top() + 8};
@@ -390,7 +383,7 @@ TEST_F(EventRulesTest, ADraggedCaptionTellsOfMoving) {
 }
 
 TEST_F(EventRulesTest, DroppedFilesComeInOrderWithTheirPlace) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   std::vector<std::wstring> files;
   Point place;
   int drops = 0;
@@ -414,7 +407,7 @@ TEST_F(EventRulesTest, DroppedFilesComeInOrderWithTheirPlace) {
 }
 
 TEST_F(EventRulesTest, ANewResolutionIsToldWithItsDpi) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   int dpi = 0;
   dialog_->SetEventProcedure([&](BaseGUIObject*, Event* event) {
     if (event->GetType() == Event::DpiChange)
@@ -429,7 +422,7 @@ TEST_F(EventRulesTest, ANewResolutionIsToldWithItsDpi) {
 }
 
 TEST_F(EventRulesTest, AWidgetWithoutAProcedureTakesTheDefaultPath) {
-  Open(ColumnForm(EditXml("edit")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   Watch(Widget(L"edit"), {Event::KeyPress}, true);
   Widget(L"edit").SetEventProcedure({});
   Focus(L"edit");

@@ -21,8 +21,8 @@ class LastEventTest : public FormTest, public testing::WithParamInterface<LastEv
  protected:
   LastEventTest() {
     std::string items;
-    for (const char* name : {"edit", "next"}) items += ItemXml(WidgetXml("QLineEdit", name));
-    items += ItemXml(WidgetXml("QPushButton", "button"));
+    for (const char* name : {"edit", "next"}) items += WidgetItem("QLineEdit", name);
+    items += WidgetItem("QPushButton", "button");
     other_ = Make(ColumnForm(items));
     other_->DoModeless(true);
     Open(ColumnForm(items));

@@ -16,10 +16,6 @@
 namespace Wexa {
 namespace {
 
-std::string EditXml(const std::string& name) {
-  return ItemXml(WidgetXml("QLineEdit", name));
-}
-
 // 0x00RRGGBB, as pixels are.
 std::uint32_t Pixel(COLORREF color) {
   return SwapRedAndBlue(static_cast<int>(color));
@@ -54,7 +50,7 @@ class SkinInUseTest : public FormTest {
 };
 
 TEST_F(SkinInUseTest, AChangedSlotIsOnePaintPassOfItsWidgetOnly) {
-  Open(ColumnForm(EditXml("a") + EditXml("b")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a") + WidgetItem("QLineEdit", "b")));
   auto a = CountPaints(Widget(L"a"));
   auto b = CountPaints(Widget(L"b"));
   Robot::PumpAll();
@@ -72,8 +68,8 @@ TEST_F(SkinInUseTest, AChangedSlotIsOnePaintPassOfItsWidgetOnly) {
 // All slots have colours of their own: those that a widget shows tell what it paints with. Lines
 // that are smoothed all along show none.
 TEST_F(SkinInUseTest, WidgetsPaintWithTheirSlotsAndNoOther) {
-  const std::string text = PropertyXml("text", "string", "HELLO");
-  const std::string off = text + PropertyXml("enabled", "bool", "false");
+  const std::string text = TextXml("HELLO");
+  const std::string off = text + BoolXml("enabled", false);
   const std::string page =
       "<widget class=\"QWidget\" name=\"page\"><attribute name=\"title\"><string>HELLO</string>"
       "</attribute></widget>";
@@ -101,7 +97,7 @@ TEST_F(SkinInUseTest, WidgetsPaintWithTheirSlotsAndNoOther) {
       {"Line", "line", "", {74, 87}},
   };
   std::string rows;
-  for (const Painted& w : all) rows += ItemXml(WidgetXml(w.className, w.name, w.inner));
+  for (const Painted& w : all) rows += WidgetItem(w.className, w.name, w.inner);
   Open(ColumnForm(rows, 100, 600));
   std::map<std::uint32_t, int> slotOf;
   for (int slot = 0; slot < SkinManager::kSlotCount; ++slot) {
@@ -124,10 +120,8 @@ TEST_F(SkinInUseTest, WidgetsPaintWithTheirSlotsAndNoOther) {
 }
 
 TEST_F(SkinInUseTest, ASlotOfTheDialogReachesChildrenInContainers) {
-  Open(ColumnForm(ItemXml(WidgetXml("QGroupBox", "group",
-                                    "<layout class=\"QVBoxLayout\" name=\"l\">" + EditXml("deep") +
-                                        "</layout>")) +
-                  EditXml("flat")));
+  Open(ColumnForm(WidgetItem("QGroupBox", "group", ColumnXml(WidgetItem("QLineEdit", "deep"))) +
+                  WidgetItem("QLineEdit", "flat")));
   auto paints = CountPaints(Widget(L"deep"));
   dialog_->GetSkinManager().Slot(Slot::kInputFace) = 0x102030UL;
   Robot::PumpAll();
@@ -137,9 +131,9 @@ TEST_F(SkinInUseTest, ASlotOfTheDialogReachesChildrenInContainers) {
 }
 
 TEST_F(SkinInUseTest, ColorsOfTheDialogReachItsWidgetsInEveryMode) {
-  Open(ColumnForm(EditXml("a") + ItemXml(WidgetXml("QDialogButtonBox", "box",
-                                                   PropertyXml("standardButtons", "set",
-                                                               "QDialogButtonBox::Ok")))));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a") +
+                  WidgetItem("QDialogButtonBox", "box",
+                             PropertyXml("standardButtons", "set", "QDialogButtonBox::Ok"))));
   const HWND button = Find<ButtonBox>(L"box").GetButton(StandardButton::OK)->GetPlatformHandle();
   unsigned long color = 0x102030;
   for (const SkinMode mode : {SkinMode::Dark, SkinMode::HCMDark, SkinMode::Default}) {
@@ -154,7 +148,7 @@ TEST_F(SkinInUseTest, ColorsOfTheDialogReachItsWidgetsInEveryMode) {
 }
 
 TEST_F(SkinInUseTest, EveryChangeAfterAPaintIsSeen) {
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   for (unsigned long color : {0x102030UL, 0x405060UL, 0x708090UL}) {
     dialog_->GetSkinManager().Slot(Slot::kInputFace) = color;
     Widget(L"a").Repaint();
@@ -164,7 +158,7 @@ TEST_F(SkinInUseTest, EveryChangeAfterAPaintIsSeen) {
 }
 
 TEST_F(SkinInUseTest, SwitchingToDarkCostsOnePaintOfEachWidget) {
-  Open(ColumnForm(EditXml("a") + EditXml("b")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a") + WidgetItem("QLineEdit", "b")));
   auto a = CountPaints(Widget(L"a"));
   auto dialog = CountPaints(*dialog_);
   EXPECT_TRUE(dialog_->SetSkinMode(SkinMode::Dark, true));
@@ -177,7 +171,7 @@ TEST_F(SkinInUseTest, SwitchingToDarkCostsOnePaintOfEachWidget) {
 
 TEST_F(SkinInUseTest, HighContrastComesAndGoesWhileADialogIsOpen) {
   SetGlobalSkinMode(SkinMode::Dark);
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   auto paints = CountPaints(Widget(L"a"));
   int told = 0;
   dialog_->SetEventProcedure([&](BaseGUIObject*, Event* event) {
@@ -197,12 +191,12 @@ TEST_F(SkinInUseTest, HighContrastComesAndGoesWhileADialogIsOpen) {
 
 TEST_F(SkinInUseTest, ADialogMadeAfterTheChangeHasTheNewColors) {
   SetSystemScheme(SystemScheme::HighContrast);
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   EXPECT_EQ(FaceOf(L"a"), Pixel(GetSysColor(COLOR_BTNFACE)));
 }
 
 TEST_F(SkinInUseTest, ExplicitColorsOutliveAChangeOfTheSystem) {
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   SlotOf(L"a", Slot::kInputFace) = 0x102030UL;
   SetSystemScheme(SystemScheme::HighContrast);
   Robot::PumpAll();
@@ -213,13 +207,13 @@ TEST_F(SkinInUseTest, AGlobalCustomSkinColorsAllWidgetsOfADialog) {
   SkinManager custom(SkinMode::Dark);
   custom.Slot(Slot::kInputFace) = 0x102030UL;
   SetGlobalCustomSkin(custom);
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   EXPECT_EQ(DialogFace(), 0x4A4A4Au);
   EXPECT_EQ(FaceOf(L"a"), Pixel(0x102030));
 }
 
 TEST_F(SkinInUseTest, OpenDialogsFollowTheGlobalSkinAtOnce) {
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   auto paints = CountPaints(Widget(L"a"));
   EXPECT_TRUE(SetGlobalSkinMode(SkinMode::Dark));
   Robot::PumpAll();
@@ -237,7 +231,7 @@ class KeyMapTest : public SkinInUseTest {
 };
 
 TEST_F(KeyMapTest, WithoutAKeyMapTheModeIsRefusedAndNothingChanges) {
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   const auto before = std::pair(FaceOf(L"a"), DialogFace());
   EXPECT_FALSE(dialog_->SetSkinMode(SkinMode::XML, true));
   Robot::PumpAll();
@@ -247,7 +241,7 @@ TEST_F(KeyMapTest, WithoutAKeyMapTheModeIsRefusedAndNothingChanges) {
 
 TEST_F(KeyMapTest, BothMapsColorTheWidgetsOfADialog) {
   for (SkinMap map : {SkinMap::Inputs, SkinMap::Buttons}) {
-    Open(ColumnForm(EditXml("a")));
+    Open(ColumnForm(WidgetItem("QLineEdit", "a")));
     const unsigned long face = map == SkinMap::Inputs ? 0x102030 : 0x405060;
     InitSkinColorByMap(map, {{L"input_bg", face}, {L"Active_BG", face + 1}});
     ASSERT_TRUE(dialog_->SetSkinMode(SkinMode::XML, true));
@@ -262,7 +256,7 @@ TEST_F(KeyMapTest, BothMapsColorTheWidgetsOfADialog) {
 
 TEST_F(KeyMapTest, HighContrastOverridesAKeyMapAndGivesItBack) {
   InitSkinColorByMap(SkinMap::Inputs, {{L"Input_BG", 0x102030UL}});
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   ASSERT_TRUE(dialog_->SetSkinMode(SkinMode::XML, true));
   SetSystemScheme(SystemScheme::HighContrast);
   Robot::PumpAll();
@@ -275,7 +269,7 @@ TEST_F(KeyMapTest, HighContrastOverridesAKeyMapAndGivesItBack) {
 
 TEST_F(KeyMapTest, AModeBehindAKeyMapDetachesFromIt) {
   InitSkinColorByMap(SkinMap::Inputs, {{L"Input_BG", 0x102030UL}});
-  Open(ColumnForm(EditXml("a")));
+  Open(ColumnForm(WidgetItem("QLineEdit", "a")));
   ASSERT_TRUE(dialog_->SetSkinMode(SkinMode::XML, true));
   ASSERT_TRUE(dialog_->SetSkinMode(SkinMode::Dark, true));
   Robot::PumpAll();

@@ -22,8 +22,7 @@ constexpr std::uint32_t kViolet = 0x9010D0;
 class ButtonPictureTest : public FormTest {
  protected:
   Button& OpenButton(const std::string& text) {
-    Open(ColumnForm(
-        ItemXml(WidgetXml("QPushButton", "button", PropertyXml("text", "string", text)))));
+    Open(ColumnForm(WidgetItem("QPushButton", "button", TextXml(text))));
     return Find<Button>(L"button");
   }
 
@@ -150,10 +149,10 @@ TEST_F(ButtonPictureTest, APictureMayComeBeforeTheWindow) {
 }
 
 TEST_F(ButtonPictureTest, ARadioButtonShowsMarkPictureAndText) {
-  Open(ColumnForm(ItemXml(WidgetXml("QRadioButton", "radio",
-                                    PropertyXml("text", "string", "Choice") +
-                                        "<attribute name=\"buttonGroup\"><string>g</string>"
-                                        "</attribute>"))));
+  Open(
+      ColumnForm(WidgetItem("QRadioButton", "radio",
+                            TextXml("Choice") + "<attribute name=\"buttonGroup\"><string>g</string>"
+                                                "</attribute>")));
   auto& radio = Find<RadioButton>(L"radio");
   const int before = radio.IdealSize().Width();
   const Bytes bytes = pictures::BmpFile(12, 10, Always(kGreen));

@@ -15,21 +15,15 @@
 namespace Wexa {
 namespace {
 
-std::string ButtonXml(const std::string& name, const std::string& text) {
-  return ItemXml(WidgetXml("QPushButton", name, PropertyXml("text", "string", text)));
-}
-
 std::string RadioXml(const std::string& name, const std::string& group) {
-  return ItemXml(WidgetXml("QRadioButton", name,
-                           PropertyXml("text", "string", name) +
-                               "<attribute name=\"buttonGroup\"><string>" + group +
-                               "</string></attribute>"));
+  return WidgetItem("QRadioButton", name, TextXml(name) + AttributeXml("buttonGroup", group));
 }
 
 class ButtonTest : public FormTest {};
 
 TEST_F(ButtonTest, AClickReachesClickedOnceOnRelease) {
-  Open(ColumnForm(ButtonXml("ok", "OK") + ButtonXml("other", "Other")));
+  Open(ColumnForm(TextWidget("QPushButton", "ok", "OK") +
+                  TextWidget("QPushButton", "other", "Other")));
   int clicks = 0;
   Find<Button>(L"ok").Clicked.Connect([&] { ++clicks; });
   HWND window = Find<Button>(L"ok").GetPlatformHandle();
@@ -44,7 +38,7 @@ TEST_F(ButtonTest, AClickReachesClickedOnceOnRelease) {
 }
 
 TEST_F(ButtonTest, QueuedConnectionsRunInOrderAfterTheHandler) {
-  Dialog& dialog = Open(ColumnForm(ButtonXml("ok", "OK")));
+  Dialog& dialog = Open(ColumnForm(TextWidget("QPushButton", "ok", "OK")));
   std::string order;
   auto& clicked = Find<Button>(L"ok").Clicked;
   clicked.Connect(&dialog, [&] { order += 'a'; });
@@ -57,7 +51,7 @@ TEST_F(ButtonTest, QueuedConnectionsRunInOrderAfterTheHandler) {
 }
 
 TEST_F(ButtonTest, CallsOnTheirWayDieWithTheirList) {
-  Dialog& dialog = Open(ColumnForm(ButtonXml("ok", "OK")));
+  Dialog& dialog = Open(ColumnForm(TextWidget("QPushButton", "ok", "OK")));
   int calls = 0;
   {
     CallbackList<int> list;
@@ -69,7 +63,8 @@ TEST_F(ButtonTest, CallsOnTheirWayDieWithTheirList) {
 }
 
 TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
-  Open(ColumnForm(ButtonXml("first", "First") + ButtonXml("toggle", "Toggle")));
+  Open(ColumnForm(TextWidget("QPushButton", "first", "First") +
+                  TextWidget("QPushButton", "toggle", "Toggle")));
   auto& toggle = Find<Button>(L"toggle");
   Rect before = toggle.GetWindowRect();
   dialog_->SetFocusToCtrl(&toggle);
@@ -97,7 +92,7 @@ TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
 }
 
 TEST_F(ButtonTest, AnAdoptedNativeButtonGivesEvents) {
-  Open(ColumnForm(ButtonXml("ok", "OK")));
+  Open(ColumnForm(TextWidget("QPushButton", "ok", "OK")));
   const auto native = std::make_shared<CButton>();
   native->Create(L"native", WS_VISIBLE, CRect(0, 0, 50, 20), CWnd::FromHandle(dialog_->GetHandle()),
                  77);
@@ -125,7 +120,7 @@ TEST_F(ButtonTest, AFormMayMakeAToggle) {
 }
 
 TEST_F(ButtonTest, BorderColorsKeepTheirAlphaFromStyleFourOn) {
-  Open(ColumnForm(ButtonXml("ok", "OK")));
+  Open(ColumnForm(TextWidget("QPushButton", "ok", "OK")));
   auto& button = Find<Button>(L"ok");
   RGBColor half(10, 20, 30, 128);
   button.SetStyle(Button::ButtonStyle::Framed);
@@ -137,7 +132,8 @@ TEST_F(ButtonTest, BorderColorsKeepTheirAlphaFromStyleFourOn) {
 }
 
 TEST_F(ButtonTest, ReturnOnALibraryDrawnButtonClicksIt) {
-  Open(ColumnForm(ButtonXml("first", "First") + ButtonXml("drawn", "Drawn")));
+  Open(ColumnForm(TextWidget("QPushButton", "first", "First") +
+                  TextWidget("QPushButton", "drawn", "Drawn")));
   auto& drawn = Find<Button>(L"drawn");
   drawn.SetStyle(Button::ButtonStyle::Framed);
   drawn.SetBackgroundColor(0x1E1EC8u, true);
@@ -151,9 +147,9 @@ TEST_F(ButtonTest, ReturnOnALibraryDrawnButtonClicksIt) {
 }
 
 TEST_F(ButtonTest, ABoxHasItsButtonsInTheFixedOrder) {
-  Open(ColumnForm(ItemXml(WidgetXml(
+  Open(ColumnForm(WidgetItem(
       "QDialogButtonBox", "box",
-      PropertyXml("standardButtons", "set", "QDialogButtonBox::Cancel|QDialogButtonBox::Ok")))));
+      PropertyXml("standardButtons", "set", "QDialogButtonBox::Cancel|QDialogButtonBox::Ok"))));
   auto& box = Find<ButtonBox>(L"box");
   auto ok = box.GetButton(StandardButton::OK);
   auto cancel = box.GetButton(StandardButton::Cancel);
@@ -168,7 +164,7 @@ TEST_F(ButtonTest, ABoxHasItsButtonsInTheFixedOrder) {
 }
 
 TEST_F(ButtonTest, CheckBoxesKeepTheirStateThroughTheDialogsEnd) {
-  Open(ColumnForm(ItemXml(WidgetXml("QCheckBox", "check", PropertyXml("text", "string", "On")))));
+  Open(ColumnForm(WidgetItem("QCheckBox", "check", TextXml("On"))));
   auto& check = Find<CheckBox>(L"check");
   robot_.ClickCentreOf(check.GetPlatformHandle());
   EXPECT_EQ(check.GetCheck(), WexaUtils::Checked);

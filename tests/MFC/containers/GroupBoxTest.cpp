@@ -9,16 +9,15 @@ namespace {
 class GroupBoxTest : public FormTest {
  protected:
   GroupBox& OpenGroup(const std::string& properties = "") {
-    Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "before")) +
-                    ItemXml(WidgetXml("QGroupBox", "group",
-                                      PropertyXml("title", "string", "&amp;Proxy") + properties +
-                                          "<layout class=\"QVBoxLayout\" name=\"l\">" +
-                                          ItemXml(WidgetXml("QLineEdit", "host")) +
-                                          ItemXml(WidgetXml("QLineEdit", "port")) + "</layout>"))));
+    Open(ColumnForm(WidgetItem("QLineEdit", "before") +
+                    WidgetItem("QGroupBox", "group",
+                               PropertyXml("title", "string", "&amp;Proxy") + properties +
+                                   ColumnXml(WidgetItem("QLineEdit", "host") +
+                                             WidgetItem("QLineEdit", "port")))));
     return Find<GroupBox>(L"group");
   }
   std::string Checkable(const char* checked) {
-    return PropertyXml("checkable", "bool", "true") + PropertyXml("checked", "bool", checked);
+    return BoolXml("checkable") + PropertyXml("checked", "bool", checked);
   }
   bool IsEnabled(const wchar_t* name) { return Find<BaseGUIObject>(name).IsEnabled(); }
   HWND Check() { return GetWindow(Find<GroupBox>(L"group").GetPlatformHandle(), GW_CHILD); }

@@ -10,20 +10,19 @@ namespace {
 std::string RowsXml(int count, const std::string& className) {
   std::string rows;
   for (int i = 0; i < count; ++i)
-    rows += ItemXml(WidgetXml(className, "row" + std::to_string(i),
-                              PropertyXml("text", "string", "row " + std::to_string(i))));
-  return "<layout class=\"QVBoxLayout\" name=\"rows\">" + rows + "</layout>";
+    rows += WidgetItem(className, "row" + std::to_string(i), TextXml("row " + std::to_string(i)));
+  return ColumnXml(rows);
 }
 
 class ScrollAreaTest : public FormTest {
  protected:
   void OpenRows(int count, const std::string& className = "QPushButton",
                 const std::string& properties = "", const std::string& below = "") {
-    Open(ColumnForm(ItemXml(WidgetXml(
-                        "QScrollArea", "area",
-                        properties + WidgetXml("QWidget", "content", RowsXml(count, className)))) +
-                        below,
-                    300, 200));
+    Open(ColumnForm(
+        WidgetItem("QScrollArea", "area",
+                   properties + WidgetXml("QWidget", "content", RowsXml(count, className))) +
+            below,
+        300, 200));
   }
   Rect Content() { return Find<BaseGUIObject>(L"content").GetWindowRect(); }
   Rect Area() { return Find<BaseGUIObject>(L"area").GetWindowRect(); }
@@ -81,7 +80,7 @@ TEST_F(ScrollAreaTest, WheelAndPageKeysScrollFromInside) {
 }
 
 TEST_F(ScrollAreaTest, TheWheelTurnsTheAreaUnderThePointer) {
-  OpenRows(20, "QPushButton", "", ItemXml(WidgetXml("QLineEdit", "outside")));
+  OpenRows(20, "QPushButton", "", WidgetItem("QLineEdit", "outside"));
   Focus(L"outside");
   robot_.MoveTo({Area().Left() + 20, Area().Top() + 20});
   robot_.Wheel(-1);
@@ -103,7 +102,7 @@ TEST_F(ScrollAreaTest, AFormSaysWhenBarsShowAndWhetherThereIsAFrame) {
   EXPECT_TRUE(IsInside(L"row19")) << "it scrolls without a bar";
   OpenRows(1, "QPushButton",
            policy("vertical", "AlwaysOn") + policy("horizontal", "AlwaysOn") +
-               PropertyXml("frameShape", "enum", "QFrame::NoFrame"));
+               EnumXml("frameShape", "QFrame::NoFrame"));
   EXPECT_EQ(Content().Width(), Area().Width() - Theme::ScrollBarWidth());
   EXPECT_EQ(Content().Height(), Area().Height() - Theme::ScrollBarWidth());
 }

@@ -17,11 +17,10 @@ std::string EditorXml(const std::string& name, int minimumWidth = 40) {
 class SplitterTest : public FormTest {
  protected:
   void OpenThree(const std::string& properties = "") {
-    Open(ColumnForm(
-        ItemXml(WidgetXml("QSplitter", "split",
-                          PropertyXml("orientation", "enum", "Qt::Horizontal") + properties +
-                              EditorXml("a") + EditorXml("b") + EditorXml("c"))),
-        600, 200));
+    Open(ColumnForm(WidgetItem("QSplitter", "split",
+                               EnumXml("orientation", "Qt::Horizontal") + properties +
+                                   EditorXml("a") + EditorXml("b") + EditorXml("c")),
+                    600, 200));
   }
   Splitter& Split() { return Find<Splitter>(L"split"); }
   int WidthOf(const wchar_t* name) { return PlaceOf(name).Width(); }
@@ -72,7 +71,7 @@ TEST_F(SplitterTest, ViewsFollowAtOnceOrOnRelease) {
 }
 
 TEST_F(SplitterTest, ALineShowsWhereTheHandleWillBe) {
-  OpenThree(PropertyXml("opaqueResize", "bool", "false"));
+  OpenThree(BoolXml("opaqueResize", false));
   POINT from = HandleAfter(L"a");
   POINT to{from.x + 40, from.y};
   POINT there = to;
@@ -140,13 +139,12 @@ TEST_F(SplitterTest, AHiddenViewTakesItsHandleAlong) {
 }
 
 TEST_F(SplitterTest, NestedSplittersMoveApart) {
-  Open(ColumnForm(
-      ItemXml(WidgetXml("QSplitter", "outer",
-                        PropertyXml("orientation", "enum", "Qt::Horizontal") + EditorXml("a") +
-                            WidgetXml("QSplitter", "inner",
-                                      PropertyXml("orientation", "enum", "Qt::Vertical") +
-                                          EditorXml("b") + EditorXml("c")))),
-      600, 300));
+  Open(ColumnForm(WidgetItem("QSplitter", "outer",
+                             EnumXml("orientation", "Qt::Horizontal") + EditorXml("a") +
+                                 WidgetXml("QSplitter", "inner",
+                                           EnumXml("orientation", "Qt::Vertical") + EditorXml("b") +
+                                               EditorXml("c"))),
+                  600, 300));
   Rect b = Find<BaseGUIObject>(L"b").GetWindowRect();
   POINT between{b.Left() + 10, b.Bottom() + 3};
   int a = WidthOf(L"a");

@@ -8,18 +8,17 @@ namespace Wexa {
 namespace {
 
 std::string PageXml(const std::string& name, const std::string& inner) {
-  return WidgetXml("QWidget", name,
-                   "<layout class=\"QVBoxLayout\" name=\"l\">" + ItemXml(inner) + "</layout>");
+  return WidgetXml("QWidget", name, ColumnXml(ItemXml(inner)));
 }
 
 class StackedDialogTest : public FormTest {
  protected:
   void OpenStack() {
-    Open(ColumnForm(ItemXml(WidgetXml("QStackedWidget", "stack",
-                                      PageXml("one", WidgetXml("QLineEdit", "edit1")) +
-                                          PageXml("two", WidgetXml("QLineEdit", "edit2")) +
-                                          PageXml("three", WidgetXml("QLabel", "label3")))) +
-                    ItemXml(WidgetXml("QLineEdit", "outside"))));
+    Open(ColumnForm(WidgetItem("QStackedWidget", "stack",
+                               PageXml("one", WidgetXml("QLineEdit", "edit1")) +
+                                   PageXml("two", WidgetXml("QLineEdit", "edit2")) +
+                                   PageXml("three", WidgetXml("QLabel", "label3"))) +
+                    WidgetItem("QLineEdit", "outside")));
   }
   StackedDialog& Stack() { return Find<StackedDialog>(L"stack"); }
 };

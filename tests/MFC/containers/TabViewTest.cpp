@@ -16,12 +16,11 @@ std::string PageXml(const std::string& name, const std::string& title, const std
 }
 
 std::string ThreePages(const std::string& properties = "") {
-  return ItemXml(WidgetXml("QTabWidget", "tabs",
-                           properties +
-                               PageXml("one", "&amp;One", WidgetXml("QLineEdit", "edit1")) +
-                               PageXml("two", "&amp;Two", WidgetXml("QLineEdit", "edit2")) +
-                               PageXml("three", "T&amp;hree", WidgetXml("QLabel", "label3")))) +
-         ItemXml(WidgetXml("QLineEdit", "outside"));
+  return WidgetItem("QTabWidget", "tabs",
+                    properties + PageXml("one", "&amp;One", WidgetXml("QLineEdit", "edit1")) +
+                        PageXml("two", "&amp;Two", WidgetXml("QLineEdit", "edit2")) +
+                        PageXml("three", "T&amp;hree", WidgetXml("QLabel", "label3"))) +
+         WidgetItem("QLineEdit", "outside");
 }
 
 class TabViewTest : public FormTest {
@@ -137,7 +136,7 @@ TEST_F(TabViewTest, TabsThatDoNotFitAreScrolled) {
   std::string pages;
   for (int i = 0; i < 9; ++i)
     pages += PageXml("p" + std::to_string(i), "A long caption", WidgetXml("QLabel", "l"));
-  Open(ColumnForm(ItemXml(WidgetXml("QTabWidget", "tabs", pages)), 320, 120));
+  Open(ColumnForm(WidgetItem("QTabWidget", "tabs", pages), 320, 120));
   EXPECT_LT(Tabs().GetWindowRect().Width(), 320);
   RECT strip{};
   GetWindowRect(Strip(), &strip);
@@ -159,8 +158,7 @@ TEST_F(TabViewTest, TabsStandAtAnyEdgeOfTheirPages) {
   };
   for (const auto& [word, room] : {Side{"North", {0, 1, 0, 0}}, Side{"South", {0, 0, 0, 1}},
                                    Side{"West", {1, 0, 0, 0}}, Side{"East", {0, 0, 1, 0}}}) {
-    Open(ColumnForm(
-        ThreePages(PropertyXml("tabPosition", "enum", std::string("QTabWidget::") + word))));
+    Open(ColumnForm(ThreePages(EnumXml("tabPosition", std::string("QTabWidget::") + word))));
     RECT strip{};
     GetWindowRect(Strip(), &strip);
     const bool upright = room.left + room.right > 0;

@@ -9,9 +9,8 @@ constexpr unsigned long kBorderless = WS_POPUP | WS_VISIBLE;
 class BackgroundMoveTest : public FormTest {
  protected:
   BackgroundMoveTest() {
-    Open(ColumnForm(ItemXml(WidgetXml("QLabel", "label",
-                                      PropertyXml("text", "string", "a label to hold on to"))) +
-                    ItemXml(WidgetXml("QLineEdit", "edit"))),
+    Open(ColumnForm(WidgetItem("QLabel", "label", TextXml("a label to hold on to")) +
+                    WidgetItem("QLineEdit", "edit")),
          kBorderless);
   }
 
@@ -64,7 +63,7 @@ TEST_F(BackgroundMoveTest, AMovingNoticeMayDestroyTheDialog) {
 }
 
 TEST_F(BackgroundMoveTest, ADialogWithACaptionStays) {
-  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit"))));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   const Rect before = dialog_->GetWindowRect();
   DragBy(Background(), 40, 30);
   EXPECT_EQ(dialog_->GetWindowRect(), before);

@@ -45,12 +45,11 @@ class DialogKeysTest : public DialogTest {
 };
 
 std::string Box(const std::string& buttons) {
-  return ItemXml(
-      WidgetXml("QDialogButtonBox", "box", PropertyXml("standardButtons", "set", buttons)));
+  return WidgetItem("QDialogButtonBox", "box", PropertyXml("standardButtons", "set", buttons));
 }
 
 std::string Default() {
-  return PropertyXml("default", "bool", "true");
+  return BoolXml("default");
 }
 
 TEST_F(DialogKeysTest, TheDefaultButtonOfTheFormComesFirst) {
@@ -100,9 +99,8 @@ TEST_F(DialogKeysTest, AHostsFocusStays) {
 }
 
 TEST_F(DialogKeysTest, TabStopsReachIntoContainers) {
-  const std::string group = ItemXml(
-      WidgetXml("QGroupBox", "group",
-                "<layout class=\"QVBoxLayout\">" + LineEdit("g1") + LineEdit("g2") + "</layout>"));
+  const std::string group =
+      WidgetItem("QGroupBox", "group", ColumnXml(LineEdit("g1") + LineEdit("g2")));
   std::string form = ColumnForm(LineEdit("a") + group + LineEdit("b"));
   Open(form);
   EXPECT_EQ(TabStops(5), L"a g1 g2 b a ") << "without tab stops the order of the form";
@@ -118,8 +116,7 @@ TEST_F(DialogKeysTest, TabStopsReachIntoContainers) {
 
 TEST_F(DialogKeysTest, DisabledAndHiddenWidgetsAndThoseWithoutFocusPolicyAreSkipped) {
   Open(ColumnForm(LineEdit("a") + LineEdit("b") + LineEdit("c") +
-                  LineEdit("d", PropertyXml("focusPolicy", "enum", "Qt::NoFocus")) +
-                  LineEdit("e")));
+                  LineEdit("d", EnumXml("focusPolicy", "Qt::NoFocus")) + LineEdit("e")));
   Find<BaseGUIObject>(L"b").Enable(false, true);
   Find<BaseGUIObject>(L"c").Show(false, true);
   EXPECT_EQ(TabStops(3), L"a e a ");

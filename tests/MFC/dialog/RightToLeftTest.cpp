@@ -32,7 +32,7 @@ class RightToLeftTest : public DialogTest {
 };
 
 std::string Row(const std::string& items) {
-  return FormXml("<layout class=\"QHBoxLayout\">" + items + "</layout>", 300, 60);
+  return FormXml(RowXml(items), 300, 60);
 }
 
 TEST_F(RightToLeftTest, TheCaretGoesToTheSideItsKeyPointsTo) {
@@ -92,8 +92,7 @@ TEST_F(RightToLeftTest, ArrowsChooseTheRadioButtonBeside) {
 
 TEST_F(RightToLeftTest, HorizontalRangesGrowToTheLeft) {
   for (const std::string className : {"QScrollBar", "QSlider"}) {
-    Open(Row(ItemXml(
-        WidgetXml(className, "range", PropertyXml("orientation", "enum", "Qt::Horizontal")))));
+    Open(Row(WidgetItem(className, "range", EnumXml("orientation", "Qt::Horizontal"))));
     auto& range = Find<RangeControl>(L"range");
     SetFocus(range.GetPlatformHandle());
     robot_.Key(VK_LEFT);
@@ -112,9 +111,8 @@ TEST_F(RightToLeftTest, HorizontalRangesGrowToTheLeft) {
 TEST_F(RightToLeftTest, AreasAreScrolledByABarAtTheirLeft) {
   std::string rows;
   for (int i = 0; i < 20; ++i) rows += PushButton("row" + std::to_string(i));
-  Open(ColumnForm(ItemXml(WidgetXml(
-      "QScrollArea", "area",
-      WidgetXml("QWidget", "content", "<layout class=\"QVBoxLayout\">" + rows + "</layout>")))));
+  Open(ColumnForm(
+      WidgetItem("QScrollArea", "area", WidgetXml("QWidget", "content", ColumnXml(rows)))));
   const int bar = Theme::ScrollBarWidth();
   const CRect area = Area(L"area");
   const CRect content = Area(L"content");

@@ -16,10 +16,8 @@ class DialogSkinTest : public DialogTest {
 };
 
 TEST_F(DialogSkinTest, TheDarkSkinReachesTheDialogAndAllWithinIt) {
-  Open(ColumnForm(
-      LineEdit("edit") + PushButton("button") +
-      ItemXml(WidgetXml("QGroupBox", "group",
-                        "<layout class=\"QVBoxLayout\">" + LineEdit("inner") + "</layout>"))));
+  Open(ColumnForm(LineEdit("edit") + PushButton("button") +
+                  WidgetItem("QGroupBox", "group", ColumnXml(LineEdit("inner")))));
   const auto all = [&] {
     return std::vector{DialogPixel(), PixelOf(L"edit"), PixelOf(L"button"), PixelOf(L"inner")};
   };
@@ -57,9 +55,7 @@ class DirectionTest : public DialogTest {
 
 TEST_F(DirectionTest, FromRightToLeftEverythingIsMirrored) {
   const std::string form =
-      FormXml("<layout class=\"QHBoxLayout\">" + TextWidget("QLabel", "label", "Name") +
-                  LineEdit("edit") + "</layout>",
-              321, 100);
+      FormXml(RowXml(TextWidget("QLabel", "label", "Name") + LineEdit("edit")), 321, 100);
   Open(form);
   const Rect label = PlaceOf(L"label");
   EXPECT_LT(label.Left(), PlaceOf(L"edit").Left());

@@ -40,7 +40,7 @@ struct Kind {
   bool hasMnemonic = true;
 };
 
-const std::string kText = PropertyXml("text", "string", "&amp;Hello");
+const std::string kText = TextXml("&amp;Hello");
 const std::string kPage =
     "<widget class=\"QWidget\" name=\"page\"><attribute name=\"title\"><string>&amp;Hello</string>"
     "</attribute></widget>";
@@ -66,8 +66,7 @@ class LookTest : public FormTest, public testing::WithParamInterface<Kind> {
 
 TEST_P(LookTest, CuesShowToUsersOfTheKeyboardOnly) {
   const Kind& kind = GetParam();
-  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit")) +
-                  ItemXml(WidgetXml(kind.className, "w", kind.inner))));
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit") + WidgetItem(kind.className, "w", kind.inner)));
   if (kind.prepare) kind.prepare(Find<BaseGUIObject>(L"w"));
   for (int i = 0; i < 2; ++i) robot_.ClickCentreOf(Target());  // a check box is as before
   const bool takesFocus = GetFocus() == Target();
@@ -98,8 +97,7 @@ class ButtonLookTest : public FormTest {};
 
 TEST_F(ButtonLookTest, ADisabledFocusRectangleIsNotShownToTheKeyboardEither) {
   for (const auto style : {Button::ButtonStyle::Native, Button::ButtonStyle::Framed}) {
-    Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "edit")) +
-                    ItemXml(WidgetXml("QPushButton", "w", kText))));
+    Open(ColumnForm(WidgetItem("QLineEdit", "edit") + WidgetItem("QPushButton", "w", kText)));
     auto& button = Find<Button>(L"w");
     if (style != Button::ButtonStyle::Native) button.SetStyle(style);
     robot_.Tab();
@@ -115,9 +113,9 @@ TEST_F(ButtonLookTest, ADisabledFocusRectangleIsNotShownToTheKeyboardEither) {
 }
 
 TEST_F(ButtonLookTest, CornersAreAsRoundAsTheWidgetOrTheConfigurationSays) {
-  const std::string form = ColumnForm(ItemXml(WidgetXml("QPushButton", "button", kText)) +
-                                      ItemXml(WidgetXml("QCheckBox", "check", kText)) +
-                                      ItemXml(WidgetXml("QLineEdit", "edit")));
+  const std::string form =
+      ColumnForm(WidgetItem("QPushButton", "button", kText) +
+                 WidgetItem("QCheckBox", "check", kText) + WidgetItem("QLineEdit", "edit"));
   const auto corner = [this](const wchar_t* name) {
     auto& widget = Find<BaseGUIObject>(name);
     const bool isCheck = widget.Type() == BaseGUIObject::GuiType::CheckBox;

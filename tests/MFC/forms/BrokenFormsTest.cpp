@@ -144,18 +144,15 @@ TEST_F(BrokenFormsTest, HugeNumbersStayWithinBounds) {
   const std::string grid = "<layout class=\"QGridLayout\" rowstretch=\"" + huge + "\">" +
                            PropertyXml("spacing", "number", huge) +
                            PropertyXml("leftMargin", "number", huge);
-  const auto column = [](const std::string& items) {
-    return "<layout class=\"QVBoxLayout\">" + items + "</layout>";
-  };
+  const auto column = [](const std::string& items) { return ColumnXml(items); };
   const std::string roots[] = {
       geometry("0", huge),
       geometry(huge, huge),
       size("minimumSize"),
       geometry("0", "100") + WidgetXml("QLineEdit", "w", geometry(huge, huge)),
-      column(ItemXml(WidgetXml("QTextEdit", "w", size("minimumSize")))),
-      column(ItemXml(WidgetXml("QSpinBox", "w", PropertyXml("maximum", "number", huge)))),
-      column(ItemXml(
-          WidgetXml("QComboBox", "w", PropertyXml("minimumContentsLength", "number", huge)))),
+      column(WidgetItem("QTextEdit", "w", size("minimumSize"))),
+      column(WidgetItem("QSpinBox", "w", PropertyXml("maximum", "number", huge))),
+      column(WidgetItem("QComboBox", "w", PropertyXml("minimumContentsLength", "number", huge))),
       column(ItemXml("<spacer>" + size("sizeHint") + "</spacer>")),
       grid + ItemXml(WidgetXml("QLineEdit", "w"), "row=\"0\" column=\"0\"") + "</layout>"};
   for (const std::string& root : roots)
@@ -166,8 +163,7 @@ TEST_F(BrokenFormsTest, CellsFarAwayDoNotTakeMemory) {
   for (const char* cell : {"row=\"2147483647\" column=\"0\"", "row=\"0\" column=\"99999999\"",
                            "row=\"-3\" column=\"-1\"",
                            "row=\"0\" column=\"0\" rowspan=\"2147483647\" colspan=\"-5\""}) {
-    const std::string grid =
-        "<layout class=\"QGridLayout\">" + ItemXml(WidgetXml("QLineEdit", "w"), cell) + "</layout>";
+    const std::string grid = LayoutXml("QGridLayout", ItemXml(WidgetXml("QLineEdit", "w"), cell));
     Try(FormXml(grid, 100, 100));
   }
 }

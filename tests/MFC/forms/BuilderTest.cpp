@@ -28,27 +28,6 @@ namespace {
 
 using GuiType = BaseGUIObject::GuiType;
 
-std::string Enum(const std::string& name, const std::string& value) {
-  return PropertyXml(name, "enum", value);
-}
-
-std::string SizeXml(const std::string& name, int width, int height) {
-  return PropertyXml(name, "size",
-                     "<width>" + std::to_string(width) + "</width><height>" +
-                         std::to_string(height) + "</height>");
-}
-
-std::string GeometryXml(int x, int y, int width, int height) {
-  return PropertyXml("geometry", "rect",
-                     "<x>" + std::to_string(x) + "</x><y>" + std::to_string(y) + "</y><width>" +
-                         std::to_string(width) + "</width><height>" + std::to_string(height) +
-                         "</height>");
-}
-
-std::string Column(const std::string& items) {
-  return "<layout class=\"QVBoxLayout\">" + items + "</layout>";
-}
-
 class BuilderTest : public DialogTest {
  protected:
   template <typename Widget>
@@ -67,45 +46,24 @@ class BuilderTest : public DialogTest {
 };
 
 TEST_F(BuilderTest, AWidgetHasThePolicyOfItsFormClass) {
-  struct Case {
-    const char* className;
-    SizePolicy::Policy horizontal;
-    SizePolicy::Policy vertical;
-  };
   using enum SizePolicy::Policy;
-  constexpr Case kCases[] = {{"QScrollArea", Expanding, Expanding},
-                             {"QPlainTextEdit", Expanding, Expanding},
-                             {"QTextEdit", Expanding, Expanding},
-                             {"QTableWidget", Expanding, Expanding},
-                             {"QListWidget", Expanding, Expanding},
-                             {"QTreeView", Expanding, Expanding},
-                             {"QTabWidget", Expanding, Expanding},
-                             {"DrawElement", Expanding, Expanding},
-                             {"QLineEdit", Expanding, Fixed},
-                             {"QDialogButtonBox", Expanding, Fixed},
-                             {"QProgressBar", Expanding, Fixed},
-                             {"QSlider", Expanding, Fixed},
-                             {"QSplitter", Expanding, Preferred},
-                             {"QPushButton", Minimum, Fixed},
-                             {"QCheckBox", Minimum, Fixed},
-                             {"QRadioButton", Minimum, Fixed},
-                             {"QSpinBox", Minimum, Fixed},
-                             {"QDoubleSpinBox", Minimum, Fixed},
-                             {"QDateEdit", Minimum, Fixed},
-                             {"Line", Minimum, Fixed},
-                             {"QScrollBar", Minimum, Fixed},
-                             {"QComboBox", Preferred, Fixed},
-                             {"QComboBoxFS", Preferred, Fixed},
-                             {"QLabel", Preferred, Preferred},
-                             {"QGroupBox", Preferred, Preferred},
-                             {"QWidget", Preferred, Preferred},
-                             {"QStackedWidget", Preferred, Preferred},
-                             {"HyperLinkElement", Preferred, Preferred}};
-  for (const Case& c : kCases)
-    EXPECT_EQ(PolicyOf(c.className), SizePolicy(c.horizontal, c.vertical)) << c.className;
+  const std::pair<SizePolicy, std::vector<const char*>> kCases[] = {
+      {{Expanding, Expanding},
+       {"QScrollArea", "QPlainTextEdit", "QTextEdit", "QTableWidget", "QListWidget", "QTreeView",
+        "QTabWidget", "DrawElement"}},
+      {{Expanding, Fixed}, {"QLineEdit", "QDialogButtonBox", "QProgressBar", "QSlider"}},
+      {{Expanding, Preferred}, {"QSplitter"}},
+      {{Minimum, Fixed},
+       {"QPushButton", "QCheckBox", "QRadioButton", "QSpinBox", "QDoubleSpinBox", "QDateEdit",
+        "Line", "QScrollBar"}},
+      {{Preferred, Fixed}, {"QComboBox", "QComboBoxFS"}},
+      {{Preferred, Preferred},
+       {"QLabel", "QGroupBox", "QWidget", "QStackedWidget", "HyperLinkElement"}}};
+  for (const auto& [policy, classes] : kCases)
+    for (const char* name : classes) EXPECT_EQ(PolicyOf(name), policy) << name;
   for (const char* name : {"QDialogButtonBox", "QProgressBar", "QSlider"})
-    EXPECT_EQ(PolicyOf(name, Enum("orientation", "Qt::Vertical")), SizePolicy(Fixed, Expanding));
-  EXPECT_EQ(PolicyOf("QSplitter", Enum("orientation", "Qt::Orientation::Vertical")),
+    EXPECT_EQ(PolicyOf(name, EnumXml("orientation", "Qt::Vertical")), SizePolicy(Fixed, Expanding));
+  EXPECT_EQ(PolicyOf("QSplitter", EnumXml("orientation", "Qt::Orientation::Vertical")),
             SizePolicy(Preferred, Expanding));
 }
 
@@ -141,16 +99,25 @@ TEST_F(BuilderTest, LimitsAreMarkedPerAxis) {
 }
 
 TEST_F(BuilderTest, ClassesAddTheirStyleBits) {
-  EXPECT_TRUE(StyleOf("QListWidget", PropertyXml("sortingEnabled", "bool", "true")) & 0x10);
-  EXPECT_TRUE(StyleOf("QSlider", Enum("orientation", "Qt::Orientation::Vertical")) & 0x2);
-  EXPECT_TRUE(StyleOf("QScrollBar", Enum("orientation", "Qt::Vertical")) & 0x1);
-  EXPECT_EQ(StyleOf("Line", Enum("orientation", "Qt::Vertical")) & 0x1F, 0x11u);
-  EXPECT_EQ(StyleOf("Line", Enum("orientation", "Qt::Horizontal")) & 0x1F, 0x10u);
-  EXPECT_TRUE(StyleOf("QLabel", Enum("frameShape", "QFrame::Box")) & WS_BORDER);
-  EXPECT_FALSE(StyleOf("QLabel", Enum("frameShape", "QFrame::Boxed")) & WS_BORDER);
-  EXPECT_FALSE(StyleOf("QTreeView", Enum("frameShape", "QFrame::Shape::NoFrame")) & WS_BORDER);
-  EXPECT_TRUE(StyleOf("QLineEdit", "") & WS_TABSTOP);
-  EXPECT_FALSE(StyleOf("QLineEdit", Enum("focusPolicy", "Qt::FocusPolicy::NoFocus")) & WS_TABSTOP);
+  struct Case {
+    const char* className;
+    std::string property;
+    DWORD mask;
+    DWORD bits;
+  };
+  const Case kCases[] = {
+      {"QListWidget", BoolXml("sortingEnabled"), 0x10, 0x10},
+      {"QSlider", EnumXml("orientation", "Qt::Orientation::Vertical"), 0x2, 0x2},
+      {"QScrollBar", EnumXml("orientation", "Qt::Vertical"), 0x1, 0x1},
+      {"Line", EnumXml("orientation", "Qt::Vertical"), 0x1F, 0x11},
+      {"Line", EnumXml("orientation", "Qt::Horizontal"), 0x1F, 0x10},
+      {"QLabel", EnumXml("frameShape", "QFrame::Box"), WS_BORDER, WS_BORDER},
+      {"QLabel", EnumXml("frameShape", "QFrame::Boxed"), WS_BORDER, 0},
+      {"QTreeView", EnumXml("frameShape", "QFrame::Shape::NoFrame"), WS_BORDER, 0},
+      {"QLineEdit", "", WS_TABSTOP, WS_TABSTOP},
+      {"QLineEdit", EnumXml("focusPolicy", "Qt::FocusPolicy::NoFocus"), WS_TABSTOP, 0}};
+  for (const Case& c : kCases)
+    EXPECT_EQ(StyleOf(c.className, c.property) & c.mask, c.bits) << c.className << c.property;
 }
 
 TEST_F(BuilderTest, DialogStyleBitsMoveToTheExtendedStyle) {
@@ -169,29 +136,25 @@ TEST_F(BuilderTest, TheTitleIsTheWindowsText) {
 }
 
 TEST_F(BuilderTest, WidgetsTakeTheirSettings) {
-  const auto text = PropertyXml("text", "string", "a text of some words");
-  Open(FormXml(
-      "<layout class=\"QVBoxLayout\">" +
-          ItemXml(WidgetXml("QLineEdit", "secret",
-                            text + Enum("echoMode", "QLineEdit::EchoMode::Password"))) +
-          ItemXml(WidgetXml("QLineEdit", "fixed", text + PropertyXml("readOnly", "bool", "true"))) +
-          ItemXml(WidgetXml("QLineEdit", "right",
-                            text + PropertyXml("alignment", "set",
-                                               "Qt::AlignmentFlag::AlignRight|Qt::AlignTop"))) +
-          ItemXml(WidgetXml("QLabel", "wrapped", text + PropertyXml("wordWrap", "bool", "true"))) +
-          ItemXml(WidgetXml("QComboBox", "combo",
-                            "<item><property name=\"text\"><string>one</string></property></item>"
-                            "<item><property name=\"text\"><string>two</string></property></item>" +
-                                PropertyXml("currentIndex", "number", "1"))) +
-          ItemXml(WidgetXml(
+  const auto edit = [](const std::string& name, const std::string& property) {
+    return TextWidget("QLineEdit", name, "a text of some words", property);
+  };
+  Open(ColumnForm(
+      edit("secret", EnumXml("echoMode", "QLineEdit::EchoMode::Password")) +
+          edit("fixed", BoolXml("readOnly")) +
+          edit("right",
+               PropertyXml("alignment", "set", "Qt::AlignmentFlag::AlignRight|Qt::AlignTop")) +
+          TextWidget("QLabel", "wrapped", "a text of some words", BoolXml("wordWrap")) +
+          WidgetItem(
+              "QComboBox", "combo",
+              ItemXml(TextXml("one")) + ItemXml(TextXml("two")) + NumberXml("currentIndex", 1)) +
+          WidgetItem(
               "QDateEdit", "date",
-              PropertyXml("date", "date", "<year>2024</year><month>2</month><day>29</day>"))) +
-          ItemXml(WidgetXml("QPlainTextEdit", "plain",
-                            PropertyXml("plainText", "string", "&lt;b&gt;as it is"))) +
-          ItemXml(WidgetXml(
-              "QTextEdit", "rich",
-              PropertyXml("html", "string", "&lt;p&gt;&lt;b&gt;bold&lt;/b&gt;&lt;/p&gt;"))) +
-          "</layout>",
+              PropertyXml("date", "date", "<year>2024</year><month>2</month><day>29</day>")) +
+          WidgetItem("QPlainTextEdit", "plain",
+                     PropertyXml("plainText", "string", "&lt;b&gt;as it is")) +
+          WidgetItem("QTextEdit", "rich",
+                     PropertyXml("html", "string", "&lt;p&gt;&lt;b&gt;bold&lt;/b&gt;&lt;/p&gt;")),
       200, 200));
   const auto style = [&](const wchar_t* name) {
     return Find<BaseGUIObject>(name).GetPlatformWindow()->GetStyle();
@@ -210,7 +173,7 @@ TEST_F(BuilderTest, ChildrenOfContainersAreTheirs) {
   const std::string inner = WidgetXml("QLineEdit", "inner");
   Open(FormXml(WidgetXml("QGroupBox", "group",
                          PropertyXml("title", "string", "Group") + GeometryXml(10, 20, 150, 100) +
-                             Column(ItemXml(inner))) +
+                             ColumnXml(ItemXml(inner))) +
                    WidgetXml("QLineEdit", "outer", GeometryXml(10, 130, 90, 22)),
                300, 200));
   EXPECT_EQ(Find<GroupBox>(L"group").GetTitle(), L"Group");
@@ -234,12 +197,11 @@ TEST_F(BuilderTest, ChildrenPlacedByGeometryCountFromTheirParent) {
 TEST_F(BuilderTest, PagesOfTabsHaveCaptionsAndShowOneAtATime) {
   const auto page = [](const std::string& name, const std::string& caption) {
     return WidgetXml("QWidget", name,
-                     "<attribute name=\"title\"><string>" + caption + "</string></attribute>" +
-                         Column(LineEdit("edit of " + name)));
+                     AttributeXml("title", caption) + ColumnXml(LineEdit("edit of " + name)));
   };
-  Open(ColumnForm(ItemXml(WidgetXml(
-      "QTabWidget", "tabs",
-      PropertyXml("currentIndex", "number", "1") + page("a", "First") + page("b", "Second")))));
+  Open(ColumnForm(
+      WidgetItem("QTabWidget", "tabs",
+                 NumberXml("currentIndex", 1) + page("a", "First") + page("b", "Second"))));
   auto& tabs = Find<TabView>(L"tabs");
   EXPECT_EQ(tabs.GetItemCount(), 2);
   EXPECT_EQ(tabs.GetTabText(0), L"First");
@@ -253,12 +215,12 @@ TEST_F(BuilderTest, PagesOfTabsHaveCaptionsAndShowOneAtATime) {
 
 TEST_F(BuilderTest, StackedPagesAndSplitterPanesAreAdded) {
   Open(ColumnForm(
-      ItemXml(WidgetXml("QStackedWidget", "stack",
-                        PropertyXml("currentIndex", "number", "7") + WidgetXml("QWidget", "p") +
-                            WidgetXml("QWidget", "q"))) +
-      ItemXml(WidgetXml("QSplitter", "split",
-                        Enum("orientation", "Qt::Horizontal") + WidgetXml("QListWidget", "left") +
-                            WidgetXml("QWidget", "right", Column(LineEdit("edit")))))));
+      WidgetItem(
+          "QStackedWidget", "stack",
+          NumberXml("currentIndex", 7) + WidgetXml("QWidget", "p") + WidgetXml("QWidget", "q")) +
+      WidgetItem("QSplitter", "split",
+                 EnumXml("orientation", "Qt::Horizontal") + WidgetXml("QListWidget", "left") +
+                     WidgetXml("QWidget", "right", ColumnXml(LineEdit("edit"))))));
   auto& stack = Find<StackedDialog>(L"stack");
   EXPECT_EQ(stack.GetCurrentIndex(), 0) << "an index out of range gives way to the first";
   EXPECT_EQ(static_cast<BaseGUIObject*>(stack.GetPage(1)), &Find<BaseGUIObject>(L"q"));
@@ -268,14 +230,12 @@ TEST_F(BuilderTest, StackedPagesAndSplitterPanesAreAdded) {
 }
 
 TEST_F(BuilderTest, RadioButtonsOfOneGroupNameShareTheirGroup) {
-  const auto radio = [](const std::string& name, const std::string& group, const char* checked) {
-    return ItemXml(WidgetXml("QRadioButton", name,
-                             PropertyXml("checked", "bool", checked) +
-                                 "<attribute name=\"buttonGroup\"><string>" + group +
-                                 "</string></attribute>"));
+  const auto radio = [](const std::string& name, const std::string& group, bool checked) {
+    return WidgetItem("QRadioButton", name,
+                      BoolXml("checked", checked) + AttributeXml("buttonGroup", group));
   };
-  Open(ColumnForm(radio("a", "one", "true") + radio("b", "two", "true") +
-                  radio("c", "one", "false") + radio("d", "two", "false")));
+  Open(ColumnForm(radio("a", "one", true) + radio("b", "two", true) + radio("c", "one", false) +
+                  radio("d", "two", false)));
   EXPECT_EQ(Find<RadioButton>(L"a").GetGroupInfo(), Find<RadioButton>(L"c").GetGroupInfo());
   EXPECT_NE(Find<RadioButton>(L"a").GetGroupInfo(), Find<RadioButton>(L"b").GetGroupInfo());
   robot_.ClickCentreOf(Find<RadioButton>(L"c").GetPlatformHandle());
@@ -285,12 +245,11 @@ TEST_F(BuilderTest, RadioButtonsOfOneGroupNameShareTheirGroup) {
 }
 
 TEST_F(BuilderTest, ChildrenOfUnknownClassesAreBuiltInTheirPlace) {
-  Open(FormXml("<layout class=\"QGridLayout\">" +
-                   ItemXml(WidgetXml("QToolBox", "unknown", Column(LineEdit("a") + LineEdit("b"))),
-                           "row=\"0\" column=\"1\"") +
-                   ItemXml(WidgetXml("QLabel", "label", PropertyXml("text", "string", "Name")),
-                           "row=\"0\" column=\"0\"") +
-                   "</layout>",
+  Open(FormXml(LayoutXml("QGridLayout", ItemXml(WidgetXml("QToolBox", "unknown",
+                                                          ColumnXml(LineEdit("a") + LineEdit("b"))),
+                                                "row=\"0\" column=\"1\"") +
+                                            ItemXml(WidgetXml("QLabel", "label", TextXml("Name")),
+                                                    "row=\"0\" column=\"0\"")),
                300, 200));
   EXPECT_EQ(dialog_->GetElementByName(L"unknown"), nullptr);
   EXPECT_EQ(Find<Edit>(L"a").GetParent(), dialog_.get());
@@ -300,9 +259,8 @@ TEST_F(BuilderTest, ChildrenOfUnknownClassesAreBuiltInTheirPlace) {
 }
 
 TEST_F(BuilderTest, CustomClassesStandForTheirBase) {
-  std::string form =
-      ColumnForm(ItemXml(WidgetXml("FancyEdit", "a")) + ItemXml(WidgetXml("FancierEdit", "b")) +
-                 ItemXml(WidgetXml("Loop", "c")));
+  std::string form = ColumnForm(WidgetItem("FancyEdit", "a") + WidgetItem("FancierEdit", "b") +
+                                WidgetItem("Loop", "c"));
   const auto custom = [](const std::string& name, const std::string& base) {
     return "<customwidget><class>" + name + "</class><extends>" + base +
            "</extends></customwidget>";

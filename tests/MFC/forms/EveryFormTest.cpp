@@ -217,8 +217,7 @@ class EveryFormTest : public FormTest {
       const auto& most = ImplOf(widget)->Links().explicitMaximum;
       ExpectApart(children);
       const bool isScrolled = widget->Type() == GuiType::ScrollArea;
-      if (!isScrolled && !most.width && !most.height)
-        ExpectWithin(parent, children);
+      if (!isScrolled && !most.width && !most.height) ExpectWithin(parent, children);
     }
     for (HWND child : children) ExpectGoodPlaces(child);
   }

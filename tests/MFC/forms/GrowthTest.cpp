@@ -64,7 +64,7 @@ struct InUse {
 
 std::string FormOf(std::initializer_list<const char*> classes) {
   std::string items;
-  for (const char* name : classes) items += ItemXml(WidgetXml(name, name));
+  for (const char* name : classes) items += WidgetItem(name, name);
   return ColumnForm(items);
 }
 

@@ -98,7 +98,7 @@ std::vector<std::string> WidgetsWithTexts() {
 std::string FormWith(std::string widget, const std::string& text) {
   for (auto at = widget.find('@'); at != widget.npos; at = widget.find('@'))
     widget.replace(at, 1, text);
-  return ColumnForm(ItemXml(WidgetXml("QPushButton", "first")) + ItemXml(widget), 150, 80);
+  return ColumnForm(WidgetItem("QPushButton", "first") + ItemXml(widget), 150, 80);
 }
 
 // A TS file that puts "*" before each text of the form.
@@ -158,11 +158,10 @@ TEST_F(LanguageTest, StandardButtonsTakeTheirTextsFromTheCommonStrings) {
         "<r language='de'><StringTable><string id='Wexa::BBoxCancel'>Abbrechen</string>"
         "</StringTable></r>");
   Translator::GetInstance().LoadStrings(L"");
-  Write(
-      GetWorkingDirPath() + L"f.ui",
-      ColumnForm(ItemXml(WidgetXml("QDialogButtonBox", "box",
-                                   PropertyXml("standardButtons", "set",
-                                               "QDialogButtonBox::Cancel|QDialogButtonBox::Ok")))));
+  Write(GetWorkingDirPath() + L"f.ui",
+        ColumnForm(WidgetItem("QDialogButtonBox", "box",
+                              PropertyXml("standardButtons", "set",
+                                          "QDialogButtonBox::Cancel|QDialogButtonBox::Ok"))));
   Title(Path("f.ui"));
   auto& box = Find<ButtonBox>(L"box");
   EXPECT_EQ(box.GetButton(StandardButton::Cancel)->GetText(), L"Abbrechen");
@@ -196,8 +195,7 @@ TEST_F(LanguageTest, FilesWithRelativeLinesGiveTheFirstTextAndAReason) {
 }
 
 TEST_F(LanguageTest, AFontOfTheStringsFileIsTheDialogs) {
-  const std::string form = ColumnForm(
-      ItemXml(WidgetXml("QLabel", "label", PropertyXml("text", "string", "A text to measure"))));
+  const std::string form = ColumnForm(WidgetItem("QLabel", "label", TextXml("A text to measure")));
   Write(GetWorkingDirPath() + L"f.ui", form);
   Title(Path("f.ui"));
   const int height = Find<BaseGUIObject>(L"label").IdealSize().Height();

@@ -51,17 +51,15 @@ class ScaledLayoutTest : public DialogTest {
 };
 
 TEST_F(ScaledLayoutTest, SpacingAndMarginsAreScaledAndCut) {
-  Layout& layout = LayoutFor("<layout class=\"QVBoxLayout\">" + Number("spacing", 6) +
-                             Number("leftMargin", 11) + Number("topMargin", 0) + "</layout>");
+  Layout& layout = LayoutFor(
+      ColumnXml(Number("spacing", 6) + Number("leftMargin", 11) + Number("topMargin", 0)));
   EXPECT_EQ(layout.Spacing(), scaled_.six);
   EXPECT_EQ(MarginsOf(layout), (Margins{scaled_.eleven, 0, scaled_.eleven, scaled_.eleven}));
 }
 
 TEST_F(ScaledLayoutTest, DefaultsDependOnTheWidgetAround) {
-  const std::string inner = "<layout class=\"QHBoxLayout\">" + LineEdit("edit") + "</layout>";
-  Layout& layout =
-      LayoutFor("<layout class=\"QVBoxLayout\">" + ItemXml(WidgetXml("QGroupBox", "group", inner)) +
-                ItemXml(inner) + "</layout>");
+  const std::string inner = RowXml(LineEdit("edit"));
+  Layout& layout = LayoutFor(ColumnXml(WidgetItem("QGroupBox", "group", inner) + ItemXml(inner)));
   EXPECT_EQ(layout.Spacing(), scaled_.six);
   EXPECT_EQ(MarginsOf(layout).top, scaled_.eleven) << "of a dialog";
   EXPECT_EQ(MarginsOf(*ImplOf(&Find<BaseGUIObject>(L"group"))->Links().layout).right, scaled_.nine)
@@ -88,20 +86,19 @@ TEST_F(ScaledLayoutTest, GridsHaveTwoSpacingsAndLeastSizes) {
 }
 
 TEST_F(ScaledLayoutTest, SpacersHaveTheirScaledSizeAndPolicy) {
-  const std::string fixed = PropertyXml("sizeType", "enum", "QSizePolicy::Fixed");
+  const std::string fixed = EnumXml("sizeType", "QSizePolicy::Fixed");
   const std::string hint = SizeHint("<width>40</width><height>30</height>");
-  const std::string horizontal = PropertyXml("orientation", "enum", "Qt::Horizontal");
-  Layout& row = LayoutFor("<layout class=\"QHBoxLayout\">" + Spacer(fixed + hint + horizontal) +
-                          Spacer(hint + horizontal) + Spacer(horizontal) +
-                          Spacer(hint + PropertyXml("sizeType", "enum", "QSizePolicy::Expanding")) +
-                          "</layout>");
+  const std::string horizontal = EnumXml("orientation", "Qt::Horizontal");
+  Layout& row = LayoutFor(RowXml(Spacer(fixed + hint + horizontal) + Spacer(hint + horizontal) +
+                                 Spacer(horizontal) +
+                                 Spacer(hint + EnumXml("sizeType", "QSizePolicy::Expanding"))));
   ASSERT_EQ(row.Count(), 3) << "a spacer without a size is none";
   EXPECT_EQ(row.ItemAt(0)->SizeHint(), Size(scaled_.forty, scaled_.thirty));
   EXPECT_EQ(row.ItemAt(0)->ExpandingDirections(), Orientation::None);
   EXPECT_EQ(row.ItemAt(0)->MaximumSize().Width(), scaled_.forty);
   EXPECT_EQ(row.ItemAt(1)->ExpandingDirections(), Orientation::Horizontal);
   EXPECT_EQ(row.ItemAt(2)->ExpandingDirections(), Orientation::Horizontal);
-  Layout& column = LayoutFor("<layout class=\"QVBoxLayout\">" + Spacer(hint) + "</layout>");
+  Layout& column = LayoutFor(ColumnXml(Spacer(hint)));
   EXPECT_EQ(column.ItemAt(0)->ExpandingDirections(), Orientation::Vertical);
 }
 
@@ -109,13 +106,12 @@ TEST_F(ScaledLayoutTest, FormLayoutsGiveTheFieldsTheExtraWidth) {
   const auto item = [](const std::string& widget, const std::string& cell) {
     return ItemXml(widget, cell);
   };
-  Open(FormXml("<layout class=\"QFormLayout\">" +
-                   item(WidgetXml("QLabel", "label", PropertyXml("text", "string", "Name")),
-                        "row=\"0\" column=\"0\"") +
-                   item(WidgetXml("QPushButton", "field"), "row=\"0\" column=\"1\"") +
-                   item(WidgetXml("QLineEdit", "whole"), "row=\"1\" column=\"0\" colspan=\"2\"") +
-                   "</layout>",
-               300, 200));
+  Open(FormXml(
+      LayoutXml("QFormLayout",
+                item(WidgetXml("QLabel", "label", TextXml("Name")), "row=\"0\" column=\"0\"") +
+                    item(WidgetXml("QPushButton", "field"), "row=\"0\" column=\"1\"") +
+                    item(WidgetXml("QLineEdit", "whole"), "row=\"1\" column=\"0\" colspan=\"2\"")),
+      300, 200));
   const Rect label = PlaceOf(L"label");
   EXPECT_EQ(label.Width(), Find<BaseGUIObject>(L"label").IdealSize().Width());
   EXPECT_EQ(PlaceOf(L"field").Left() - label.Right(), scaled_.six);
@@ -124,9 +120,8 @@ TEST_F(ScaledLayoutTest, FormLayoutsGiveTheFieldsTheExtraWidth) {
 }
 
 TEST_F(ScaledLayoutTest, AFixedConstraintMakesTheDialogItsIdealSize) {
-  Open(FormXml("<layout class=\"QVBoxLayout\">" +
-                   PropertyXml("sizeConstraint", "enum", "QLayout::SizeConstraint::SetFixedSize") +
-                   LineEdit("edit") + PushButton("button") + "</layout>",
+  Open(FormXml(ColumnXml(EnumXml("sizeConstraint", "QLayout::SizeConstraint::SetFixedSize") +
+                         LineEdit("edit") + PushButton("button")),
                700, 500));
   const Size ideal = dialog_->GetImpl()->Links().layout->TotalSizeHint();
   EXPECT_EQ(dialog_->GetClientRect().GetSize(), ideal);
@@ -141,9 +136,7 @@ TEST_F(ScaledLayoutTest, AFixedConstraintMakesTheDialogItsIdealSize) {
 }
 
 TEST_F(ScaledLayoutTest, TheMinimumOfTheLayoutIsTheDialogs) {
-  Open(FormXml(
-      "<layout class=\"QVBoxLayout\">" + LineEdit("edit") + PushButton("button") + "</layout>", 1,
-      1));
+  Open(FormXml(ColumnXml(LineEdit("edit") + PushButton("button")), 1, 1));
   const Size least = dialog_->GetImpl()->Links().layout->TotalMinimumSize();
   EXPECT_EQ(dialog_->GetClientRect().GetSize(), least);
   Find<Button>(L"button").Show(false, true);

@@ -9,7 +9,7 @@ namespace {
 class ProgressBarTest : public FormTest {
  protected:
   ProgressBar& OpenBar(const std::string& properties = "") {
-    Open(ColumnForm(ItemXml(WidgetXml("QProgressBar", "bar", properties))));
+    Open(ColumnForm(WidgetItem("QProgressBar", "bar", properties)));
     return Find<ProgressBar>(L"bar");
   }
   std::uint32_t PixelAt(double part) {
@@ -30,7 +30,7 @@ class ProgressBarTest : public FormTest {
 };
 
 TEST_F(ProgressBarTest, FillsItsShareAndTellsIt) {
-  ProgressBar& bar = OpenBar(PropertyXml("maximum", "number", "200"));
+  ProgressBar& bar = OpenBar(NumberXml("maximum", 200));
   bar.SetValue(50);
   Robot::PumpAll();
   EXPECT_EQ(PixelAt(0.1), PixelAt(0.2));
@@ -61,7 +61,7 @@ TEST_F(ProgressBarTest, MovesOnlyWhileItIsIndeterminate) {
 }
 
 TEST_F(ProgressBarTest, ARangeWithoutStepsIsIndeterminate) {
-  ProgressBar& bar = OpenBar(PropertyXml("maximum", "number", "0"));
+  ProgressBar& bar = OpenBar(NumberXml("maximum", 0));
   EXPECT_TRUE(bar.IsIndeterminate());
   EXPECT_GT(Paints(500), 5);
   bar.SetRange(0, 10);

@@ -11,10 +11,10 @@ namespace {
 
 std::string RangeXml(const std::string& className, const std::string& orientation,
                      const std::string& more = "") {
-  return ItemXml(WidgetXml(className, "range",
-                           PropertyXml("orientation", "enum", "Qt::" + orientation) +
-                               PropertyXml("maximum", "number", "100") + more)) +
-         ItemXml(WidgetXml("QLineEdit", "edit"));
+  return WidgetItem(
+             className, "range",
+             EnumXml("orientation", "Qt::" + orientation) + NumberXml("maximum", 100) + more) +
+         WidgetItem("QLineEdit", "edit");
 }
 
 class RangeControlTest : public FormTest {
@@ -37,8 +37,7 @@ class RangeControlTest : public FormTest {
 };
 
 TEST_F(RangeControlTest, ASliderFollowsTheKeys) {
-  OpenRange("QSlider", "Horizontal",
-            PropertyXml("singleStep", "number", "2") + PropertyXml("pageStep", "number", "25"));
+  OpenRange("QSlider", "Horizontal", NumberXml("singleStep", 2) + NumberXml("pageStep", 25));
   Range().SetValue(50);
   SetFocus(Range().GetPlatformHandle());
   for (int key : {VK_RIGHT, VK_UP, VK_LEFT, VK_NEXT, VK_PRIOR, VK_HOME, VK_END, VK_END})

@@ -9,8 +9,7 @@ namespace {
 class DrawElementTest : public FormTest {
  protected:
   DrawElement& OpenCanvas() {
-    Open(ColumnForm(ItemXml(WidgetXml("DrawElement", "canvas")) +
-                    ItemXml(WidgetXml("QLineEdit", "edit"))));
+    Open(ColumnForm(WidgetItem("DrawElement", "canvas") + WidgetItem("QLineEdit", "edit")));
     return Find<DrawElement>(L"canvas");
   }
   std::uint32_t Pixel() {

@@ -11,9 +11,8 @@ namespace {
 class HyperLinkElementTest : public FormTest {
  protected:
   HyperLinkElement& OpenLink() {
-    Open(ColumnForm(ItemXml(WidgetXml("HyperLinkElement", "link",
-                                      PropertyXml("text", "string", "Read more about it"))) +
-                    ItemXml(WidgetXml("QLineEdit", "edit"))));
+    Open(ColumnForm(WidgetItem("HyperLinkElement", "link", TextXml("Read more about it")) +
+                    WidgetItem("QLineEdit", "edit")));
     Link().Clicked.Connect([this] { ++clicks_; });
     return Link();
   }

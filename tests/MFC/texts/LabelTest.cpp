@@ -13,7 +13,7 @@ namespace {
 class LabelTest : public FormTest {
  protected:
   Label& OpenLabel(const std::string& text, int width) {
-    Open(FormXml(WidgetXml("QLabel", "label", PropertyXml("text", "string", text)), 300, 100));
+    Open(FormXml(WidgetXml("QLabel", "label", TextXml(text)), 300, 100));
     auto& label = Find<Label>(L"label");
     label.MoveWindow(0, 0, width, 40, true);
     Robot::PumpAll();
@@ -70,9 +70,8 @@ class LabelPictureTest : public FormTest {
   }
   static std::string PictureLabel(const std::string& name, const std::string& file,
                                   const std::string& more = "") {
-    return ItemXml(WidgetXml(
-        "QLabel", name,
-        PropertyXml("text", "string", "instead") + PropertyXml("pixmap", "pixmap", file) + more));
+    return WidgetItem("QLabel", name,
+                      TextXml("instead") + PropertyXml("pixmap", "pixmap", file) + more);
   }
   CRect Shown(const wchar_t* label, std::uint32_t color = kGreen) {
     return Robot::BoundsOf(Find<Label>(label).GetPlatformHandle(), color);
@@ -98,7 +97,7 @@ TEST_F(LabelPictureTest, FormsNamePicturesOfTheHost) {
 
 TEST_F(LabelPictureTest, ScaledContentsFillTheLabelAndAlignmentsPlaceThePicture) {
   WritePicture("a.bmp", 12, 8);
-  Open(ColumnForm(PictureLabel("filled", ":/a.bmp", PropertyXml("scaledContents", "bool", "true")) +
+  Open(ColumnForm(PictureLabel("filled", ":/a.bmp", BoolXml("scaledContents")) +
                   PictureLabel("corner", ":/a.bmp",
                                PropertyXml("alignment", "set", "Qt::AlignRight|Qt::AlignTop"))));
   EXPECT_EQ(Find<Label>(L"filled").IdealSize(), Size(12, 8));

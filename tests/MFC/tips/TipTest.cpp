@@ -9,9 +9,6 @@ namespace {
 
 constexpr int kRest = 600;  // longer than a pointer has to rest
 
-std::string ButtonXml(const std::string& name, const std::string& inner = "") {
-  return ItemXml(WidgetXml("QPushButton", name, inner));
-}
 std::string TipXml(const std::string& text) {
   return PropertyXml("toolTip", "string", text);
 }
@@ -50,7 +47,8 @@ class TipTest : public FormTest {
 // -- Tool tips
 
 TEST_F(TipTest, AToolTipComesWhenThePointerRestsAndGoesWithIt) {
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does")) + ButtonXml("b")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does")) +
+                  WidgetItem("QPushButton", "b")));
   robot_.MoveTo(Widget(L"a").GetPlatformHandle());
   robot_.AdvanceTime(300);
   EXPECT_TRUE(Tips().empty());
@@ -62,7 +60,7 @@ TEST_F(TipTest, AToolTipComesWhenThePointerRestsAndGoesWithIt) {
 }
 
 TEST_F(TipTest, AToolTipDoesNotTakeTheActivation) {
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does"))));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does"))));
   HWND active = GetActiveWindow();
   RestOver(L"a");
   ASSERT_EQ(Tips().size(), 1u);
@@ -70,7 +68,8 @@ TEST_F(TipTest, AToolTipDoesNotTakeTheActivation) {
 }
 
 TEST_F(TipTest, APressHidesTheTipUntilThePointerComesAgain) {
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does")) + ButtonXml("b")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does")) +
+                  WidgetItem("QPushButton", "b")));
   RestOver(L"a");
   robot_.ClickCentreOf(Widget(L"a").GetPlatformHandle());
   EXPECT_TRUE(Tips().empty());
@@ -82,14 +81,15 @@ TEST_F(TipTest, APressHidesTheTipUntilThePointerComesAgain) {
 }
 
 TEST_F(TipTest, AToolTipGoesAfterSomeTime) {
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does"))));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does"))));
   RestOver(L"a");
   robot_.AdvanceTime(6000);
   EXPECT_TRUE(Tips().empty());
 }
 
 TEST_F(TipTest, DisabledWidgetsHaveTheirTips) {
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does")) + ButtonXml("b")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does")) +
+                  WidgetItem("QPushButton", "b")));
   Widget(L"a").Enable(false, true);
   RestOver(L"a");
   EXPECT_EQ(Tips().size(), 1u);
@@ -101,7 +101,8 @@ TEST_F(TipTest, DisabledWidgetsHaveTheirTips) {
 }
 
 TEST_F(TipTest, HiddenWidgetsHaveNone) {
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does")) + ButtonXml("b")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does")) +
+                  WidgetItem("QPushButton", "b")));
   const POINT place = Robot::CentreOf(Widget(L"a").GetPlatformHandle());
   Widget(L"a").Show(false, false);
   robot_.MoveTo(place);
@@ -110,7 +111,7 @@ TEST_F(TipTest, HiddenWidgetsHaveNone) {
 }
 
 TEST_F(TipTest, AreasHaveTipsOfTheirOwn) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   auto button = dialog_->GetElementByName(L"a");
   CRect left(0, 0, 10, 100);
   dialog_->SetToolTip(button, L"", L"the left", 1, &left);
@@ -125,7 +126,7 @@ TEST_F(TipTest, AreasHaveTipsOfTheirOwn) {
 }
 
 TEST_F(TipTest, ALongerTipIsHigherThanItsTitle) {
-  Open(ColumnForm(ButtonXml("a", TipXml("short"))));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("short"))));
   RestOver(L"a");
   const CRect small = PlaceOfTip(0);
   dialog_->SetToolTip(dialog_->GetElementByName(L"a"), L"A title", ManyWords());
@@ -135,12 +136,12 @@ TEST_F(TipTest, ALongerTipIsHigherThanItsTitle) {
 }
 
 TEST_F(TipTest, ATipMayOutliveItsWidgetAndItsDialog) {
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does"))));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does"))));
   RestOver(L"a");
   dialog_.reset();
   robot_.AdvanceTime(10);
   EXPECT_TRUE(Tips().empty());
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does"))));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does"))));
   robot_.MoveTo(Widget(L"a").GetPlatformHandle());
   dialog_->Done(Dialog::Rejected);
   dialog_->DoModeless(true);
@@ -151,7 +152,7 @@ TEST_F(TipTest, ATipMayOutliveItsWidgetAndItsDialog) {
 }
 
 TEST_F(TipTest, AToolTipStaysOnTheScreen) {
-  Open(ColumnForm(ButtonXml("a", TipXml("What a does"))));
+  Open(ColumnForm(WidgetItem("QPushButton", "a", TipXml("What a does"))));
   const CRect area = Robot::Screen().WorkArea();
   dialog_->MoveWindow(area.right - 320, area.bottom - 240, 310, 235, true);
   Robot::PumpAll();
@@ -162,7 +163,7 @@ TEST_F(TipTest, AToolTipStaysOnTheScreen) {
 // -- Balloon tips
 
 TEST_F(TipTest, ABalloonPointsAtItsWidget) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   EXPECT_FALSE(Widget(L"a").HideBalloonTipEx());
   EXPECT_FALSE(Widget(L"a").IsBalloonTipDisplayed());
   EXPECT_TRUE(
@@ -179,7 +180,7 @@ TEST_F(TipTest, ABalloonPointsAtItsWidget) {
 }
 
 TEST_F(TipTest, ABalloonStandsAboveWhereThereIsNoRoomBelow) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   const CRect area = Robot::Screen().WorkArea();
   dialog_->MoveWindow(area.right - 320, area.bottom - 120, 310, 120, true);
   Robot::PumpAll();
@@ -190,7 +191,7 @@ TEST_F(TipTest, ABalloonStandsAboveWhereThereIsNoRoomBelow) {
 }
 
 TEST_F(TipTest, ABalloonGoesWithTheNextKeyOrClickUnlessItStays) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   dialog_->SetFocusToCtrl(&Widget(L"a"));
   Widget(L"a").ShowBalloonTipEx(L"Text", BalloonTipIconType::Information, true, false);
   robot_.Key(VK_LEFT);
@@ -209,7 +210,7 @@ TEST_F(TipTest, ABalloonGoesWithTheNextKeyOrClickUnlessItStays) {
 }
 
 TEST_F(TipTest, ABalloonGoesInTime) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   Widget(L"a").ShowBalloonTipEx(L"Title", L"Text", false, true);
   robot_.AdvanceTime(9000);
   EXPECT_TRUE(Widget(L"a").IsBalloonTipDisplayed());
@@ -218,7 +219,7 @@ TEST_F(TipTest, ABalloonGoesInTime) {
 }
 
 TEST_F(TipTest, OneBalloonIsShownAtATime) {
-  Open(ColumnForm(ButtonXml("a") + ButtonXml("b")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a") + WidgetItem("QPushButton", "b")));
   Widget(L"a").ShowBalloonTipEx(L"Title", L"Text", true, true);
   Widget(L"b").ShowBalloonTipEx(L"Title", L"Text", true, true);
   EXPECT_FALSE(Widget(L"a").IsBalloonTipDisplayed());
@@ -226,7 +227,7 @@ TEST_F(TipTest, OneBalloonIsShownAtATime) {
 }
 
 TEST_F(TipTest, ABalloonGoesWithItsWidget) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   Widget(L"a").ShowBalloonTipEx(L"Title", L"Text", false, false);
   dialog_->Done(Dialog::Rejected);
   EXPECT_TRUE(Tips().empty());
@@ -239,14 +240,14 @@ TEST_F(TipTest, ABalloonGoesWithItsWidget) {
 }
 
 TEST_F(TipTest, ABalloonWithoutWordsOrOverAHiddenWidgetIsNotShown) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   EXPECT_FALSE(Widget(L"a").ShowBalloonTipEx(L"", L"", true, true));
   Widget(L"a").Show(false, false);
   EXPECT_FALSE(Widget(L"a").ShowBalloonTipEx(L"Title", L"Text", true, true));
 }
 
 TEST_F(TipTest, ABalloonHasSixForms) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   auto& widget = Widget(L"a");
   const auto sizeOf = [](bool shown) { return shown ? PlaceOfTip(1).Size() : CSize(); };
   const pictures::Bytes icon =
@@ -272,7 +273,7 @@ TEST_F(TipTest, ABalloonHasSixForms) {
 }
 
 TEST_F(TipTest, ABrokenIconLeavesTheWords) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   const unsigned char junk[] = {1, 2, 3, 4, 5, 6, 7, 8};
   EXPECT_TRUE(Widget(L"a").ShowBalloonTipEx(L"Text", junk, sizeof junk, true, true));
   const int plain = PlaceOfTip(1).Width();
@@ -287,7 +288,7 @@ TEST_F(TipTest, ABrokenIconLeavesTheWords) {
 // -- Prompts
 
 TEST_F(TipTest, APromptPointsAtItsWidgetAndGoesWithIt) {
-  Open(ColumnForm(ButtonXml("a") + ButtonXml("b")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a") + WidgetItem("QPushButton", "b")));
   const auto prompt = Widget(L"a").InsertPromptsPopup(L"Enter a number", 0, 0, false);
   EXPECT_FALSE(prompt->IsShown());
   Widget(L"a").ShowPromptsPopup(prompt, true);
@@ -308,7 +309,7 @@ TEST_F(TipTest, APromptPointsAtItsWidgetAndGoesWithIt) {
 }
 
 TEST_F(TipTest, APromptGoesWithInputOrInTimeAndBreaksItsLines) {
-  Open(ColumnForm(ButtonXml("a")));
+  Open(ColumnForm(WidgetItem("QPushButton", "a")));
   dialog_->SetFocusToCtrl(&Widget(L"a"));
   PromptsPopup prompt(L"words and words and words", 60, 2000, true);
   EXPECT_TRUE(prompt.Show(Widget(L"a")));
