@@ -16,15 +16,19 @@ inline FormModel ParseForm(const std::wstring& text) {
   return model;
 }
 
-// The model of a form whose root widget has the given content.
-inline FormModel ParseRootWith(const std::wstring& content) {
-  return ParseForm(L"<ui><widget class=\"QDialog\" name=\"d\">" + content + L"</widget></ui>");
+// The root widget with the given content.
+inline std::unique_ptr<FormNode> ParseRootWith(const std::wstring& content) {
+  return ParseForm(L"<ui><widget class=\"QDialog\" name=\"d\">" + content + L"</widget></ui>").root;
 }
 
-// A node's text, or "(none)".
-inline std::wstring TextIn(const FormNode& node, PropertyId id) {
-  const auto* text = node.Text(id);
-  return text != nullptr ? *text : L"(none)";
+// The slots that have a text: "14=text 21=3".
+inline std::wstring SlotsOf(const FormNode& node) {
+  std::wstring all;
+  for (int slot = 0; slot < kPropertyCount; ++slot) {
+    const auto* text = node.Text(PropertyId(slot));
+    if (text) all += (all.empty() ? L"" : L" ") + std::to_wstring(slot) + L"=" + *text;
+  }
+  return all;
 }
 
 inline std::wstring ExtraIn(const FormNode& node, const wchar_t* name) {
