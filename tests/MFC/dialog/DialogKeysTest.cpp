@@ -48,22 +48,10 @@ std::string Box(const std::string& buttons) {
   return WidgetItem("QDialogButtonBox", "box", PropertyXml("standardButtons", "set", buttons));
 }
 
-std::string Default() {
-  return BoolXml("default");
-}
-
-TEST_F(DialogKeysTest, TheDefaultButtonOfTheFormComesFirst) {
-  EXPECT_EQ(ClickedByReturn(PushButton("a") + PushButton("b", Default()) +
-                            Box("QDialogButtonBox::Cancel|QDialogButtonBox::Ok")),
-            L"b");
-}
-
-TEST_F(DialogKeysTest, ThenTheOkOfAButtonBox) {
-  EXPECT_EQ(ClickedByReturn(PushButton("a") + Box("QDialogButtonBox::Cancel|QDialogButtonBox::Ok")),
-            L"box OK");
-}
-
-TEST_F(DialogKeysTest, ThenTheFirstButton) {
+TEST_F(DialogKeysTest, ReturnClicksTheFormsDefaultButtonElseTheBoxesOkElseTheFirst) {
+  const std::string box = Box("QDialogButtonBox::Cancel|QDialogButtonBox::Ok");
+  EXPECT_EQ(ClickedByReturn(PushButton("a") + PushButton("b", BoolXml("default")) + box), L"b");
+  EXPECT_EQ(ClickedByReturn(PushButton("a") + box), L"box OK");
   EXPECT_EQ(ClickedByReturn(Box("QDialogButtonBox::Cancel") + PushButton("a") + PushButton("b")),
             L"a");
 }

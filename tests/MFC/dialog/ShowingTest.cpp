@@ -226,20 +226,6 @@ TEST_F(DialogTest, QueuedCallsArriveInOrderAfterTheHandler) {
   EXPECT_EQ(calls, "direct 123");
 }
 
-TEST_F(DialogTest, PostedMessagesArriveInOrder) {
-  Open(ColumnForm(LineEdit("edit")));
-  std::vector<WPARAM> seen;
-  dialog_->SetPreTranslateMessage([&](void* message) {
-    const auto& posted = *static_cast<MSG*>(message);
-    if (posted.message == WM_APP + 7) seen.push_back(posted.wParam);
-    return 2;
-  });
-  for (WPARAM i = 0; i < 3; ++i) dialog_->GetWndPtr()->PostMessage(WM_APP + 7, i);
-  EXPECT_TRUE(seen.empty());
-  Robot::PumpAll();
-  EXPECT_EQ(seen, (std::vector<WPARAM>{0, 1, 2}));
-}
-
 TEST_F(DialogTest, TheFirstOfTwoElementsWithOneNameIsFound) {
   Open(ColumnForm(LineEdit("same") + PushButton("same") + LineEdit("Same")));
   EXPECT_EQ(dialog_->GetElementByName(L"same")->Type(), BaseGUIObject::GuiType::Edit);

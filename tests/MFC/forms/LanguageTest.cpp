@@ -64,41 +64,28 @@ class LanguageTest : public FormTest {
   logFont oldFont_;
 };
 
-std::string String(const std::string& text) {
-  return "\n<string>" + text + "</string>\n";
-}
-
-std::string Property(const std::string& name, const std::string& text) {
-  return "<property name=\"" + name + "\">" + String(text) + "</property>";
-}
-
-// Widgets with texts, each "@", on lines of their own as form files are written.
-std::vector<std::string> WidgetsWithTexts() {
-  const std::string item = "<item>" + Property("text", "@") + "</item>";
-  const std::string page =
-      WidgetXml("QWidget", "page", "<attribute name=\"title\">" + String("@") + "</attribute>");
-  return {WidgetXml("QLabel", "widget", Property("text", "@\nlong")),
-          WidgetXml("QPushButton", "widget", Property("text", "@")),
-          WidgetXml("QCheckBox", "widget", Property("text", "@")),
-          WidgetXml("QRadioButton", "widget", Property("text", "@")),
-          WidgetXml("QLineEdit", "widget", Property("text", "@")),
-          WidgetXml("QLineEdit", "widget", Property("placeholderText", "@")),
-          WidgetXml("QSpinBox", "widget", Property("prefix", "@") + Property("suffix", "@")),
-          WidgetXml("QPlainTextEdit", "widget", Property("plainText", "@")),
-          WidgetXml("QTextEdit", "widget", Property("html", "@")),
-          WidgetXml("QProgressBar", "widget", Property("format", "@")),
-          WidgetXml("QGroupBox", "widget", Property("title", "@")),
-          WidgetXml("QTabWidget", "widget", page),
-          WidgetXml("QComboBox", "widget", item + item),
-          WidgetXml("QListWidget", "widget", item + item),
-          WidgetXml("QPushButton", "widget", Property("toolTip", "@"))};
-}
-
-// A form with such a widget, which does not have the focus.
-std::string FormWith(std::string widget, const std::string& text) {
-  for (auto at = widget.find('@'); at != widget.npos; at = widget.find('@'))
-    widget.replace(at, 1, text);
-  return ColumnForm(WidgetItem("QPushButton", "first") + ItemXml(widget), 150, 80);
+// A form of every widget that shows texts, all of them the same, each on a line of its own as form
+// files are written.
+std::string FormOfTexts(const std::string& text) {
+  const auto widget = [&](const char* className, const char* property) {
+    return WidgetItem(className, std::string(className) + property,
+                      PropertyXml(property, "string", text));
+  };
+  const std::string items = ItemXml(TextXml(text)) + ItemXml(TextXml(text));
+  std::string form = ColumnForm(
+      widget("QLabel", "text") + widget("QPushButton", "toolTip") + widget("QPushButton", "text") +
+          widget("QCheckBox", "text") + widget("QRadioButton", "text") +
+          widget("QLineEdit", "text") + widget("QLineEdit", "placeholderText") +
+          widget("QSpinBox", "prefix") + widget("QSpinBox", "suffix") +
+          widget("QPlainTextEdit", "plainText") + widget("QTextEdit", "html") +
+          widget("QProgressBar", "format") + widget("QGroupBox", "title") +
+          WidgetItem("QTabWidget", "tabs",
+                     WidgetXml("QWidget", "page", AttributeXml("title", text))) +
+          WidgetItem("QComboBox", "combo", items) + WidgetItem("QListWidget", "list", items),
+      300, 900);
+  for (auto at = form.find("<string>"); at != form.npos; at = form.find("<string>", at + 2))
+    form.insert(form.insert(at, "\n").find("</string>", at) + 9, "\n");
+  return form;
 }
 
 // A TS file that puts "*" before each text of the form.
@@ -116,7 +103,7 @@ std::string StarsFor(const std::string& form, const std::string& name) {
   return ts + "</context></TS>";
 }
 
-// What a person sees of a form with the pointer over its widget.
+// What a person sees of a form with the pointer over the button that has a tip.
 class TranslatedTexts : public LanguageTest {
  protected:
   using Picture = std::vector<std::uint32_t>;
@@ -124,7 +111,7 @@ class TranslatedTexts : public LanguageTest {
   Picture PictureOf(const std::string& file, const std::string& form) {
     Write(*WidenUtf8(Path(file)), form);
     Title(Path(file));
-    robot_.MoveTo(Find<BaseGUIObject>(L"widget").GetPlatformHandle());
+    robot_.MoveTo(Find<BaseGUIObject>(L"QPushButtontoolTip").GetPlatformHandle());
     robot_.AdvanceTime(1000);
     Picture picture;
     for (HWND window : GetTopLevelWindows()) Append(picture, window);
@@ -141,15 +128,13 @@ class TranslatedTexts : public LanguageTest {
 };
 
 TEST_F(TranslatedTexts, LookAsIfTheFormWereWrittenInTheLanguage) {
-  for (const std::string& widget : WidgetsWithTexts()) {
-    const std::string form = FormWith(widget, "word");
-    const auto packed = EncrypterAccess::Pack(form);
-    LoadBytes(StarsFor(form, "form.ui"), L"de");
-    const Picture written = PictureOf("written.ui", FormWith(widget, "*word"));
-    EXPECT_TRUE(PictureOf("other.ui", form) != written) << widget;
-    EXPECT_TRUE(PictureOf("form.ui", form) == written) << widget;
-    EXPECT_TRUE(PictureOf("form.ui.kv", {packed.begin(), packed.end()}) == written) << widget;
-  }
+  const std::string form = FormOfTexts("a\nword");
+  const auto packed = EncrypterAccess::Pack(form);
+  LoadBytes(StarsFor(form, "form.ui"), L"de");
+  const Picture written = PictureOf("written.ui", FormOfTexts("*a\nword"));
+  EXPECT_TRUE(PictureOf("other.ui", form) != written);
+  EXPECT_TRUE(PictureOf("form.ui", form) == written);
+  EXPECT_TRUE(PictureOf("form.ui.kv", {packed.begin(), packed.end()}) == written);
 }
 
 TEST_F(LanguageTest, StandardButtonsTakeTheirTextsFromTheCommonStrings) {

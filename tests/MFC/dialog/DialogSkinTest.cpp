@@ -1,7 +1,5 @@
-// Skins of dialogs, and dialogs from right to left.
+// Skins of dialogs.
 
-#include "Label.h"
-#include "WexaConfig.h"
 #include "support/DialogTest.h"
 
 namespace Wexa {
@@ -43,35 +41,6 @@ TEST_F(DialogSkinTest, ABackgroundColourIsShownAndReadBack) {
   dialog_->SetBackgroundColor(0x123456);
   EXPECT_EQ(dialog_->GetBackgroundColor(), 0x123456);
   EXPECT_EQ(DialogPixel(), 0x123456u);
-}
-
-class DirectionTest : public DialogTest {
- protected:
-  void TearDown() override {
-    DialogTest::TearDown();
-    SetLayoutRTL(false);
-  }
-};
-
-TEST_F(DirectionTest, FromRightToLeftEverythingIsMirrored) {
-  const std::string form =
-      FormXml(RowXml(TextWidget("QLabel", "label", "Name") + LineEdit("edit")), 321, 100);
-  Open(form);
-  const Rect label = PlaceOf(L"label");
-  EXPECT_LT(label.Left(), PlaceOf(L"edit").Left());
-  const int width = dialog_->GetClientRect().Width();
-  const LONG left = dialog_->GetWindowRect().Left();
-  SetLayoutRTL(true);
-  Open(form);
-  const auto& mirrored = Find<Label>(L"label");
-  RECT place{};
-  ::GetWindowRect(mirrored.GetPlatformHandle(), &place);
-  POINT corner{0, 0};  // the last pixel of the client area's row
-  ::ClientToScreen(dialog_->GetHandle(), &corner);
-  EXPECT_EQ(corner.x + 1 - place.right, label.Left());
-  EXPECT_EQ(place.right - place.left, label.Width());
-  EXPECT_EQ(dialog_->GetClientRect().Width(), width);
-  EXPECT_EQ(dialog_->GetWindowRect().Left(), left);
 }
 
 }  // namespace
