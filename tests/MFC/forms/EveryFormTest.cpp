@@ -6,7 +6,6 @@
 
 #include "Encrypter.h"
 #include "MFC/DialogImplMFC.h"
-#include "ScaleFactor.h"
 #include "Utf8.h"
 #include "WexaConfig.h"
 #include "XmlDocument.h"
@@ -146,17 +145,12 @@ class EveryFormTest : public FormTest {
     const auto places = PlacesFrom(false);
     ExpectSamePlacesAtTheSameSize();
     ExpectTheSameShownAgain();
+    const Rect window = dialog_->GetWindowRect();
     SetLayoutRTL(true);
     OpenFile(file);
     SetLayoutRTL(false);
+    EXPECT_EQ(dialog_->GetWindowRect(), window);
     ExpectPlaces(places, PlacesFrom(true));
-  }
-
-  void UseResolution(int dpi) {
-    dialog_.reset();
-    Robot::PumpAll();
-    display::SetCurrent(std::make_unique<display::OffscreenDisplay>(dpi));
-    ResetScaleFactor();
   }
 
   void OpenFile(const std::wstring& file) {

@@ -1,8 +1,6 @@
-// Layouts of forms, in the resolution that the program runs with: metrics of forms are scaled and
-// cut to whole pixels.
+// Layouts of forms in two resolutions: metrics of forms are scaled and cut to whole pixels.
 
 #include "MFC/DialogImplMFC.h"
-#include "WexaUtils.h"
 #include "layout/GridLayout.h"
 #include "support/DialogTest.h"
 
@@ -11,6 +9,7 @@ namespace {
 
 // What 6, 9, 11, 30 and 40 units are on the screen.
 struct Metrics {
+  int dpi;
   int six;
   int nine;
   int eleven;
@@ -18,26 +17,15 @@ struct Metrics {
   int forty;
 };
 
-Metrics Expected() {
-  if (WexaUtils::GetScaleFactor() == 1.0) return {6, 9, 11, 30, 40};
-  if (WexaUtils::GetScaleFactor() == 1.5) return {9, 13, 16, 45, 60};
-  throw std::runtime_error("run with a scale of 1 or 1.5");
-}
-
-std::string Number(const std::string& name, int value) {
-  return PropertyXml(name, "number", std::to_string(value));
-}
-
 std::string Spacer(const std::string& properties) {
   return ItemXml("<spacer>" + properties + "</spacer>");
 }
 
-std::string SizeHint(const std::string& size) {
-  return PropertyXml("sizeHint", "size", size);
-}
-
-class ScaledLayoutTest : public DialogTest {
+class ScaledLayoutTest : public DialogTest, public testing::WithParamInterface<Metrics> {
  protected:
+  ScaledLayoutTest() { UseResolution(scaled_.dpi); }
+  ~ScaledLayoutTest() override { UseResolution(96); }
+
   Layout& LayoutFor(const std::string& layout) {
     dialog_ = Make(FormXml(layout, 300, 200));
     return *dialog_->GetImpl()->Links().layout;
@@ -47,17 +35,22 @@ class ScaledLayoutTest : public DialogTest {
     layout.GetContentsMargins(&margins.left, &margins.top, &margins.right, &margins.bottom);
     return margins;
   }
-  const Metrics scaled_ = Expected();
+  const Metrics scaled_ = GetParam();
 };
 
-TEST_F(ScaledLayoutTest, SpacingAndMarginsAreScaledAndCut) {
+INSTANTIATE_TEST_SUITE_P(, ScaledLayoutTest,
+                         testing::Values(Metrics{96, 6, 9, 11, 30, 40},
+                                         Metrics{144, 9, 13, 16, 45, 60}),
+                         [](const auto& test) { return std::to_string(test.param.dpi); });
+
+TEST_P(ScaledLayoutTest, SpacingAndMarginsAreScaledAndCut) {
   Layout& layout = LayoutFor(
-      ColumnXml(Number("spacing", 6) + Number("leftMargin", 11) + Number("topMargin", 0)));
+      ColumnXml(NumberXml("spacing", 6) + NumberXml("leftMargin", 11) + NumberXml("topMargin", 0)));
   EXPECT_EQ(layout.Spacing(), scaled_.six);
   EXPECT_EQ(MarginsOf(layout), (Margins{scaled_.eleven, 0, scaled_.eleven, scaled_.eleven}));
 }
 
-TEST_F(ScaledLayoutTest, DefaultsDependOnTheWidgetAround) {
+TEST_P(ScaledLayoutTest, DefaultsDependOnTheWidgetAround) {
   const std::string inner = RowXml(LineEdit("edit"));
   Layout& layout = LayoutFor(ColumnXml(WidgetItem("QGroupBox", "group", inner) + ItemXml(inner)));
   EXPECT_EQ(layout.Spacing(), scaled_.six);
@@ -67,7 +60,7 @@ TEST_F(ScaledLayoutTest, DefaultsDependOnTheWidgetAround) {
   EXPECT_EQ(MarginsOf(*layout.ItemAt(1)->AsLayout()).left, 0) << "nested";
 }
 
-TEST_F(ScaledLayoutTest, GridsHaveTwoSpacingsAndLeastSizes) {
+TEST_P(ScaledLayoutTest, GridsHaveTwoSpacingsAndLeastSizes) {
   const auto cell = [](const char* name, int row, int column) {
     return ItemXml(WidgetXml("QWidget", name),
                    "row=\"" + std::to_string(row) + "\" column=\"" + std::to_string(column) + "\"");
@@ -76,8 +69,8 @@ TEST_F(ScaledLayoutTest, GridsHaveTwoSpacingsAndLeastSizes) {
   Open(
       FormXml("<layout class=\"QGridLayout\" rowminimumheight=\"0,30\" "
               "columnminimumwidth=\"40,0\" rowstretch=\"1,0\" columnstretch=\"0,1\">" +
-                  Number("horizontalSpacing", 6) + Number("verticalSpacing", 11) + cell("a", 0, 0) +
-                  cell("b", 0, 1) + cell("c", 1, 0) + "</layout>",
+                  NumberXml("horizontalSpacing", 6) + NumberXml("verticalSpacing", 11) +
+                  cell("a", 0, 0) + cell("b", 0, 1) + cell("c", 1, 0) + "</layout>",
               300, 200));
   EXPECT_EQ(PlaceOf(L"c").Height(), scaled_.thirty);
   EXPECT_EQ(PlaceOf(L"a").Width(), scaled_.forty);
@@ -85,9 +78,9 @@ TEST_F(ScaledLayoutTest, GridsHaveTwoSpacingsAndLeastSizes) {
   EXPECT_EQ(PlaceOf(L"c").Top() - PlaceOf(L"a").Bottom(), scaled_.eleven);
 }
 
-TEST_F(ScaledLayoutTest, SpacersHaveTheirScaledSizeAndPolicy) {
+TEST_P(ScaledLayoutTest, SpacersHaveTheirScaledSizeAndPolicy) {
   const std::string fixed = EnumXml("sizeType", "QSizePolicy::Fixed");
-  const std::string hint = SizeHint("<width>40</width><height>30</height>");
+  const std::string hint = SizeXml("sizeHint", 40, 30);
   const std::string horizontal = EnumXml("orientation", "Qt::Horizontal");
   Layout& row = LayoutFor(RowXml(Spacer(fixed + hint + horizontal) + Spacer(hint + horizontal) +
                                  Spacer(horizontal) +
@@ -102,15 +95,13 @@ TEST_F(ScaledLayoutTest, SpacersHaveTheirScaledSizeAndPolicy) {
   EXPECT_EQ(column.ItemAt(0)->ExpandingDirections(), Orientation::Vertical);
 }
 
-TEST_F(ScaledLayoutTest, FormLayoutsGiveTheFieldsTheExtraWidth) {
-  const auto item = [](const std::string& widget, const std::string& cell) {
-    return ItemXml(widget, cell);
-  };
+TEST_P(ScaledLayoutTest, FormLayoutsGiveTheFieldsTheExtraWidth) {
   Open(FormXml(
-      LayoutXml("QFormLayout",
-                item(WidgetXml("QLabel", "label", TextXml("Name")), "row=\"0\" column=\"0\"") +
-                    item(WidgetXml("QPushButton", "field"), "row=\"0\" column=\"1\"") +
-                    item(WidgetXml("QLineEdit", "whole"), "row=\"1\" column=\"0\" colspan=\"2\"")),
+      LayoutXml(
+          "QFormLayout",
+          ItemXml(WidgetXml("QLabel", "label", TextXml("Name")), "row=\"0\" column=\"0\"") +
+              ItemXml(WidgetXml("QPushButton", "field"), "row=\"0\" column=\"1\"") +
+              ItemXml(WidgetXml("QLineEdit", "whole"), "row=\"1\" column=\"0\" colspan=\"2\"")),
       300, 200));
   const Rect label = PlaceOf(L"label");
   EXPECT_EQ(label.Width(), Find<BaseGUIObject>(L"label").IdealSize().Width());
@@ -119,7 +110,7 @@ TEST_F(ScaledLayoutTest, FormLayoutsGiveTheFieldsTheExtraWidth) {
   EXPECT_EQ(PlaceOf(L"whole").Right(), PlaceOf(L"field").Right());
 }
 
-TEST_F(ScaledLayoutTest, AFixedConstraintMakesTheDialogItsIdealSize) {
+TEST_P(ScaledLayoutTest, AFixedConstraintMakesTheDialogItsIdealSize) {
   Open(FormXml(ColumnXml(EnumXml("sizeConstraint", "QLayout::SizeConstraint::SetFixedSize") +
                          LineEdit("edit") + PushButton("button")),
                700, 500));
@@ -135,7 +126,7 @@ TEST_F(ScaledLayoutTest, AFixedConstraintMakesTheDialogItsIdealSize) {
   EXPECT_GT(dialog_->GetClientRect().Width(), ideal.Width());
 }
 
-TEST_F(ScaledLayoutTest, TheMinimumOfTheLayoutIsTheDialogs) {
+TEST_P(ScaledLayoutTest, TheMinimumOfTheLayoutIsTheDialogs) {
   Open(FormXml(ColumnXml(LineEdit("edit") + PushButton("button")), 1, 1));
   const Size least = dialog_->GetImpl()->Links().layout->TotalMinimumSize();
   EXPECT_EQ(dialog_->GetClientRect().GetSize(), least);
