@@ -1,9 +1,7 @@
 // Files with damage at random places, the same in every run: each reader gives something or
 // nothing, or throws what it announces.
 
-#include <filesystem>
 #include <fstream>
-#include <functional>
 #include <random>
 #include <rapidxml/rapidxml.hpp>
 #include <stdexcept>
@@ -48,78 +46,71 @@ class Damage {
   std::mt19937 generator_{20240607};
 };
 
-class DamagedFilesTest : public testing::Test {
- protected:
-  ~DamagedFilesTest() override { std::filesystem::remove(path_); }
+std::wstring Write(const std::string& bytes) {
+  const std::string path = testing::TempDir() + "/damaged_file";
+  std::ofstream(path, std::ios::binary) << bytes;
+  return *WidenUtf8(path);
+}
 
-  void Read(const std::string& sound, const std::function<void(const std::string&)>& read) {
-    constexpr int kCopies = 100;
+void ReadTs(const std::string& bytes) {
+  TsPlaces places;
+  if (IsUtf8(bytes)) LoadTsText(bytes, L"de_DE", places);
+}
+
+void ReadStrings(const std::string& bytes) {
+  std::unordered_map<std::wstring, std::wstring> texts;
+  logFont font;
+  if (IsUtf8(bytes)) LoadStringsText(bytes, {L"de", L"ja"}, texts, font);
+}
+
+void Translate(const std::string& bytes) {
+  const auto text = WidenUtf8(bytes);
+  FormLines lines;
+  for (unsigned n = 1; text && lines.size() < 40; n += 3) {
+    lines[n] = L"t";
+    TranslateForm(bytes, lines);
+    TranslateFormInPlace(*text, lines);
+  }
+}
+
+void ReadPacked(const std::string& bytes) {
+  EXPECT_EQ(Encrypter::ReadAndDecryptFile(Write(bytes)), L"");
+}
+
+void ReadVersion(const std::string& bytes) {
+  PluginVersionInfo info;
+  WexaUtils::GetPluginVersionInfo(Write(bytes), info);
+}
+
+constexpr const char* kStrings =
+    "<r language='de'><Font><PreFont FaceName='x' Height='9'/></Font><StringTable><string "
+    "id='a'>t &amp; u</string>\n<string id='b'>&#1084;</string><!-- c --></StringTable></r>";
+constexpr const char* kVersion =
+    "<?xml version='1.0'?><Ostrel><language>de</language><version>1.2</version><VerDes><e "
+    "name='a' value='b &amp; &#1084;'/><e name='c'/></VerDes><VerLeg><x name='n' value='v'/>"
+    "<!-- c --><![CDATA[d]]></VerLeg></Ostrel>";
+
+TEST(DamagedFiles, GiveSomethingOrAnAnnouncedException) {
+  constexpr int kCopies = 100;
+  const std::string form = testdata::BytesOf(testdata::Form("preferences.ui"));
+  const auto packed = EncrypterAccess::Pack(form);
+  const std::pair<std::string, void (*)(const std::string&)> kReaders[] = {
+      {testdata::BytesOf(testdata::TsFile("de")), ReadTs},
+      {kStrings, ReadStrings},
+      {form, Translate},
+      {{packed.begin(), packed.end()}, ReadPacked},
+      {kVersion, ReadVersion}};
+  Damage damage;
+  for (const auto& [sound, read] : kReaders) {
     for (int n = 0; n < kCopies; ++n) {
       try {
-        read(damage_.Of(sound));
+        read(damage.Of(sound));
       } catch (const rapidxml::parse_error&) {
       } catch (const std::invalid_argument&) {
       } catch (const std::out_of_range&) {
       }
     }
   }
-  std::wstring Write(const std::string& bytes) {
-    std::ofstream(path_, std::ios::binary) << bytes;
-    return *WidenUtf8(path_);
-  }
-
- private:
-  std::string path_ = testing::TempDir() + "/damaged_file";
-  Damage damage_;
-};
-
-TEST_F(DamagedFilesTest, OfTranslationsGiveSomeOrAnAnnouncedException) {
-  for (const std::string language : {"de", "ar"}) {
-    Read(testdata::BytesOf(testdata::TsFile(language)), [&](const std::string& bytes) {
-      TsPlaces places;
-      if (IsUtf8(bytes)) LoadTsText(bytes, language == "de" ? L"de_DE" : L"ar", places);
-    });
-  }
-}
-
-TEST_F(DamagedFilesTest, OfTextsGiveSomeOrAnAnnouncedException) {
-  std::string strings = "<r language='de'><Font><PreFont FaceName='x' Height='9'/></Font>";
-  for (int n = 0; n < 50; ++n) strings += "<StringTable><string id='a'>t &amp; u</string>\n";
-  Read(strings + "</StringTable></r>", [](const std::string& bytes) {
-    std::unordered_map<std::wstring, std::wstring> texts;
-    logFont font;
-    if (IsUtf8(bytes)) LoadStringsText(bytes, {L"de", L"ja"}, texts, font);
-  });
-}
-
-TEST_F(DamagedFilesTest, OfFormsAreTranslatedByAnyLines) {
-  Read(testdata::BytesOf(testdata::Form("preferences.ui")), [](const std::string& bytes) {
-    const auto text = WidenUtf8(bytes);
-    FormLines lines;
-    for (unsigned n = 1; text && lines.size() < 40; n += 3) {
-      lines[n] = L"t";
-      TranslateForm(bytes, lines);
-      TranslateFormInPlace(*text, lines);
-    }
-  });
-}
-
-TEST_F(DamagedFilesTest, AreNotTakenForEncryptedOnes) {
-  const auto packed = EncrypterAccess::Pack(testdata::BytesOf(testdata::Form("preferences.ui")));
-  Read({packed.begin(), packed.end()}, [this](const std::string& bytes) {
-    EXPECT_EQ(Encrypter::ReadAndDecryptFile(Write(bytes)), L"");
-  });
-}
-
-TEST_F(DamagedFilesTest, DescribeAVersionOrAreRefused) {
-  const std::string sound =
-      "<?xml version='1.0'?><Ostrel><language>de</language><version>1.2</version><VerDes><e "
-      "name='a' value='b &amp; &#1084;'/><e name='c'/></VerDes><VerLeg><x name='n' value='v'/>"
-      "<!-- c --><![CDATA[d]]></VerLeg></Ostrel>";
-  Read(sound, [this](const std::string& bytes) {
-    PluginVersionInfo info;
-    WexaUtils::GetPluginVersionInfo(Write(bytes), info);
-  });
 }
 
 }  // namespace

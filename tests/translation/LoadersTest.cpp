@@ -4,8 +4,10 @@
 #include "translation/StringsLoader.h"
 #include "translation/TsLoader.h"
 
+#include <map>
 #include <rapidxml/rapidxml.hpp>
 #include <stdexcept>
+#include <tuple>
 
 namespace Wexa {
 namespace {
@@ -14,9 +16,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Pair;
 using ::testing::UnorderedElementsAre;
-
-// -- TS files
-// ----------------------------------------------------------------------------------------
 
 std::wstring Ts(const std::wstring& messages) {
   return L"<?xml version=\"1.0\"?><!DOCTYPE TS><TS version=\"2.1\" language=\"de-DE\"><context>"
@@ -29,42 +28,42 @@ std::optional<TSTranslationUnit> Load(const std::wstring& text) {
   return LoadTsText(NarrowUtf8(text), L"de-DE", places);
 }
 
-TSTranslationUnit::MessageMap Messages(const std::wstring& messages) {
+// What is read: "a.ui:3=text a.ui:12=other ", by the names of the files.
+std::wstring Messages(const std::wstring& messages) {
   const auto unit = Load(Ts(messages));
-  return unit ? unit->GetMessageMap() : TSTranslationUnit::MessageMap();
+  if (!unit) return L"(none)";
+  const auto& found = unit->GetMessageMap();
+  std::wstring all;
+  for (const auto& [file, lines] : std::map(found.begin(), found.end()))
+    for (const auto& [line, text] : lines)
+      all += file + L":" + std::to_wstring(line) + L"=" + text + L" ";
+  return all;
 }
 
-TEST(TsLoader, StoresAMessageUnderEachOfItsLocations) {
-  const auto messages = Messages(
-      L"<message><location filename='forms/a.ui' line='12'/><location filename='../x/a.ui' "
-      L"line='3'/><location filename='b.ui' line='7'/><source>s</source><translation "
-      L"type='unfinished'>\u043C</translation></message>");
-  EXPECT_THAT(messages, UnorderedElementsAre(
-                            Pair(L"a.ui", ElementsAre(Pair(3, L"\u043C"), Pair(12, L"\u043C"))),
-                            Pair(L"b.ui", ElementsAre(Pair(7, L"\u043C")))));
-}
-
-TEST(TsLoader, EscapesDecodedTexts) {
-  const auto messages = Messages(
-      L"<message><translation>A &amp; B &lt;C&gt; &amp;amp;</translation><location "
-      L"filename='a.ui' line='1'/></message>");
-  EXPECT_EQ(messages.at(L"a.ui").at(1), L"A &amp; B &lt;C&gt; &amp;amp;");
-}
-
-TEST(TsLoader, IncompleteLocationsAndMessagesAreDropped) {
-  EXPECT_THAT(Messages(L"<message><location line='1'/><location filename='a.ui'/>"
-                       L"<translation>t</translation></message>"
-                       L"<message><translation>t</translation></message>"),
-              IsEmpty());
-}
-
-TEST(TsLoader, TheLastTranslationOfAMessageAndTheFirstOfALineWin) {
-  const auto messages = Messages(
-      L"<message><location filename='a.ui' line='1'/><translation>1</translation>"
-      L"<translation>2</translation></message>"
-      L"<message><location filename='a.ui' line='1'/><translation>3</translation></message>"
-      L"<message><location filename='a.ui' line='2'/></message>");
-  EXPECT_THAT(messages.at(L"a.ui"), ElementsAre(Pair(1, L"2"), Pair(2, L"")));
+TEST(TsLoader, StoresTheMessagesOfContextsUnderTheirLocations) {
+  const std::wstring message =
+      L"<message><location filename='a.ui' line='1'/><translation>t</translation></message>";
+  const std::pair<std::wstring, std::wstring> kCases[] = {
+      {L"<message><location filename='forms/a.ui' line='12'/><location filename='../x/a.ui' "
+       L"line='3'/><location filename='b.ui' line='7'/><source>s</source><translation "
+       L"type='unfinished'>\u043C</translation></message>",
+       L"a.ui:3=\u043C a.ui:12=\u043C b.ui:7=\u043C "},
+      // decoded texts are escaped again
+      {L"<message><translation>A &amp; B &lt;C&gt; &amp;amp;</translation><location "
+       L"filename='a.ui' line='1'/></message>",
+       L"a.ui:1=A &amp; B &lt;C&gt; &amp;amp; "},
+      // incomplete locations and messages are dropped
+      {L"<message><location line='1'/><location filename='a.ui'/><translation>t</translation>"
+       L"</message><message><translation>t</translation></message>",
+       L""},
+      // the last translation of a message and the first of a line win
+      {L"<message><location filename='a.ui' line='1'/><translation>1</translation>"
+       L"<translation>2</translation></message>" +
+           message + L"<message><location filename='a.ui' line='2'/></message>",
+       L"a.ui:1=2 a.ui:2= "},
+      {L"<group>" + message + L"</group></context>" + message + L"<context>", L""},
+      {L"</context><other>" + message + L"</other><context>", L""}};
+  for (const auto& [xml, messages] : kCases) EXPECT_EQ(Messages(xml), messages) << xml;
 }
 
 TEST(TsLoader, FilesOfAnotherLanguageGiveNothing) {
@@ -104,26 +103,17 @@ TEST(TsLoader, TellsWhereNumbersAreRelativeOrNone) {
   EXPECT_FALSE(places.relative || places.bad);
 }
 
-TEST(TsLoader, OnlyMessagesOfContextsCount) {
-  const std::wstring message =
-      L"<message><location filename='a.ui' line='1'/><translation>t</translation></message>";
-  EXPECT_EQ(Messages(message).size(), 1u);
-  EXPECT_THAT(Messages(L"<group>" + message + L"</group></context>" + message + L"<context>"),
-              IsEmpty());
-  EXPECT_THAT(Messages(L"</context><other>" + message + L"</other><context>"), IsEmpty());
-}
-
 // Longer than what the parser keeps ready for one message.
 TEST(TsLoader, ALongMessageIsReadAsAnyOther) {
-  std::wstring locations;
-  for (int line = 1; line <= 2000; ++line)
+  std::wstring locations, expected;
+  for (int line = 1; line <= 2000; ++line) {
     locations += L"<location filename='a.ui' line='" + std::to_wstring(line) + L"'/>";
-  const auto messages =
-      Messages(L"<message>" + locations +
-               L"<translation>t</translation></message><message><location "
-               L"filename='b.ui' line='1'/><translation>u</translation></message>");
-  EXPECT_EQ(messages.at(L"a.ui").size(), 2000u);
-  EXPECT_THAT(messages.at(L"b.ui"), ElementsAre(Pair(1, L"u")));
+    expected += L"a.ui:" + std::to_wstring(line) + L"=t ";
+  }
+  EXPECT_EQ(Messages(L"<message>" + locations +
+                     L"<translation>t</translation></message><message><location "
+                     L"filename='b.ui' line='1'/><translation>u</translation></message>"),
+            expected + L"b.ui:1=u ");
 }
 
 TEST(TSTranslationUnit, AppendingKeepsWhatIsThere) {
@@ -138,9 +128,6 @@ TEST(TSTranslationUnit, AppendingKeepsWhatIsThere) {
               UnorderedElementsAre(Pair(L"a.ui", ElementsAre(Pair(1, L"own"), Pair(2, L"other"))),
                                    Pair(L"A.ui", ElementsAre(Pair(1, L"other")))));
 }
-
-// -- Strings files
-// -----------------------------------------------------------------------------------
 
 struct Loaded {
   std::unordered_map<std::wstring, std::wstring> texts;
@@ -181,36 +168,25 @@ TEST(StringsLoader, SetsTheFontTheFileNames) {
   EXPECT_EQ(partly.font.height, 80);
 }
 
-// -- Forms
-// -------------------------------------------------------------------------------------------
-
-TEST(FormTranslation, ReplacesTheWholeLine) {
-  EXPECT_EQ(TranslateForm("<ui>\n  <string>old</string>  \n</ui>\n", {{2, L"a &amp; b"}}),
-            L"<ui><string>a &amp; b</string></ui>");
-}
-
-TEST(FormTranslation, EmptiesTheLinesOfALongString) {
-  EXPECT_EQ(TranslateForm("a\n<string>1\n2\n3</string> x\nb", {{2, L"t"}}),
-            L"a<string>t</string>b");
-}
-
-TEST(FormTranslation, AStringWithoutEndTakesTheLastLine) {
-  EXPECT_EQ(TranslateForm("a\n<string>1\n2\n3", {{2, L"t"}}), L"a<string>t</string>");
-}
-
-TEST(FormTranslation, ALineWithoutAStringEndsTheReplacing) {
+TEST(FormTranslation, ReplacesStringsWithTheirWholeLinesUpToALineWithoutOne) {
   const std::string form = "<string>1</string>\nno string\n<string>3</string>\nshort";
-  EXPECT_EQ(TranslateForm(form, {{1, L"t"}, {2, L"u"}, {3, L"v"}}),
-            L"<string>t</string>no string<string>3</string>short");
-  EXPECT_EQ(TranslateForm(form, {{4, L"u"}}), TranslateForm(form, {}));
-  EXPECT_EQ(TranslateForm(form, {{5, L"u"}}), TranslateForm(form, {}));
-  EXPECT_EQ(TranslateForm(form, {{0, L"u"}, {1, L"u"}}), TranslateForm(form, {}));
-}
-
-TEST(FormTranslation, TheLastLineOfALongStringMayHaveATranslationOfItsOwn) {
-  const std::string form = "<string>1\n2</string>\n<string>3</string>";
-  EXPECT_EQ(TranslateForm(form, {{1, L"t"}, {2, L"u"}, {3, L"v"}}),
-            L"<string>u</string><string>v</string>");
+  const std::string twoLines = "<string>1\n2</string>\n<string>3</string>";
+  const std::tuple<std::string, FormLines, std::wstring> kCases[] = {
+      {"<ui>\n  <string>old</string>  \n</ui>\n",
+       {{2, L"a &amp; b"}},
+       L"<ui><string>a &amp; b</string></ui>"},
+      {"a\n<string>1\n2\n3</string> x\nb", {{2, L"t"}}, L"a<string>t</string>b"},
+      {"a\n<string>1\n2\n3", {{2, L"t"}}, L"a<string>t</string>"},
+      {twoLines, {{1, L"t"}, {2, L"u"}, {3, L"v"}}, L"<string>u</string><string>v</string>"},
+      {form,
+       {{1, L"t"}, {2, L"u"}, {3, L"v"}},
+       L"<string>t</string>no string<string>3</string>short"},
+      {form, {{4, L"u"}}, TranslateForm(form, {})},
+      {form, {{5, L"u"}}, TranslateForm(form, {})},
+      {form, {{0, L"u"}, {1, L"u"}}, TranslateForm(form, {})},
+      {"", {{1, L"t"}}, L""}};
+  for (const auto& [text, lines, translated] : kCases)
+    EXPECT_EQ(TranslateForm(text, lines), translated) << text;
 }
 
 TEST(FormTranslation, StringsWithoutATranslationStayUnlessAskedFor) {
@@ -245,10 +221,6 @@ TEST(FormTranslation, InPlaceEndsWhereNoStringElementStarts) {
   EXPECT_EQ(TranslateFormInPlace(strings, {{2, L"t"}}), strings);
   EXPECT_EQ(TranslateFormInPlace(L"<string>1\n2</string>", {{1, L"t"}, {2, L"u"}}),
             L"<string>t</string>\n");
-}
-
-TEST(FormTranslation, AnEmptyTextStaysEmpty) {
-  EXPECT_EQ(TranslateForm("", {{1, L"t"}}), L"");
 }
 
 }  // namespace

@@ -167,9 +167,6 @@ TEST_F(TranslatorTest, PlainFormsAreKnownByTheirWholeName) {
   EXPECT_EQ(translator_.TranslateUIText(L"forms\\f.ui.kv", form), form);
 }
 
-// -- Diagnostics
-// -------------------------------------------------------------------------------------
-
 TEST_F(TranslatorTest, BrokenStringsFilesGiveNothingAndAReason) {
   Write(GetStringsFilePath(L"c", false), "<r language='de-DE'>\n<StringTable><string id='a'>t</r>");
   WriteStrings(L"c", true, "<string id='a'>default</string>");
@@ -201,16 +198,6 @@ TEST_F(TranslatorTest, BrokenTsFilesDisturbNoOther) {
   EXPECT_EQ(TranslateForm(), L"<ui><string>good</string></ui>");
   EXPECT_EQ(translator_.GetDiagnostics().size(), 3u);
   for (const auto& diagnostic : translator_.GetDiagnostics()) EXPECT_EQ(diagnostic.line, 2);
-}
-
-TEST_F(TranslatorTest, RelativeLinesAreReadAndReported) {
-  Write(GetTranslationFilePath(L"c"),
-        "<TS language='de-DE'><context><message><location filename='f.ui' line='+2'/>"
-        "<translation>new</translation></message></context></TS>");
-  translator_.LoadStrings(L"c");
-  EXPECT_EQ(TranslateForm(), L"<ui><string>new</string></ui>");
-  ASSERT_EQ(translator_.GetDiagnostics().size(), 1u);
-  EXPECT_EQ(translator_.GetDiagnostics()[0].line, 1);
 }
 
 TEST_F(TranslatorTest, PlainOrMissingFormsGiveNothing) {
