@@ -1,48 +1,24 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "data/TestData.h"
+#include "support/tool/Tool.h"
 
-#include "preview/Tool.h"
-
-namespace preview {
+namespace tool {
 namespace {
 
 using testing::HasSubstr;
 
-constexpr const char* kForm = R"(<ui version="4.0">
- <widget class="QDialog" name="Form">
-  <property name="geometry"><rect><x>0</x><y>0</y><width>400</width><height>100</height></rect></property>
-  <layout class="QHBoxLayout">
-   <item><widget class="QPushButton" name="button"><property name="text">
-    <string>a</string>
-   </property></widget></item>
-   <item><spacer name="spacer"><property name="orientation"><enum>Qt::Horizontal</enum></property>
-    <property name="sizeHint"><size><width>1</width><height>1</height></size></property></spacer></item>
-  </layout>
- </widget>
-</ui>
-)";
-
-std::string TsWith(const std::string& line) {
-  return "<TS language=\"pt_BR\"><context><message>\n<location filename=\"form.ui\" line=\"" +
-         line +
-         "\"/><translation>a text that is much longer</translation></message></context></TS>";
-}
-
 class LanguageTest : public testing::Test {
  protected:
-  LanguageTest() {
-    tool_.Write("form.ui", kForm);
-    plain_ = tool_.Run("--dump - form.ui").output;
+  Outcome Dump(const std::string& options) {
+    return tool_.Run("--dump - " + options + " " + testdata::Form("find_plant.ui"));
   }
-  Outcome Dump(const std::string& options) { return tool_.Run("--dump - " + options + " form.ui"); }
 
-  Tool tool_;
-  std::string plain_;
+  Tool tool_{WEXA_PREVIEW};
+  const std::string plain_ = Dump("").output;
 };
 
 TEST_F(LanguageTest, OpensFormsTranslated) {
-  tool_.Write("host/lang/pt-BR/program_pt-BR.ts", TsWith("6"));
-  const auto outcome = Dump("--language pt_BR --plain --working-dir host");
+  tool_.Write("host/lang/de-DE/program_de-DE.ts", testdata::BytesOf(testdata::TsFile("de")));
+  const auto outcome = Dump("--language de_DE --plain --working-dir host");
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.errors, "");
   EXPECT_NE(outcome.output, plain_);
@@ -50,7 +26,9 @@ TEST_F(LanguageTest, OpensFormsTranslated) {
 
 TEST_F(LanguageTest, TellsWhatIsWrongWithLanguageFiles) {
   EXPECT_THAT(Dump("--language pt_BR --plain").errors, HasSubstr("no pt-BR.ts in "));
-  tool_.Write("lang/pt-BR/pt-BR.ts", TsWith("six"));
+  tool_.Write("lang/pt-BR/pt-BR.ts",
+              "<TS language=\"pt_BR\"><context><message>\n"
+              "<location filename=\"find_plant.ui\" line=\"six\"/></message></context></TS>");
   const auto outcome = Dump("--language pt_BR --plain");
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.output, plain_);
@@ -64,4 +42,4 @@ TEST_F(LanguageTest, ItsOptionsGoTogether) {
 }
 
 }  // namespace
-}  // namespace preview
+}  // namespace tool

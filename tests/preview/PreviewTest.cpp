@@ -1,131 +1,83 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
+#include <tuple>
 
-#include "preview/Tool.h"
+#include "support/FormXml.h"
+#include "support/tool/Tool.h"
 
-namespace preview {
+namespace tool {
 namespace {
 
+using namespace Wexa;
 using nlohmann::json;
 using testing::HasSubstr;
 using testing::SizeIs;
 
+std::string Margins(int margin) {
+  std::string properties;
+  for (const char* side : {"leftMargin", "topMargin", "rightMargin", "bottomMargin"})
+    properties += NumberXml(side, margin);
+  return properties;
+}
+
 // A column of 10 margin and 5 spacing: a line 30 high, and the rest for a row of 1 to 3 with 4
 // between.
-constexpr const char* kRowsForm = R"(<ui version="4.0">
- <widget class="QDialog" name="Rows">
-  <property name="geometry"><rect><x>0</x><y>0</y><width>200</width><height>150</height></rect></property>
-  <layout class="QVBoxLayout">
-   <property name="leftMargin"><number>10</number></property>
-   <property name="topMargin"><number>10</number></property>
-   <property name="rightMargin"><number>10</number></property>
-   <property name="bottomMargin"><number>10</number></property>
-   <property name="spacing"><number>5</number></property>
-   <item>
-    <widget class="QWidget" name="line">
-     <property name="minimumSize"><size><width>0</width><height>30</height></size></property>
-     <property name="maximumSize"><size><width>16777215</width><height>30</height></size></property>
-    </widget>
-   </item>
-   <item>
-    <widget class="QWidget" name="row">
-     <property name="sizePolicy"><sizepolicy hsizetype="Expanding" vsizetype="Expanding"><horstretch>0</horstretch><verstretch>0</verstretch></sizepolicy></property>
-     <layout class="QHBoxLayout" stretch="1,3">
-      <property name="leftMargin"><number>0</number></property>
-      <property name="topMargin"><number>0</number></property>
-      <property name="rightMargin"><number>0</number></property>
-      <property name="bottomMargin"><number>0</number></property>
-      <property name="spacing"><number>4</number></property>
-      <item><widget class="QWidget" name="quarter"/></item>
-      <item><widget class="QWidget" name="rest"/></item>
-     </layout>
-    </widget>
-   </item>
-  </layout>
- </widget>
-</ui>
-)";
-
-constexpr const char* kPagesForm = R"(<ui version="4.0">
- <widget class="QDialog" name="Pages">
-  <property name="geometry"><rect><x>0</x><y>0</y><width>200</width><height>150</height></rect></property>
-  <widget class="QStackedWidget" name="stack">
-   <property name="geometry"><rect><x>10</x><y>20</y><width>100</width><height>80</height></rect></property>
-   <widget class="QWidget" name="shown"/>
-   <widget class="QWidget" name="hidden"/>
-  </widget>
-  <widget class="QLabel"/>
- </widget>
-</ui>
-)";
+const std::string kRowsForm = ColumnForm(
+    Margins(10) + NumberXml("spacing", 5) +
+        WidgetItem("QWidget", "line",
+                   SizeXml("minimumSize", 0, 30) + SizeXml("maximumSize", 16777215, 30)) +
+        WidgetItem(
+            "QWidget", "row",
+            "<property name=\"sizePolicy\"><sizepolicy hsizetype=\"Expanding\" "
+            "vsizetype=\"Expanding\"/></property>" +
+                LayoutXml("QHBoxLayout",
+                          Margins(0) + NumberXml("spacing", 4) + WidgetItem("QWidget", "quarter") +
+                              WidgetItem("QWidget", "rest"),
+                          "stretch=\"1,3\"")),
+    200, 150);
 
 class PreviewTest : public testing::Test {
  protected:
   PreviewTest() { tool_.Write("rows.ui", kRowsForm); }
+  json Dump(const std::string& arguments) {
+    const Outcome outcome = tool_.Run("--dump - " + arguments);
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    return json::parse(outcome.output, nullptr, false);
+  }
 
-  Tool tool_;
+  Tool tool_{WEXA_PREVIEW};
 };
 
-TEST_F(PreviewTest, DumpsTheFormsOwnSize) {
-  const Outcome outcome = tool_.Run("--dump - rows.ui");
-
-  ASSERT_EQ(outcome.status, 0) << outcome.errors;
-  const json dump = json::parse(outcome.output);
-  EXPECT_EQ(dump["form"], "rows");
-  ASSERT_THAT(dump["sizes"], SizeIs(1));
-  EXPECT_EQ(dump["sizes"][0], json::parse(R"({"request": [200, 150], "client": [200, 150],
+TEST_F(PreviewTest, DumpsTheFormsOwnSizeOrThoseGiven) {
+  const json own = Dump("rows.ui");
+  EXPECT_EQ(own["form"], "rows");
+  EXPECT_EQ(own["sizes"], json::parse(R"([{"request": [200, 150], "client": [200, 150],
       "widgets": {"line": [10, 10, 180, 30], "row": [10, 45, 180, 95],
-                  "quarter": [10, 45, 44, 95], "rest": [58, 45, 132, 95]}})"));
-}
-
-TEST_F(PreviewTest, DumpsEverySizeInTheOrderGiven) {
-  const Outcome outcome = tool_.Run("--dump - --size 300x200 --size 200x150 rows.ui");
-
-  ASSERT_EQ(outcome.status, 0) << outcome.errors;
-  const json dump = json::parse(outcome.output);
-  ASSERT_THAT(dump["sizes"], SizeIs(2));
-  EXPECT_EQ(dump["sizes"][0], json::parse(R"({"request": [300, 200], "client": [300, 200],
+                  "quarter": [10, 45, 44, 95], "rest": [58, 45, 132, 95]}}])"));
+  const json given = Dump("--size 300x200 --size 1x1 rows.ui");
+  ASSERT_THAT(given["sizes"], SizeIs(2));
+  EXPECT_EQ(given["sizes"][0], json::parse(R"({"request": [300, 200], "client": [300, 200],
       "widgets": {"line": [10, 10, 280, 30], "row": [10, 45, 280, 145],
                   "quarter": [10, 45, 69, 145], "rest": [83, 45, 207, 145]}})"));
-  EXPECT_EQ(dump["sizes"][1]["widgets"]["rest"], json({58, 45, 132, 95}));
+  EXPECT_EQ(given["sizes"][1]["request"], json({1, 1}));
+  EXPECT_EQ(given["sizes"][1]["client"], given["layout"]["min"]);
 }
 
-TEST_F(PreviewTest, DumpKeepsToTheLimitsItStates) {
-  const Outcome outcome = tool_.Run("--dump rows.json --size 1x1 rows.ui");
-
-  ASSERT_EQ(outcome.status, 0) << outcome.errors;
-  const json dump = json::parse(tool_.Read("rows.json"));
-  EXPECT_EQ(dump["sizes"][0]["request"], json({1, 1}));
-  EXPECT_EQ(dump["sizes"][0]["client"], dump["layout"]["min"]);
-}
-
-TEST_F(PreviewTest, ScaleMultipliesTheDump) {
-  const Outcome outcome = tool_.Run("--dump - --scale 2 rows.ui");
-
-  ASSERT_EQ(outcome.status, 0) << outcome.errors;
-  const json entry = json::parse(outcome.output)["sizes"][0];
-  EXPECT_EQ(entry["client"], json({400, 300}));
-  EXPECT_EQ(entry["widgets"]["line"], json({20, 20, 360, 60}));
-}
-
-TEST_F(PreviewTest, RightToLeftDumpIsMirrored) {
-  const Outcome outcome = tool_.Run("--dump - --rtl rows.ui");
-
-  ASSERT_EQ(outcome.status, 0) << outcome.errors;
-  const json widgets = json::parse(outcome.output)["sizes"][0]["widgets"];
-  EXPECT_EQ(widgets["quarter"], json({146, 45, 44, 95}));
-  EXPECT_EQ(widgets["rest"], json({10, 45, 132, 95}));
+TEST_F(PreviewTest, DumpsScaledAndMirrored) {
+  const json twice = Dump("--scale 2 rows.ui")["sizes"][0];
+  EXPECT_EQ(twice["client"], json({400, 300}));
+  EXPECT_EQ(twice["widgets"]["line"], json({20, 20, 360, 60}));
+  const json mirrored = Dump("--rtl rows.ui")["sizes"][0]["widgets"];
+  EXPECT_EQ(mirrored["quarter"], json({146, 45, 44, 95}));
+  EXPECT_EQ(mirrored["rest"], json({10, 45, 132, 95}));
 }
 
 TEST_F(PreviewTest, DumpLeavesOutWhatIsHiddenOrNameless) {
-  tool_.Write("pages.ui", kPagesForm);
-
-  const Outcome outcome = tool_.Run("--dump - pages.ui");
-
-  ASSERT_EQ(outcome.status, 0) << outcome.errors;
-  const json widgets = json::parse(outcome.output)["sizes"][0]["widgets"];
+  const std::string pages = WidgetXml("QWidget", "shown") + WidgetXml("QWidget", "hidden");
+  tool_.Write("pages.ui",
+              FormXml(WidgetXml("QStackedWidget", "stack", GeometryXml(10, 20, 100, 80) + pages) +
+                          "<widget class=\"QLabel\"/>",
+                      200, 150));
+  const json widgets = Dump("pages.ui")["sizes"][0]["widgets"];
   EXPECT_THAT(widgets, SizeIs(2));
   EXPECT_EQ(widgets["stack"], json({10, 20, 100, 80}));
   EXPECT_TRUE(widgets.contains("shown"));
@@ -182,61 +134,46 @@ TEST_F(PreviewTest, ReportGoesOnAfterABrokenForm) {
 }
 
 TEST_F(PreviewTest, ReportTimesEachStepAndNamesUnknownClassesOnce) {
-  std::string form = kRowsForm;
-  const std::string rest = R"(<item><widget class="QWidget" name="rest"/></item>)";
-  const std::string unknown = R"(<item><widget class="Unheard"/></item>)";
-  form.replace(form.find(rest), rest.size(), unknown + unknown);
-  tool_.Write("unknown.ui", form);
-
+  const std::string unknown = WidgetItem("Unheard", "");
+  tool_.Write("unknown.ui", ColumnForm(unknown + unknown + PushButton("known")));
   const Outcome outcome = tool_.Run("--report unknown.ui");
 
   EXPECT_EQ(outcome.status, 0);
   const json line = json::parse(outcome.output);
   EXPECT_EQ(line["unknown"], json::array({"Unheard"}));
-  EXPECT_EQ(line["widgets"], 3);
+  EXPECT_EQ(line["widgets"], 1);
   for (const char* step : {"read", "parse", "build", "layout", "paint"})
     EXPECT_GT(line["ms"][step], 0) << step;
 }
 
-struct Refusal {
-  const char* arguments;
-  int status;
-  const char* says;
-};
-
-class PreviewRefuses : public testing::TestWithParam<Refusal> {};
-
-TEST_P(PreviewRefuses, WithOneLine) {
-  Tool tool;
-  tool.Write("rows.ui", kRowsForm);
-  tool.Write("truncated.ui", "<?xml version=\"1.0\"?>\n<ui>\n <widget class=\"QDialog\"");
-  tool.Write("other.ui", "<html/>");
-  tool.Write("empty/notes.txt", "");
-
-  const Outcome outcome = tool.Run(GetParam().arguments);
-
-  EXPECT_EQ(outcome.status, GetParam().status);
-  EXPECT_EQ(outcome.output, "");
-  EXPECT_THAT(Lines(outcome.errors), SizeIs(1));
-  EXPECT_THAT(outcome.errors, HasSubstr(GetParam().says));
+TEST_F(PreviewTest, RefusesWithOneLine) {
+  tool_.Write("truncated.ui", "<?xml version=\"1.0\"?>\n<ui>\n <widget class=\"QDialog\"");
+  tool_.Write("other.ui", "<html/>");
+  tool_.Write("empty/notes.txt", "");
+  const std::tuple<const char*, int, const char*> kCases[] = {
+      {"", 2, "FORM"},
+      {"--nonsense rows.ui", 2, "--nonsense"},
+      {"--size 3 rows.ui", 2, "--size"},
+      {"--size 0x5 rows.ui", 2, "--size"},
+      {"--scale none rows.ui", 2, "--scale"},
+      {"--scale nan rows.ui", 2, "--scale"},
+      {"--skin pink rows.ui", 2, "--skin"},
+      {"--report --png x.png rows.ui", 2, "--report"},
+      {"--png x.png rows.ui other.ui", 2, "one form"},
+      {"missing.ui", 1, "missing.ui: No such file"},
+      {"truncated.ui", 1, "truncated.ui:3: "},
+      {"other.ui", 1, "other.ui: No UI node"},
+      {"empty", 1, "empty: no forms"},
+      {"--png missing/x.png rows.ui", 1, "missing/x.png"},
+      {"--dump missing/x.json rows.ui", 1, "missing/x.json"}};
+  for (const auto& [arguments, status, says] : kCases) {
+    const Outcome outcome = tool_.Run(arguments);
+    EXPECT_EQ(outcome.status, status) << arguments;
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_THAT(Lines(outcome.errors), SizeIs(1));
+    EXPECT_THAT(outcome.errors, HasSubstr(says));
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    , PreviewRefuses,
-    testing::Values(Refusal{"", 2, "FORM"}, Refusal{"--nonsense rows.ui", 2, "--nonsense"},
-                    Refusal{"--size 3 rows.ui", 2, "--size"},
-                    Refusal{"--size 0x5 rows.ui", 2, "--size"},
-                    Refusal{"--scale none rows.ui", 2, "--scale"},
-                    Refusal{"--scale nan rows.ui", 2, "--scale"},
-                    Refusal{"--skin pink rows.ui", 2, "--skin"},
-                    Refusal{"--report --png x.png rows.ui", 2, "--report"},
-                    Refusal{"--png x.png rows.ui other.ui", 2, "one form"},
-                    Refusal{"missing.ui", 1, "missing.ui: No such file"},
-                    Refusal{"truncated.ui", 1, "truncated.ui:3: "},
-                    Refusal{"other.ui", 1, "other.ui: No UI node"},
-                    Refusal{"empty", 1, "empty: no forms"},
-                    Refusal{"--png missing/x.png rows.ui", 1, "missing/x.png"},
-                    Refusal{"--dump missing/x.json rows.ui", 1, "missing/x.json"}));
 
 TEST_F(PreviewTest, WithoutAnyFontItSaysSo) {
   tool_.Write("rows.ui", kRowsForm);
@@ -276,4 +213,4 @@ TEST_F(PreviewTest, HelpAndVersionSucceed) {
 }
 
 }  // namespace
-}  // namespace preview
+}  // namespace tool

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <nlohmann/json.hpp>
 
-#include "preview/Tool.h"
+#include "support/tool/Tool.h"
 
 namespace screen {
 namespace {
@@ -64,8 +64,9 @@ void ScreenTest::Start(const std::vector<std::string>& command, const std::strin
 }
 
 void ScreenTest::Measure(SIZE client) {
-  const preview::Outcome outcome =
-      preview::Tool().Run("--dump - --display offscreen --size " + SizeText(client) + " " + form_);
+  const tool::Outcome outcome =
+      tool::Tool(WEXA_PREVIEW)
+          .Run("--dump - --display offscreen --size " + SizeText(client) + " " + form_);
   ASSERT_EQ(outcome.status, 0) << outcome.errors;
   widgets_.clear();
   const json dump = json::parse(outcome.output);

@@ -1,4 +1,4 @@
-#include "preview/Tool.h"
+#include "support/tool/Tool.h"
 
 #include <sys/wait.h>
 
@@ -8,24 +8,25 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace preview {
+namespace tool {
 
-Tool::Tool() {
-  std::string name = (std::filesystem::temp_directory_path() / "wexa-preview-XXXXXX").string();
+Tool::Tool(std::string program) : program_(std::move(program)) {
+  std::string name = (std::filesystem::temp_directory_path() / "wexa-tool-XXXXXX").string();
   if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-  folder_ = name;
+  folder_ = std::filesystem::path(name) / "files";
+  std::filesystem::create_directory(folder_);
 }
 
 Tool::~Tool() {
   std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
+  std::filesystem::remove_all(folder_.parent_path(), ignored);
 }
 
 Outcome Tool::Run(const std::string& arguments, const std::string& environment) const {
-  const std::string command = "cd " + folder_.string() + " && " + environment +
-                              " " WEXA_PREVIEW " " + arguments + " >output.txt 2>errors.txt";
+  const std::string command = "cd " + folder_.string() + " && " + environment + " " + program_ +
+                              " " + arguments + " >../output 2>../errors";
   const int status = std::system(command.c_str());
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Read("output.txt"), Read("errors.txt")};
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Read("../output"), Read("../errors")};
 }
 
 void Tool::Write(const std::string& file, const std::string& text) const {
@@ -59,4 +60,4 @@ std::vector<std::string> Lines(const std::string& text) {
   return lines;
 }
 
-}  // namespace preview
+}  // namespace tool

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace preview {
+namespace tool {
 
 struct Outcome {
   int status = -1;
@@ -12,10 +12,10 @@ struct Outcome {
   std::string errors;
 };
 
-// The built program, run in a folder of its own that goes with this object.
+// A built program, run in a folder of its own that goes with this object.
 class Tool {
  public:
-  Tool();
+  explicit Tool(std::string program);
   ~Tool();
   Tool(const Tool&) = delete;
   Tool& operator=(const Tool&) = delete;
@@ -25,8 +25,10 @@ class Tool {
   Outcome Run(const std::string& arguments, const std::string& environment = {}) const;
   void Write(const std::string& file, const std::string& text) const;
   std::string Read(const std::string& file) const;
+  std::string PathOf(const std::string& file) const { return folder_ / file; }
 
  private:
+  std::string program_;
   std::filesystem::path folder_;
 };
 
@@ -35,4 +37,4 @@ std::pair<int, int> SizeOfPng(const std::string& bytes);
 
 std::vector<std::string> Lines(const std::string& text);
 
-}  // namespace preview
+}  // namespace tool
