@@ -39,6 +39,16 @@ std::unique_ptr<Dialog> FormTest::Make(const std::string& form, unsigned long st
 
 Dialog& FormTest::Open(const std::string& form, unsigned long style) {
   dialog_ = Make(form, style);
+  return Show();
+}
+
+Dialog& FormTest::OpenFile(const std::wstring& file) {
+  dialog_.reset();
+  dialog_ = std::make_unique<Dialog>(file, nullptr, 0, 1.0);
+  return Show();
+}
+
+Dialog& FormTest::Show() {
   dialog_->DoModeless(true);
   Robot::PumpAll();
   return *dialog_;

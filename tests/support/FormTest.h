@@ -25,6 +25,8 @@ class FormTest : public ::testing::Test {
   std::unique_ptr<Dialog> Make(const std::string& form, unsigned long style = 0);
   // The same, shown modeless and painted.
   Dialog& Open(const std::string& form, unsigned long style = 0);
+  // Closes what is open, and opens a form file.
+  Dialog& OpenFile(const std::wstring& file);
   // The file of a form; gone with the test.
   std::wstring FileOf(const std::string& form);
 
@@ -41,6 +43,8 @@ class FormTest : public ::testing::Test {
   std::unique_ptr<Dialog> dialog_;
 
  private:
+  Dialog& Show();
+
   std::vector<std::string> files_;
 };
 

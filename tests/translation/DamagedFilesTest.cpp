@@ -66,7 +66,7 @@ void ReadStrings(const std::string& bytes) {
 void Translate(const std::string& bytes) {
   const auto text = WidenUtf8(bytes);
   FormLines lines;
-  for (unsigned n = 1; text && lines.size() < 40; n += 3) {
+  for (unsigned n = 1; text && lines.size() < 12; n += 11) {
     lines[n] = L"t";
     TranslateForm(bytes, lines);
     TranslateFormInPlace(*text, lines);

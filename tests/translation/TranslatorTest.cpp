@@ -1,41 +1,17 @@
 #include "Translator.h"
 
-#include <filesystem>
-#include <fstream>
-
-#include "FileText.h"
 #include "TrString.h"
-#include "Utf8.h"
-#include "WexaConfig.h"
+#include "support/LanguageFolder.h"
 #include "translation/EncrypterAccess.h"
 
 namespace Wexa {
 namespace {
 
 // A folder of language files of its own, and a translator that starts empty in "de-DE".
-class TranslatorTest : public testing::Test {
+class TranslatorTest : public testing::Test, protected LanguageFolder {
  protected:
-  TranslatorTest() : folder_(testing::TempDir() + "/translator_test/") {
-    std::filesystem::remove_all(folder_);
-    SetWorkingDirPath(*WidenUtf8(folder_));
-    SetCurrentLanguage(L"", false);
-    SetCurrentLanguage(L"de-DE", false);
-  }
-  ~TranslatorTest() override {
-    SetCurrentLanguage(L"", true);
-    SetWorkingDirPath(oldFolder_);
-  }
+  TranslatorTest() { SetCurrentLanguage(L"de-DE", false); }
 
-  void Write(const std::wstring& path, const std::string& text) {
-    const std::filesystem::path native = NativePath(path);
-    std::filesystem::create_directories(native.parent_path());
-    std::ofstream(native, std::ios::binary) << text;
-  }
-  void WriteStrings(const std::wstring& name, bool useDefault, const std::string& strings) {
-    const std::string language = useDefault ? "en-US" : NarrowUtf8(GetCurrentLanguage());
-    Write(GetStringsFilePath(name, useDefault),
-          "<r language='" + language + "'><StringTable>" + strings + "</StringTable></r>");
-  }
   void WriteTs(const std::wstring& name, const std::string& translation) {
     Write(GetTranslationFilePath(name),
           "<TS language='" + NarrowUtf8(GetCurrentLanguage()) +
@@ -53,10 +29,6 @@ class TranslatorTest : public testing::Test {
   }
 
   Translator& translator_ = Translator::GetInstance();
-
- private:
-  std::string folder_;
-  std::wstring oldFolder_ = GetWorkingDirPath();
 };
 
 TEST_F(TranslatorTest, NamesTheFiles) {
@@ -99,36 +71,25 @@ TEST_F(TranslatorTest, TextsFallBackToTheDefaultLanguageAndTheCaller) {
   EXPECT_EQ(translator_.GetText(L"c", L"b", L""), L"");
 }
 
-TEST_F(TranslatorTest, FilesWithTextsAreReadOnce) {
+TEST_F(TranslatorTest, FilesWithTextsAreReadOnceAndAppendedOnesReplaceNoText) {
   translator_.LoadStrings(L"c");
-  WriteStrings(L"c", false, "<string id='a'>first</string>");
-  translator_.LoadStrings(L"c");
-  WriteStrings(L"c", false, "<string id='a'>second</string>");
-  translator_.LoadStrings(L"c");
-  EXPECT_EQ(Text(L"c", L"a"), L"first");
-}
-
-TEST_F(TranslatorTest, AppendedTextsDoNotReplaceOthers) {
-  WriteStrings(L"c", false, "<string id='a'>own</string>");
+  for (const std::string text : {"own", "later"}) {
+    WriteStrings(L"c", false, "<string id='a'>" + text + "</string>");
+    translator_.LoadStrings(L"c");
+  }
   WriteStrings(L"d", false, "<string id='a'>other</string><string id='b'>other</string>");
-  translator_.LoadStrings(L"c");
   translator_.AppendStrings(L"c", L"d");
   EXPECT_EQ(Text(L"c", L"a"), L"own");
   EXPECT_EQ(Text(L"c", L"b"), L"other");
   EXPECT_EQ(Text(L"d", L"b"), L"fallback");
 }
 
-TEST_F(TranslatorTest, FormsTakeTheTranslationOfTheirLine) {
+TEST_F(TranslatorTest, FormsTakeTheTranslationOfTheirLineAnEmptyOneOnRequest) {
+  EXPECT_EQ(TranslateForm(), L"<ui> <string>old</string></ui>");
   WriteTs(L"c", "a &amp;amp; b");
   translator_.LoadStrings(L"c");
   EXPECT_EQ(TranslateForm(), L"<ui><string>a &amp;amp; b</string></ui>");
-}
-
-TEST_F(TranslatorTest, FormsWithoutTranslationsKeepTheirStrings) {
-  EXPECT_EQ(TranslateForm(), L"<ui> <string>old</string></ui>");
-}
-
-TEST_F(TranslatorTest, EmptyTranslationsAreAppliedOnRequest) {
+  translator_.ResetStringsTable();
   WriteTs(L"c", "");
   translator_.LoadStrings(L"c");
   EXPECT_EQ(TranslateForm(), L"<ui> <string>old</string></ui>");

@@ -74,10 +74,7 @@ class BrokenFormsTest : public DialogTest {
   bool OpenOrFail(const std::string& form) {
     std::ofstream(path_, std::ios::binary) << form;
     try {
-      dialog_ = std::make_unique<Dialog>(file_, nullptr, 0, 1.0);
-      dialog_->DoModeless(true);
-      Robot::PumpAll();
-      Robot::PixelAt(dialog_->GetHandle(), 0, 0);
+      Robot::PixelAt(OpenFile(file_).GetHandle(), 0, 0);
       return true;
     } catch (const WexaException& error) {
       EXPECT_TRUE(IsKnown(error.what())) << error.what();

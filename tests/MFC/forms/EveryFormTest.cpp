@@ -153,13 +153,6 @@ class EveryFormTest : public FormTest {
     ExpectPlaces(places, PlacesFrom(true));
   }
 
-  void OpenFile(const std::wstring& file) {
-    dialog_.reset();
-    dialog_ = std::make_unique<Dialog>(file, nullptr, 0, 1.0);
-    dialog_->DoModeless(true);
-    Robot::PumpAll();
-  }
-
   Dialog::impl& Impl() { return *dialog_->GetImpl(); }
 
   // The library's widget of a window; null for a part of one.

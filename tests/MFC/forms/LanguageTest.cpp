@@ -1,44 +1,23 @@
 // Dialogs in other languages: forms and the translations that belong to them.
 
-#include <filesystem>
-#include <fstream>
-
 #include "ButtonBox.h"
-#include "FileText.h"
 #include "Label.h"
-#include "Translator.h"
-#include "Utf8.h"
-#include "WexaConfig.h"
 #include "data/TestData.h"
 #include "support/DialogTest.h"
-#include "support/FormTest.h"
+#include "support/LanguageFolder.h"
 #include "translation/EncrypterAccess.h"
 
 namespace Wexa {
 namespace {
 
-namespace fs = std::filesystem;
-
-// A folder with a host's forms and language files, which are plain.
-class LanguageTest : public FormTest {
+// The language files of a host, which are plain.
+class LanguageTest : public FormTest, protected LanguageFolder {
  protected:
-  LanguageTest() : folder_(testing::TempDir() + "/language_test/"), oldFont_(*GetFontInfo()) {
-    fs::remove_all(folder_);
-    SetWorkingDirPath(*WidenUtf8(folder_));
-  }
   ~LanguageTest() override {
-    SetCurrentLanguage(L"", true);
-    SetWorkingDirPath(oldFolder_);
     SetLayoutRTL(false);
     *GetFontInfo() = oldFont_;
-    fs::remove_all(folder_);
   }
 
-  void Write(const std::wstring& path, const std::string& bytes) {
-    const fs::path native = NativePath(path);
-    fs::create_directories(native.parent_path());
-    std::ofstream(native, std::ios::binary) << bytes;
-  }
   // Takes the TS file of the garden planner as the program's.
   void Load(const std::string& file, const std::wstring& language) {
     LoadBytes(testdata::BytesOf(testdata::TsFile(file)), language);
@@ -50,18 +29,11 @@ class LanguageTest : public FormTest {
     Translator::GetInstance().LoadStrings(L"program");
   }
   std::wstring Title(const std::string& path) {
-    dialog_.reset();
-    dialog_ = std::make_unique<Dialog>(*WidenUtf8(path), nullptr, 0, 1.0);
-    dialog_->DoModeless(true);
-    Robot::PumpAll();
-    return GetWindowTextString(dialog_->GetHandle());
+    return GetWindowTextString(OpenFile(*WidenUtf8(path)).GetHandle());
   }
-  std::string Path(const std::string& name) const { return folder_ + name; }
 
  private:
-  std::string folder_;
-  std::wstring oldFolder_ = GetWorkingDirPath();
-  logFont oldFont_;
+  logFont oldFont_ = *GetFontInfo();
 };
 
 // A form of every widget that shows texts, all of them the same, each on a line of its own as form
@@ -139,9 +111,7 @@ TEST_F(TranslatedTexts, LookAsIfTheFormWereWrittenInTheLanguage) {
 
 TEST_F(LanguageTest, StandardButtonsTakeTheirTextsFromTheCommonStrings) {
   SetCurrentLanguage(L"de", false);
-  Write(GetStringsFilePath(L"", false),
-        "<r language='de'><StringTable><string id='Wexa::BBoxCancel'>Abbrechen</string>"
-        "</StringTable></r>");
+  WriteStrings(L"", false, "<string id='Wexa::BBoxCancel'>Abbrechen</string>");
   Translator::GetInstance().LoadStrings(L"");
   Write(GetWorkingDirPath() + L"f.ui",
         ColumnForm(WidgetItem("QDialogButtonBox", "box",
