@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <span>
 
 namespace Wexa {
@@ -18,9 +17,8 @@ struct ChainSlot {
   int position = 0;   // result
   int size = 0;       // result
 
-  // What the slot asks for: a slot with stretch takes its share from its minimum up. A hint that is
-  // ignored may lie below the minimum, and does not count there.
-  int SmartHint() const { return stretch > 0 ? minimumSize : std::max(sizeHint, minimumSize); }
+  // What the slot asks for: a slot with stretch takes its share from its minimum up.
+  int SmartHint() const { return stretch > 0 ? minimumSize : sizeHint; }
 };
 
 // Shares `space` out among the slots, from `position` on, and fills in their positions and sizes.

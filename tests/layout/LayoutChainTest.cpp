@@ -44,75 +44,65 @@ std::vector<int> Positions(const Slots& slots) {
   return positions;
 }
 
-using testing::ElementsAre;
-
 // -- Worked by hand -------------------------------------------------------------------------------
 
-TEST(LayoutChainTest, ExtraSpaceGoesToAllAlike) {
-  Slots slots(3, Slot(50, 10, kUnbounded));
-  Distribute(slots, 0, 300);
-  EXPECT_THAT(Sizes(slots), ElementsAre(96, 96, 96));
-  EXPECT_THAT(Positions(slots), ElementsAre(0, 102, 204));
+struct Example {
+  const char* name;
+  Slots slots;
+  int space;
+  std::vector<int> sizes;
+  std::vector<int> positions;
+  int spacing = -1;
+};
+
+ChainSlot Expansive(ChainSlot slot) {
+  slot.expansive = true;
+  return slot;
 }
 
-TEST(LayoutChainTest, StretchSharesFromTheMinimumUp) {
-  Slots slots{Slot(50, 10, kUnbounded, 1), Slot(50, 10, kUnbounded, 2),
-              Slot(50, 10, kUnbounded, 1)};
-  Distribute(slots, 0, 300);
-  EXPECT_THAT(Sizes(slots), ElementsAre(72, 144, 72));
-}
-
-TEST(LayoutChainTest, ShortfallIsTakenEqually) {
-  Slots slots(3, Slot(50, 10, kUnbounded));
-  Distribute(slots, 0, 90);
-  EXPECT_THAT(Sizes(slots), ElementsAre(26, 26, 26));
-}
-
-TEST(LayoutChainTest, SlotsStopShrinkingAtTheirMinimum) {
-  Slots slots{Slot(50, 45, kUnbounded), Slot(50, 10, kUnbounded), Slot(50, 10, kUnbounded)};
-  Distribute(slots, 0, 112);
-  EXPECT_THAT(Sizes(slots), ElementsAre(45, 27, 28));
-}
-
-TEST(LayoutChainTest, LargestMinimumsAreCutFirst) {
-  Slots slots{Slot(50, 10, kUnbounded), Slot(50, 20, kUnbounded), Slot(50, 30, kUnbounded)};
-  Distribute(slots, 0, 20);
-  EXPECT_THAT(Sizes(slots), ElementsAre(3, 3, 2));
-  EXPECT_THAT(Positions(slots), ElementsAre(0, 9, 18));
-}
-
-TEST(LayoutChainTest, UniformSpacingShrinksWithTheMinimums) {
-  Slots slots(3, Slot(50, 20, kUnbounded));
-  Distribute(slots, 0, 40, 10);  // 80 are needed: the gaps halve
-  EXPECT_THAT(Sizes(slots), ElementsAre(10, 10, 10));
-  EXPECT_THAT(Positions(slots), ElementsAre(0, 15, 30));
-}
-
-TEST(LayoutChainTest, MaximumGivesItsSurplusBack) {
-  Slots slots{Slot(20, 10, 40), Slot(20, 10, kUnbounded), Slot(20, 10, kUnbounded)};
-  Distribute(slots, 0, 312);
-  EXPECT_THAT(Sizes(slots), ElementsAre(40, 130, 130));
-}
-
-TEST(LayoutChainTest, SpaceThatNobodyCanUseWidensGapsAndEnds) {
-  Slots slots(2, Slot(20, 20, 20));
-  Distribute(slots, 100, 76);
-  EXPECT_THAT(Sizes(slots), ElementsAre(20, 20));
-  EXPECT_THAT(Positions(slots), ElementsAre(110, 146));
-}
-
-TEST(LayoutChainTest, ExpansiveSlotsTakeAllExtraSpace) {
-  Slots slots(3, Slot(20, 10, kUnbounded));
-  slots[1].expansive = true;
-  Distribute(slots, 0, 200);
-  EXPECT_THAT(Sizes(slots), ElementsAre(20, 148, 20));
-}
-
-TEST(LayoutChainTest, RoundingIsCarriedFromSlotToSlot) {
-  Slots slots(3, Slot(10, 10, kUnbounded));
-  for (ChainSlot& slot : slots) slot.spacing = 0;
-  Distribute(slots, 0, 100);
-  EXPECT_THAT(Sizes(slots), ElementsAre(33, 34, 33));
+TEST(LayoutChainTest, Examples) {
+  const ChainSlot plain = Slot(50, 10, kUnbounded);
+  const ChainSlot small = Slot(20, 10, kUnbounded);
+  const ChainSlot fixed = Slot(20, 20, 20);
+  const std::vector<Example> examples{
+      {"extra space goes to all alike", {plain, plain, plain}, 300, {96, 96, 96}, {0, 102, 204}},
+      {"stretch shares from the minimum up",
+       {Slot(50, 10, kUnbounded, 1), Slot(50, 10, kUnbounded, 2), Slot(50, 10, kUnbounded, 1)},
+       300,
+       {72, 144, 72},
+       {0, 78, 228}},
+      {"a shortfall is taken equally", {plain, plain, plain}, 90, {26, 26, 26}, {0, 32, 64}},
+      {"minimums are kept", {Slot(50, 45, kUnbounded), plain, plain}, 112, {45, 27, 28}, {0, 51, 84}},
+      {"the largest minimums are cut first",
+       {plain, Slot(50, 20, kUnbounded), Slot(50, 30, kUnbounded)},
+       20,
+       {3, 3, 2},
+       {0, 9, 18}},
+      {"uniform gaps shrink with the minimums",
+       Slots(3, Slot(50, 20, kUnbounded)),
+       40,
+       {10, 10, 10},
+       {0, 15, 30},
+       10},
+      {"a maximum gives its surplus back",
+       {Slot(20, 10, 40), small, small},
+       312,
+       {40, 130, 130},
+       {0, 46, 182}},
+      {"unused space widens gaps and ends", {fixed, fixed}, 76, {20, 20}, {10, 46}},
+      {"expansive slots take all", {small, Expansive(small), small}, 200, {20, 148, 20}, {0, 26, 180}},
+      {"a hint below its minimum counts",
+       {Slot(0, 40, kUnbounded), Expansive(plain)},
+       146,
+       {0, 140},
+       {0, 6}},
+  };
+  for (const Example& e : examples) {
+    Slots slots = e.slots;
+    Distribute(slots, 0, e.space, e.spacing);
+    EXPECT_EQ(Sizes(slots), e.sizes) << e.name;
+    EXPECT_EQ(Positions(slots), e.positions) << e.name;
+  }
 }
 
 TEST(LayoutChainTest, NoSlotsAreNoProblem) {
@@ -206,36 +196,29 @@ TEST(LayoutChainTest, EdgesAreWithinAPixelOfTheExactShare) {
 
 // -- Merging across -------------------------------------------------------------------------------
 
-TEST(CrossMaximumTest, FirstItemReplacesTheStartOthersLowerIt) {
-  CrossMaximum cross{100, false, true};
-  cross.Merge(200, false, false);
-  EXPECT_EQ(cross.maximum, 200);
-  cross.Merge(80, false, false);
-  EXPECT_EQ(cross.maximum, 80);
-  cross.Merge(90, false, false);
-  EXPECT_EQ(cross.maximum, 80);
-}
+struct Merge {
+  int maximum;
+  bool expansive;
+  bool empty;
+  int result;
+};
 
-TEST(CrossMaximumTest, ExpansiveItemsWinAndOnlyTheyRaise) {
-  CrossMaximum cross{80, false, false};
-  cross.Merge(300, true, false);
-  EXPECT_EQ(cross.maximum, 300);
-  cross.Merge(900, false, false);
-  EXPECT_EQ(cross.maximum, 300);
-  cross.Merge(400, true, false);
-  EXPECT_EQ(cross.maximum, 400);
-}
-
-TEST(CrossMaximumTest, EmptyItemsGiveWayToOthers) {
-  CrossMaximum cross{0, false, true};
-  cross.Merge(70, false, true);
-  EXPECT_EQ(cross.maximum, 70);
-  cross.Merge(50, false, true);
-  EXPECT_EQ(cross.maximum, 50);
-  cross.Merge(400, false, false);
-  EXPECT_EQ(cross.maximum, 400);
-  cross.Merge(5, false, true);
-  EXPECT_EQ(cross.maximum, 400);
+TEST(CrossMaximumTest, MergesItemAfterItem) {
+  const struct {
+    CrossMaximum start;
+    std::vector<Merge> merges;
+  } cases[] = {
+      {{100, false, true}, {{200, false, false, 200}, {80, false, false, 80}, {90, false, false, 80}}},
+      {{80, false, false}, {{300, true, false, 300}, {900, false, false, 300}, {400, true, false, 400}}},
+      {{0, false, true},
+       {{70, false, true, 70}, {50, false, true, 50}, {400, false, false, 400}, {5, false, true, 400}}},
+  };
+  for (auto [cross, merges] : cases) {
+    for (const Merge& merge : merges) {
+      cross.Merge(merge.maximum, merge.expansive, merge.empty);
+      EXPECT_EQ(cross.maximum, merge.result);
+    }
+  }
 }
 
 }  // namespace

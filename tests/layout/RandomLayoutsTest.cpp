@@ -28,7 +28,12 @@ class RandomLayoutsTest : public LayoutTest {
     widget->ideal += Size(Number(0, 60), Number(0, 30));
     widget->policy = P(Policy(), Policy());
     widget->policy.SetHorizontalStretch(Chance(20) ? Number(1, 5) : 0);
-    if (Chance(20)) widget->minimum = {Number(0, 60), Number(0, 40)};
+    // A hint that is ignored lies below a minimum, and the two rules on sizes do not hold.
+    if (Chance(20)) {
+      const bool ignoresX = widget->policy.GetHorizontalPolicy() == P::Ignored;
+      const bool ignoresY = widget->policy.GetVerticalPolicy() == P::Ignored;
+      widget->minimum = {ignoresX ? 0 : Number(0, 60), ignoresY ? 0 : Number(0, 40)};
+    }
     if (Chance(20)) widget->maximum = widget->minimum.GetInflated({Number(20, 150), Number(9, 99)});
     if (Chance(10)) widget->visible = false;
     return widget;

@@ -22,7 +22,7 @@ void SplitSizes::Arrange(int room) {
     slot.minimumSize = pane.minimum;
     slot.maximumSize = std::max(pane.maximum, pane.minimum);
     const int weight = pane.weight >= 0 ? pane.weight : pane.hint;
-    slot.sizeHint = given_ ? weight : pane.hint;
+    slot.sizeHint = std::max(given_ ? weight : pane.hint, pane.minimum);
     slot.stretch = given_ ? weight : pane.stretch;
     slot.expansive = pane.expansive;
   }
