@@ -10,11 +10,11 @@
 
 namespace Wexa {
 
-// What the widget's own margins add to the width and, above the layout, to the height.
+// What the widget's own margins add.
 Size Layout::WidgetMargins() const {
   if (!isTopLevel_ || !parentWidget_) return {};
   const auto& margins = parentWidget_.Impl()->Links().contentsMargins;
-  return {margins[0] + margins[2], margins[1]};
+  return {margins[0] + margins[2], margins[1] + margins[3]};
 }
 
 Size Layout::TotalSizeHint() {

@@ -258,8 +258,8 @@ TEST_F(LayoutActivationTest, ContentsMarginsOfTheWidgetCountInTotals) {
   layout_->SetContentsMargins(0, 0, 0, 0);
   auto& margins = dialog_->Links().contentsMargins;
   margins[0] = 1, margins[1] = 2, margins[2] = 4, margins[3] = 8;
-  EXPECT_EQ(layout_->TotalSizeHint(), Size(55, 22));
-  EXPECT_EQ(layout_->TotalMinimumSize(), Size(15, 12));
+  EXPECT_EQ(layout_->TotalSizeHint(), Size(55, 30));
+  EXPECT_EQ(layout_->TotalMinimumSize(), Size(15, 20));
   EXPECT_EQ(layout_->TotalMaximumSize(), Size(524287, 524287));
 }
 
