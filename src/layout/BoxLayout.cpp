@@ -212,8 +212,8 @@ void BoxLayout::Place(const Rect& inner) {
   for (std::size_t i = 0; i < std::min(chain.size(), entries_.size()); ++i) {
     const int from = chain[i].position;
     const int to = SaturatedSum(from, chain[i].size);
-    entries_[i].item->SetGeometry(isRow ? RectFromEdges(from, inner.Top(), to, inner.Bottom())
-                                        : RectFromEdges(inner.Left(), from, inner.Right(), to));
+    PlaceItem(*entries_[i].item, isRow ? RectFromEdges(from, inner.Top(), to, inner.Bottom())
+                                       : RectFromEdges(inner.Left(), from, inner.Right(), to));
     if (watch.IsGone()) return;
   }
   scratch_ = std::move(chain);
@@ -235,37 +235,52 @@ void BoxLayout::ApplyHeights(std::vector<ChainSlot>& chain, int width) {
 // -- Height for width -----------------------------------------------------------------------------
 
 int BoxLayout::HeightForWidth(int width) {
-  if (!HasHeightForWidth()) return -1;
+  return HasHeightForWidth() ? HeightsForWidth(width).hint : -1;
+}
+
+int BoxLayout::MinimumHeightForWidth(int width) {
+  return HasHeightForWidth() ? HeightsForWidth(width).minimum : -1;
+}
+
+const BoxLayout::Heights& BoxLayout::HeightsForWidth(int width) {
   const Margins& margins = effectiveMargins_;
   const int inner = SaturatedSum(width, -SaturatedSum(margins.left, margins.right));
   if (inner != heightWidth_) {
-    height_ = Axis() == Orientation::Horizontal ? HeightOfRow(inner) : HeightOfColumn(inner);
+    const int around = SaturatedSum(margins.top, margins.bottom);
+    heights_ = Axis() == Orientation::Horizontal ? HeightsOfRow(inner) : HeightsOfColumn(inner);
+    heights_ = {SaturatedSum(heights_.hint, around), SaturatedSum(heights_.minimum, around)};
     heightWidth_ = inner;
   }
-  return SaturatedSum(height_, SaturatedSum(margins.top, margins.bottom));
+  return heights_;
 }
 
-int BoxLayout::HeightOfRow(int width) {
+BoxLayout::Heights BoxLayout::HeightsOf(LayoutItem& item, int width) {
+  if (item.HasHeightForWidth())
+    return {item.HeightForWidth(width), item.MinimumHeightForWidth(width)};
+  return {item.SizeHint().Height(), item.MinimumSize().Height()};
+}
+
+BoxLayout::Heights BoxLayout::HeightsOfRow(int width) {
   std::vector<ChainSlot> chain = TakeChainCopy();
   Distribute(chain, 0, width);
-  int height = 0;
+  Heights row{0, 0};
   for (std::size_t i = 0; i < chain.size(); ++i) {
-    LayoutItem& item = *entries_[i].item;
-    height = std::max(height, item.HasHeightForWidth() ? item.HeightForWidth(chain[i].size)
-                                                       : item.SizeHint().Height());
+    const Heights item = HeightsOf(*entries_[i].item, chain[i].size);
+    row = {std::max(row.hint, item.hint), std::max(row.minimum, item.minimum)};
   }
   scratch_ = std::move(chain);
-  return height;
+  return row;
 }
 
-int BoxLayout::HeightOfColumn(int width) {
-  std::int64_t height = 0;
+BoxLayout::Heights BoxLayout::HeightsOfColumn(int width) {
+  std::int64_t hint = 0;
+  std::int64_t minimum = 0;
   for (std::size_t i = 0; i < chain_.size(); ++i) {
-    LayoutItem& item = *entries_[i].item;
-    height += std::int64_t{chain_[i].spacing} +
-              (item.HasHeightForWidth() ? item.HeightForWidth(width) : item.SizeHint().Height());
+    const Heights item = HeightsOf(*entries_[i].item, width);
+    hint += std::int64_t{chain_[i].spacing} + item.hint;
+    minimum += std::int64_t{chain_[i].spacing} + item.minimum;
   }
-  return Saturated(height);
+  return {Saturated(hint), Saturated(minimum)};
 }
 
 }  // namespace Wexa

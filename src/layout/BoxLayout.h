@@ -37,6 +37,7 @@ class BoxLayout : public Layout {
   void Invalidate(bool update) override;
   bool HasHeightForWidth() override;
   int HeightForWidth(int width) override;
+  int MinimumHeightForWidth(int width) override;
 
  protected:
   BoxLayout(Direction direction, WexaObject* parent) : Layout(parent), direction_(direction) {}
@@ -60,8 +61,14 @@ class BoxLayout : public Layout {
   std::vector<ChainSlot> TakeChainCopy();
   void Place(const Rect& inner);
   void ApplyHeights(std::vector<ChainSlot>& chain, int width);
-  int HeightOfRow(int width);
-  int HeightOfColumn(int width);
+  struct Heights {
+    int hint = -1;
+    int minimum = -1;
+  };
+  const Heights& HeightsForWidth(int width);
+  static Heights HeightsOf(LayoutItem& item, int width);
+  Heights HeightsOfRow(int width);
+  Heights HeightsOfColumn(int width);
 
   Direction direction_;
   int spacing_ = -1;
@@ -76,8 +83,8 @@ class BoxLayout : public Layout {
   bool hasHeightForWidth_ = false;
   bool dirty_ = true;
   bool relayout_ = false;  // the next geometry is carried out even if it is the present one
-  int heightWidth_ = -1;   // the width for which height_ was computed
-  int height_ = -1;
+  int heightWidth_ = -1;   // the width for which heights_ were computed
+  Heights heights_;
 };
 
 class HBoxLayout : public BoxLayout {

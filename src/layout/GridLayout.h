@@ -49,6 +49,7 @@ class GridLayout : public Layout {
   void Invalidate(bool update) override;
   bool HasHeightForWidth() override;
   int HeightForWidth(int width) override;
+  int MinimumHeightForWidth(int width) override;
 
  private:
   static constexpr int kToTheEnd = -1;
@@ -78,6 +79,7 @@ class GridLayout : public Layout {
   Size Total(int GridLines::Sums::*value) const;
 
   void Place(const Rect& inner, bool fromLast);
+  int RowsForWidth(int width, int GridLines::Sums::*value);
   void SetUpRowsForWidth(int width);
   void AddRowsForWidth(std::size_t index, const std::vector<ChainSlot>& columns);
 

@@ -54,7 +54,7 @@ void GridLayout::Place(const Rect& inner, bool fromLast) {
     if (!HasItem(index)) continue;
     const Stretch x = Stretch::Of(columns, ColumnsOf(BoxAt(index)));
     const Stretch y = Stretch::Of(rows, RowsOf(BoxAt(index)));
-    BoxAt(index).item->SetGeometry(RectFromEdges(x.from, y.from, x.to, y.to));
+    PlaceItem(*BoxAt(index).item, RectFromEdges(x.from, y.from, x.to, y.to));
     if (watch.IsGone()) return;
   }
   columnScratch_ = std::move(columns);
@@ -64,12 +64,19 @@ void GridLayout::Place(const Rect& inner, bool fromLast) {
 // -- Height for width -----------------------------------------------------------------------------
 
 int GridLayout::HeightForWidth(int width) {
+  return HasHeightForWidth() ? RowsForWidth(width, &GridLines::Sums::hint) : -1;
+}
+
+int GridLayout::MinimumHeightForWidth(int width) {
+  return HasHeightForWidth() ? RowsForWidth(width, &GridLines::Sums::minimum) : -1;
+}
+
+int GridLayout::RowsForWidth(int width, int GridLines::Sums::*value) {
   // The sum of the rows is bounded at any scale.
   constexpr int kLargestHeight = 524287;
-  if (!HasHeightForWidth()) return -1;
   const Margins& margins = effectiveMargins_;
   SetUpRowsForWidth(SaturatedSum(width, -SaturatedSum(margins.left, margins.right)));
-  return SaturatedSum(std::min(rowsForWidth_.Total().hint, kLargestHeight),
+  return SaturatedSum(std::min(rowsForWidth_.Total().*value, kLargestHeight),
                       SaturatedSum(margins.top, margins.bottom));
 }
 
@@ -96,9 +103,9 @@ void GridLayout::AddRowsForWidth(std::size_t index, const std::vector<ChainSlot>
   ItemSizes sizes = sizes_[index];
   if (sizes.hasHeightForWidth) {
     const Stretch x = Stretch::Of(columns, ColumnsOf(box));
-    const int height = box.item->HeightForWidth(SaturatedSum(x.to, -x.from));
-    sizes.minimum.SetHeight(height);
-    sizes.hint.SetHeight(height);
+    const int across = SaturatedSum(x.to, -x.from);
+    sizes.minimum.SetHeight(box.item->MinimumHeightForWidth(across));
+    sizes.hint.SetHeight(box.item->HeightForWidth(across));
   }
   if (rows.IsSingle()) {
     rowsForWidth_.RaiseSizes(rows.first, sizes.minimum.Height(), sizes.hint.Height());

@@ -2,8 +2,22 @@
 
 #include "BaseGUIObject.h"
 #include "layout/LayoutItem.h"
+#include "layout/SizeLimits.h"
 
 namespace Wexa {
+
+namespace {
+
+// A nested layout that stands aligned in its cell bears any size of the cell.
+Size MaximumOf(LayoutItem& item) {
+  Size maximum = item.MaximumSize();
+  if (!item.AsLayout()) return maximum;
+  if (item.IsAligned(Orientation::Horizontal)) maximum.SetWidth(LayoutSizeLimit());
+  if (item.IsAligned(Orientation::Vertical)) maximum.SetHeight(LayoutSizeLimit());
+  return maximum;
+}
+
+}  // namespace
 
 ItemSizes ItemSizes::Of(LayoutItem& item) {
   BaseGUIObject* widget = item.Widget();
@@ -12,7 +26,7 @@ ItemSizes ItemSizes::Of(LayoutItem& item) {
   ItemSizes sizes;
   sizes.minimum = item.MinimumSize();
   sizes.hint = item.SizeHint();
-  sizes.maximum = item.MaximumSize();
+  sizes.maximum = MaximumOf(item);
   sizes.expanding = item.ExpandingDirections();
   if (widget) sizes.policy = widget->GetSizePolicy();
   sizes.empty = empty;

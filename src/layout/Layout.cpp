@@ -8,6 +8,7 @@
 #include "BaseGUIObject.h"
 #include "MFC/BaseImpl.h"
 #include "layout/Axis.h"
+#include "layout/CellAlignment.h"
 #include "layout/SizeLimits.h"
 #include "layout/WidgetItem.h"
 
@@ -88,6 +89,12 @@ void Layout::LetGo(LayoutItem& item) {
 }
 
 BaseGUIObject* Layout::ParentWidget() const {
+void Layout::PlaceItem(LayoutItem& item, const Rect& cell) {
+  if (!item.AsLayout() || item.Alignment() == 0) return item.SetGeometry(cell);
+  const Size size = SizeInCell(item, cell.GetSize(), item.SizeHint());
+  item.SetGeometry(AlignedInCell(cell, size, item.Alignment()));
+}
+
   const Layout* layout = this;
   while (!layout->isTopLevel_ && layout->parentLayout_) layout = layout->parentLayout_;
   return layout->isTopLevel_ ? layout->parentWidget_.Widget() : nullptr;

@@ -94,6 +94,7 @@ class Layout : public WexaObject, public LayoutItem {
   Size TotalMinimumSize();
   Size TotalMaximumSize();
   int TotalHeightForWidth(int width);
+  int TotalMinimumHeightForWidth(int width);
 
   // -- Passes over the geometry -------------------------------------------------------------------
 
@@ -144,6 +145,8 @@ class Layout : public WexaObject, public LayoutItem {
   // Links an item that becomes, or is no longer, one of this layout's.
   void Adopt(LayoutItem& item);
   void LetGo(LayoutItem& item);
+  // Places one of its items. A nested layout that is aligned keeps to its hint there.
+  static void PlaceItem(LayoutItem& item, const Rect& cell);
 
  private:
   void AttachTo(BaseGUIObject& widget);
@@ -151,6 +154,7 @@ class Layout : public WexaObject, public LayoutItem {
   int DefaultMargin() const;
   Size WidgetMargins() const;
   int MenuBarHeight(int width);
+  int WithWidgetMargins(int height, int width);
   void Arrange(Rect area, int width);
 
   void ActivateTopLevel();

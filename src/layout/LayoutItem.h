@@ -18,6 +18,12 @@ class LayoutItem {
   // The bits of an alignment word that concern an axis.
   static constexpr std::uint32_t kHorizontalAlignment = 0x1F;
   static constexpr std::uint32_t kVerticalAlignment = 0x1E0;
+  static constexpr std::uint32_t kAlignLeft = 0x1;
+  static constexpr std::uint32_t kAlignRight = 0x2;
+  static constexpr std::uint32_t kAlignHCenter = 0x4;
+  static constexpr std::uint32_t kAlignTop = 0x20;
+  static constexpr std::uint32_t kAlignBottom = 0x40;
+  static constexpr std::uint32_t kAlignVCenter = 0x80;
 
   LayoutItem() = default;
   LayoutItem(const LayoutItem&) = delete;
@@ -42,8 +48,15 @@ class LayoutItem {
   virtual bool HasHeightForWidth() { return false; }
   // -1 when the height does not depend on the width.
   virtual int HeightForWidth(int) { return -1; }
+  // The least height at that width; -1 likewise.
+  virtual int MinimumHeightForWidth(int) { return -1; }
 
+  // Where the item stands in a cell that is larger than it; 0 fills the cell.
   std::uint32_t Alignment() const { return alignment_; }
+  bool IsAligned(Orientation axis) const {
+    const auto bits = axis == Orientation::Horizontal ? kHorizontalAlignment : kVerticalAlignment;
+    return (alignment_ & bits) != 0;
+  }
   void SetAlignment(std::uint32_t alignment) { alignment_ = alignment; }
 
  private:

@@ -43,9 +43,17 @@ Size Layout::TotalMaximumSize() {
 }
 
 int Layout::TotalHeightForWidth(int width) {
-  const Size margins = WidgetMargins();
-  const int height = HeightForWidth(SaturatedSum(width, -margins.Width()));
-  return SaturatedSum(height, SaturatedSum(margins.Height(), MenuBarHeight(width)));
+  const int inner = SaturatedSum(width, -WidgetMargins().Width());
+  return WithWidgetMargins(HeightForWidth(inner), width);
+}
+
+int Layout::TotalMinimumHeightForWidth(int width) {
+  const int inner = SaturatedSum(width, -WidgetMargins().Width());
+  return WithWidgetMargins(MinimumHeightForWidth(inner), width);
+}
+
+int Layout::WithWidgetMargins(int height, int width) {
+  return SaturatedSum(height, SaturatedSum(WidgetMargins().Height(), MenuBarHeight(width)));
 }
 
 int Layout::MenuBarHeight(int width) {

@@ -1,11 +1,11 @@
 #include "layout/WidgetItem.h"
 
 #include <algorithm>
-#include <cstdint>
 
 #include "BaseGUIObject.h"
 #include "MFC/BaseImpl.h"
 #include "layout/Axis.h"
+#include "layout/CellAlignment.h"
 #include "layout/Layout.h"
 #include "layout/SizeLimits.h"
 #include "layout/WidgetSizes.h"
@@ -28,21 +28,10 @@ bool IsSizedComboBox(BaseGUIObject& widget) {
   return widget.Type() == BaseGUIObject::GuiType::ComboBox && widget.MinimumSize().Height() != 0;
 }
 
-// The widget's place inside a cell.
-Rect PlaceInCell(const Rect& cell, const Size& maximum) {
-  int x = cell.Left();
-  int width = std::min(cell.Width(), maximum.Width());
-  int height = std::min(cell.Height(), maximum.Height());
-  int y = Saturated(cell.Top() + (std::int64_t{cell.Height()} - height) / 2);
-  if (x < 0) {
-    width = SaturatedSum(width, x);
-    x = 0;
-  }
-  if (y < 0) {
-    height = SaturatedSum(height, y);
-    y = 0;
-  }
-  return {x, y, width, height};
+// What lies above or left of the parent's corner is cut off.
+Rect WithoutNegativePart(const Rect& place) {
+  return RectFromEdges(std::max(place.Left(), 0), std::max(place.Top(), 0), place.Right(),
+                       place.Bottom());
 }
 
 }  // namespace
@@ -54,7 +43,7 @@ bool WidgetItem::IsEmpty() {
 
 WidgetItem::WantedSizes WidgetItem::Sizes() {
   const auto sizes = WidgetSizes::Of(*link_.Widget());
-  return {sizes.SmartHint(), sizes.SmartMinimum(), sizes.SmartMaximum(Alignment())};
+  return {sizes.Preferred(), sizes.SmartHint(), sizes.SmartMinimum(), sizes.SmartMaximum(Alignment())};
 }
 
 Orientation WidgetItem::ExpandingDirections() {
@@ -70,7 +59,9 @@ void WidgetItem::SetGeometry(const Rect& rect) {
   if (IsEmpty()) return;
   const WidgetLink link = link_;
   const bool isSizedComboBox = IsSizedComboBox(*link.Widget());
-  const Rect place = PlaceInCell(rect, Sizes().maximum);
+  const WantedSizes sizes = Sizes();
+  const Size size = SizeInCell(*this, rect.GetSize().GetDeflated(sizes.maximum), sizes.preferred);
+  const Rect place = WithoutNegativePart(AlignedInCell(rect, size, Alignment()));
   const int scrolled = isSizedComboBox ? 0 : link.Impl()->ParentScrollOffset();
   const Rect before = link.Impl()->LayoutGeometry();
 
@@ -91,11 +82,20 @@ bool WidgetItem::HasHeightForWidth() {
 
 int WidgetItem::HeightForWidth(int width) {
   if (IsEmpty()) return -1;
-  BaseGUIObject& widget = *link_.Widget();
   Layout* layout = link_.Impl()->Links().layout;
-  int height = layout ? layout->TotalHeightForWidth(width) : link_.Impl()->HeightForWidth(width);
-  height = std::min(height, widget.MaximumSize().Height());
-  return std::max({height, widget.MinimumSize().Height(), 0});
+  return WithinLimits(layout ? layout->TotalHeightForWidth(width)
+                             : link_.Impl()->HeightForWidth(width));
+}
+
+int WidgetItem::MinimumHeightForWidth(int width) {
+  Layout* layout = IsEmpty() ? nullptr : link_.Impl()->Links().layout;
+  return layout ? WithinLimits(layout->TotalMinimumHeightForWidth(width)) : HeightForWidth(width);
+}
+
+int WidgetItem::WithinLimits(int height) const {
+  BaseGUIObject& widget = *link_.Widget();
+  return std::max({std::min(height, widget.MaximumSize().Height()), widget.MinimumSize().Height(),
+                   0});
 }
 
 // -- The cache ------------------------------------------------------------------------------------

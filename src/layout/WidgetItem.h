@@ -18,16 +18,19 @@ class WidgetItem : public LayoutItem {
   Size MinimumSize() override { return IsEmpty() ? Size() : Sizes().minimum; }
   Size MaximumSize() override { return IsEmpty() ? Size() : Sizes().maximum; }
   Orientation ExpandingDirections() override;
-  // Keeps the widget within its maximum: at the left of the rectangle, in the middle of its height.
+  // Keeps the widget within its maximum and, where it is aligned, within its hint; that decides where
+  // in the rectangle it stands.
   void SetGeometry(const Rect& rect) override;
   Rect Geometry() override;
   bool IsEmpty() override;
   BaseGUIObject* Widget() override { return link_.Widget(); }
   bool HasHeightForWidth() override;
   int HeightForWidth(int width) override;
+  int MinimumHeightForWidth(int width) override;
 
  protected:
   struct WantedSizes {
+    Size preferred;
     Size hint;
     Size minimum;
     Size maximum;
@@ -38,6 +41,8 @@ class WidgetItem : public LayoutItem {
   virtual WantedSizes Sizes();
 
  private:
+  int WithinLimits(int height) const;
+
   WidgetLink link_;
 };
 

@@ -41,8 +41,12 @@ WidgetSizes WidgetSizes::Of(BaseGUIObject& widget) {
           widget.GetSizePolicy()};
 }
 
+Size WidgetSizes::Preferred() const {
+  return hint.GetInflated(minimumHint).GetDeflated(maximum).GetInflated(minimum);
+}
+
 Size WidgetSizes::SmartHint() const {
-  Size size = hint.GetInflated(minimumHint).GetDeflated(maximum).GetInflated(minimum);
+  Size size = Preferred();
   if (policy.GetHorizontalPolicy() == SizePolicy::Ignored) size.SetWidth(0);
   if (policy.GetVerticalPolicy() == SizePolicy::Ignored) size.SetHeight(0);
   return size;

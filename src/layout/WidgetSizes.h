@@ -20,7 +20,11 @@ struct WidgetSizes {
   static WidgetSizes Of(BaseGUIObject& widget);
 
   Size SmartHint() const;
+  // The hint, also where the policy ignores it.
+  Size Preferred() const;
   Size SmartMinimum() const;
+  friend bool operator==(const WidgetSizes&, const WidgetSizes&) = default;
+
   // An axis on which the item is aligned may grow without bound.
   Size SmartMaximum(std::uint32_t alignment) const;
 };

@@ -170,6 +170,17 @@ TEST_F(BoxLayoutTest, ReplacesAWidgetInNestedLayoutsAndWidgets) {
   EXPECT_EQ(inGroup->ItemAt(0)->Widget(), &replacement);
 }
 
+TEST_F(BoxLayoutTest, AlignedNestedLayoutKeepsToItsHint) {
+  auto* nested = new HBoxLayout;
+  nested->SetAlignment(LayoutItem::kAlignRight | LayoutItem::kAlignBottom);
+  row_.AddItem(nested);
+  FakeWidget& a = AddTo(*nested, Make({50, 20}, {10, 10}));
+  a->maximum = {60, 30};
+  row_.SetGeometry({0, 0, 200, 100});
+  EXPECT_EQ(a->place, Rect(150, 80, 50, 20));
+  EXPECT_EQ(row_.MaximumSize(), Size(524287, 524287));
+}
+
 // -- Height for width -----------------------------------------------------------------------------
 
 TEST_F(BoxLayoutTest, ColumnGivesTheHeightThatTheWidthNeeds) {
@@ -177,6 +188,10 @@ TEST_F(BoxLayoutTest, ColumnGivesTheHeightThatTheWidthNeeds) {
   FakeWidget& below = AddTo(column_, Make({50, 30}, {10, 30}));
   text->height = [](int width) { return 2000 / width; };
   column_.SetContentsMargins(5, 5, 5, 5);
+  EXPECT_EQ(column_.HeightForWidth(50), 50 + 6 + 30 + 10);
+  below->minimumIdeal = {10, 12};
+  below->Links().layoutItem->InvalidateSizes();
+  EXPECT_EQ(column_.MinimumHeightForWidth(50), 50 + 6 + 12 + 10);
   EXPECT_EQ(column_.HeightForWidth(50), 50 + 6 + 30 + 10);
   column_.SetGeometry({0, 0, 50, 96});
   EXPECT_EQ(text->place, Rect(5, 5, 40, 50));

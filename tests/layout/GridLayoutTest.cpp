@@ -171,6 +171,7 @@ TEST_F(GridLayoutTest, HeightForWidthUsesTheColumnsWidths) {
   text->height = [](int width) { return 5000 / width; };
   EXPECT_EQ(grid_.HeightForWidth(100), 50 + 4 + 20);
   EXPECT_EQ(grid_.HeightForWidth(50), 100 + 4 + 20);
+  EXPECT_EQ(grid_.MinimumHeightForWidth(50), 100 + 4 + 20);
   grid_.SetGeometry({0, 0, 100, 74});
   EXPECT_EQ(text->place, Rect(0, 0, 100, 50));
   EXPECT_EQ(below->place, Rect(0, 54, 47, 20));

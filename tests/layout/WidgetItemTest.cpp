@@ -87,17 +87,43 @@ TEST_F(WidgetItemTest, AnAlignedAxisGrowsWithoutBound) {
   EXPECT_EQ(item.MaximumSize(), Size(524287, 524287));
 }
 
-TEST_F(WidgetItemTest, MaximumPutsTheWidgetLeftAndInTheMiddle) {
-  FakeWidget& widget = Make();
-  widget->maximum = {40, 30};
-  WidgetItem(&widget).SetGeometry({10, 20, 200, 100});
-  EXPECT_EQ(widget->place, Rect(10, 55, 40, 30));
-}
-
-TEST_F(WidgetItemTest, NegativeOriginIsCutOff) {
-  FakeWidget& widget = Make();
-  WidgetItem(&widget).SetGeometry({-10, -5, 100, 50});
-  EXPECT_EQ(widget->place, Rect(0, 0, 90, 45));
+// The hint is 60 by 20, also where the policy ignores it.
+TEST_F(WidgetItemTest, AlignmentAndMaximumDecideThePlaceInTheCell) {
+  constexpr auto kRight = LayoutItem::kAlignRight;
+  constexpr Rect kCell(10, 20, 200, 100);
+  constexpr Size kNone(16777215, 16777215);
+  const struct {
+    std::uint32_t alignment;
+    Size maximum;
+    Rect cell;
+    Rect place;
+  } cases[] = {
+      {0, kNone, kCell, {10, 20, 200, 100}},
+      {0, {40, 30}, kCell, {10, 55, 40, 30}},
+      {0, kNone, {-10, -5, 100, 50}, {0, 0, 90, 45}},
+      {LayoutItem::kAlignLeft, kNone, kCell, {10, 20, 60, 100}},
+      {LayoutItem::kAlignHCenter, kNone, kCell, {80, 20, 60, 100}},
+      {kRight, kNone, kCell, {150, 20, 60, 100}},
+      {kRight, {40, 30}, kCell, {170, 55, 40, 30}},
+      {kRight, kNone, {0, 0, 40, 10}, {0, 0, 40, 10}},
+      {LayoutItem::kAlignTop, kNone, kCell, {10, 20, 200, 20}},
+      {LayoutItem::kAlignVCenter, kNone, kCell, {10, 60, 200, 20}},
+      {LayoutItem::kAlignBottom, kNone, kCell, {10, 100, 200, 20}},
+      {kRight | LayoutItem::kAlignBottom, kNone, kCell, {150, 100, 60, 20}},
+  };
+  for (const auto& c : cases) {
+    FakeWidget& widget = Make({60, 20}, {30, 10});
+    widget->policy = P(P::Ignored, P::Preferred);
+    widget->maximum = c.maximum;
+    WidgetItem item(&widget);
+    item.SetAlignment(c.alignment);
+    item.SetGeometry(c.cell);
+    EXPECT_EQ(widget->place, c.place) << "alignment " << c.alignment;
+    widget->height = [](int width) { return width / 2; };
+    item.SetGeometry(c.cell);
+    if (c.alignment != (kRight | LayoutItem::kAlignBottom)) continue;
+    EXPECT_EQ(widget->place, Rect(150, 90, 60, 30)) << "as high as its width needs";
+  }
 }
 
 TEST_F(WidgetItemTest, ScrolledParentMovesTheWidgetUp) {

@@ -122,6 +122,7 @@ void DialogBuilder::BuildSpacer(const FormNode& node, const Place& place) {
 }
 
 void DialogBuilder::AddToLayout(const FormNode& node, LayoutItem* item, const Place& place) {
+  item->SetAlignment(ItemAlignmentOf(node));
   auto* grid = dynamic_cast<GridLayout*>(place.layout);
   if (!grid) return place.layout->AddItem(item);
   const FormNode::Cell& cell = node.cell;

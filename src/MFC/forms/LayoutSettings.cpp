@@ -5,6 +5,7 @@
 
 #include "MFC/BaseImplMFC.h"
 #include "form/FormModel.h"
+#include "form/FormText.h"
 #include "layout/BoxLayout.h"
 #include "layout/GridLayout.h"
 
@@ -52,7 +53,34 @@ void ApplyGridLists(GridLayout& grid, const FormNode& node) {
                 [&](int column, int value) { grid.SetColumnMinimumWidth(column, Scale(value)); });
 }
 
+struct AlignmentWord {
+  std::wstring_view word;
+  std::uint32_t bits;
+};
+
+// In a window from right to left the leading side is the right one, and so is "left".
+constexpr AlignmentWord kAlignmentWords[] = {
+    {L"Qt::AlignLeft", LayoutItem::kAlignLeft},
+    {L"Qt::AlignLeading", LayoutItem::kAlignLeft},
+    {L"Qt::AlignRight", LayoutItem::kAlignRight},
+    {L"Qt::AlignTrailing", LayoutItem::kAlignRight},
+    {L"Qt::AlignHCenter", LayoutItem::kAlignHCenter},
+    {L"Qt::AlignTop", LayoutItem::kAlignTop},
+    {L"Qt::AlignBottom", LayoutItem::kAlignBottom},
+    {L"Qt::AlignVCenter", LayoutItem::kAlignVCenter},
+    {L"Qt::AlignCenter", LayoutItem::kAlignHCenter | LayoutItem::kAlignVCenter},
+};
+
 }  // namespace
+
+std::uint32_t ItemAlignmentOf(const FormNode& node) {
+  const std::wstring* text = node.Extra(L"itemAlignment");
+  std::uint32_t alignment = 0;
+  if (!text) return alignment;
+  for (const auto& [word, bits] : kAlignmentWords)
+    if (HasEnumWord(*text, word)) alignment |= bits;
+  return alignment;
+}
 
 void ApplyLayoutSettings(Layout& layout, const FormNode& node) {
   if (const auto spacing = node.Integer(PropertyId::Spacing)) layout.SetSpacing(Scale(*spacing));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 namespace Wexa {
 
 class FormNode;
@@ -9,5 +11,7 @@ class Layout;
 void ApplyLayoutSettings(Layout& layout, const FormNode& node);
 // Stretches and minimums of rows, columns or entries; after the children are in.
 void ApplyLayoutLists(Layout& layout, const FormNode& node);
+// How the item of that node stands in its cell, as LayoutItem has it.
+std::uint32_t ItemAlignmentOf(const FormNode& node);
 
 }  // namespace Wexa
