@@ -37,7 +37,10 @@ BaseGUIObject::BaseGUIObject(GuiType type)
 BaseGUIObject::~BaseGUIObject() = default;
 
 void BaseGUIObject::ReleaseImpl() {
-  if (auto impl = GetBaseImpl()) impl->Release();
+  const auto impl = GetBaseImpl();
+  if (!impl) return;
+  impl->Links().released = true;
+  impl->Release();
 }
 
 void BaseGUIObject::SetEventProcedure(const EventHandler& procedure) {

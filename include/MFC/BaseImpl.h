@@ -17,6 +17,7 @@ class CWnd;
 
 namespace Wexa {
 
+class ChildArranger;
 class Layout;
 class WidgetItemV2;
 struct FontData;
@@ -35,6 +36,7 @@ struct LayoutLinks {
   ExplicitAxes explicitMinimum;
   ExplicitAxes explicitMaximum;
   std::int16_t contentsMargins[4] = {0, 0, 0, 0};  // left, top, right, bottom
+  bool released = false;                           // the widget is going or gone
 };
 
 // The interface that every widget's implementation fulfils. Operations that need the native window
@@ -107,6 +109,8 @@ class WEXA_API BaseImpl {
   virtual Rect LayoutGeometry() = 0;
   // Asks for LayoutRequest later, through the window's queue; false without a native window.
   virtual bool PostLayoutRequest() = 0;
+  // The widget as what places its children without a layout; null when it does not.
+  virtual ChildArranger* AsArranger() { return nullptr; }
   // How far the native parent is scrolled down, in pixels.
   virtual int ParentScrollOffset() = 0;
   // Gives the widget exactly this size.

@@ -120,6 +120,8 @@ class BaseImplMFC : public BaseImpl {
   virtual void UpdateLayout();
   // The widget's content changed size: the layout that holds it has to look again.
   void InvalidateLayout();
+  // The pass that was asked for with PostLayoutRequest.
+  virtual void PlaceAsRequested();
   void SetSkinManager(const SkinManager& skin) { skinManager_ = skin; }
   // Destroys the layout with its items, before the widgets that they place.
   void DeleteLayout();

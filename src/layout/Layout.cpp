@@ -11,6 +11,7 @@
 #include "layout/CellAlignment.h"
 #include "layout/SizeLimits.h"
 #include "layout/WidgetItem.h"
+#include "layout/WidgetTree.h"
 
 namespace Wexa {
 
@@ -88,13 +89,13 @@ void Layout::LetGo(LayoutItem& item) {
   if (auto* widgetItem = dynamic_cast<WidgetItemV2*>(&item)) widgetItem->SetOwner(nullptr);
 }
 
-BaseGUIObject* Layout::ParentWidget() const {
 void Layout::PlaceItem(LayoutItem& item, const Rect& cell) {
   if (!item.AsLayout() || item.Alignment() == 0) return item.SetGeometry(cell);
   const Size size = SizeInCell(item, cell.GetSize(), item.SizeHint());
   item.SetGeometry(AlignedInCell(cell, size, item.Alignment()));
 }
 
+BaseGUIObject* Layout::ParentWidget() const {
   const Layout* layout = this;
   while (!layout->isTopLevel_ && layout->parentLayout_) layout = layout->parentLayout_;
   return layout->isTopLevel_ ? layout->parentWidget_.Widget() : nullptr;

@@ -3,9 +3,11 @@
 #include "BaseGUIObject.h"
 #include "Event.h"
 #include "MFC/BaseImpl.h"
+#include "layout/ChildArranger.h"
 #include "layout/Layout.h"
 #include "layout/SizeLimits.h"
 #include "layout/WidgetItem.h"
+#include "layout/WidgetTree.h"
 
 namespace Wexa {
 
@@ -68,23 +70,21 @@ bool Layout::BelongsToChildDialog() const {
   return widget && IsA(*widget, BaseGUIObject::GuiType::ChildDialog);
 }
 
-// A child dialog is placed in the pass of what holds it.
+// A child dialog is placed in the pass of what holds it. What holds the widget without any layout
+// around is asked itself.
 void Layout::PostRequest() {
   if (!isTopLevel_ || !parentWidget_) return;
-  if (!BelongsToChildDialog()) {
-    if (!requestPosted_) requestPosted_ = parentWidget_.Impl()->PostLayoutRequest();
-  } else if (WidgetItemV2* item = NearestItemOf(parentWidget_.Widget())) {
-    item->InvalidateSizeCache();
-  }
+  const BaseGUIObject& widget = *parentWidget_.Widget();
+  ForgetSizesFrom(&widget);
+  if (!BelongsToChildDialog() && !requestPosted_)
+    requestPosted_ = parentWidget_.Impl()->PostLayoutRequest();
+  const Holders holders = Holders::Of(widget);
+  if (holders.outermost && !holders.layout) ArrangerOf(holders.outermost)->RequestArrangement();
 }
 
 Layout* Layout::NextToRequest() const {
   if (!isTopLevel_) return parentLayout_;
-  BaseGUIObject* widget = parentWidget_.Widget();
-  BaseGUIObject* holder = widget ? ParentWidgetOf(*widget) : nullptr;
-  Layout* layout = LayoutOf(holder);
-  if (layout || !holder || !BelongsToChildDialog()) return layout;
-  return LayoutOf(ParentWidgetOf(*holder));
+  return parentWidget_ ? Holders::Of(*parentWidget_.Widget()).layout : nullptr;
 }
 
 void Layout::MarkDirtyUpward() {
@@ -202,16 +202,19 @@ void Layout::ApplyDefaultConstraint() {
                        fixed.height ? current.Height() : other.Height()});
 }
 
-// The widget may ask for other sizes than before: what holds it takes that into account.
+// The widget may ask for other sizes than before: what holds it takes that into account. What knows
+// them already is not asked again, or two passes would call each other for ever.
 void Layout::UpdateWidgetGeometry() {
   BaseGUIObject& widget = *parentWidget_.Widget();
   if (WidgetItemV2* item = parentWidget_.Impl()->Links().layoutItem) item->InvalidateSizeCache();
   if (IsA(widget, BaseGUIObject::GuiType::Dialog) || !widget.IsVisible()) return;
   BaseGUIObject* parent = ParentWidgetOf(widget);
+  ChildArranger* arranger = ArrangerOf(parent);
   if (Layout* holder = LayoutOf(parent)) {
     holder->Invalidate(true);
-  } else if (parent && parent->IsVisible()) {
-    RequestUpdate(true);
+  } else if (arranger && !arranger->AgreesWith(widget)) {
+    ForgetSizesFrom(&widget);
+    RequestPassAround(&widget);
   }
 }
 

@@ -9,6 +9,7 @@
 #include "layout/Layout.h"
 #include "layout/SizeLimits.h"
 #include "layout/WidgetSizes.h"
+#include "layout/WidgetTree.h"
 
 namespace Wexa {
 
@@ -144,14 +145,16 @@ int WidgetItemV2::HeightForWidth(int width) {
   return height;
 }
 
+void WidgetItemV2::ForgetSizes() {
+  sizes_.reset();
+  heights_.Clear();
+}
+
 void WidgetItemV2::InvalidateSizeCache() {
-  for (WidgetItemV2* item = this; item;) {
-    item->sizes_.reset();
-    item->heights_.Clear();
-    if (!item->owner_) return;
-    item->owner_->MarkDirtyUpward();
-    item = NearestItemOf(item->owner_->ParentWidget());
-  }
+  ForgetSizes();
+  if (!owner_) return;
+  owner_->MarkDirtyUpward();
+  ForgetSizesFrom(owner_->ParentWidget());
 }
 
 void WidgetItemV2::InvalidateSizes() {

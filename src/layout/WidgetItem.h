@@ -74,6 +74,8 @@ class WidgetItemV2 : public WidgetItem {
 
   int HeightForWidth(int width) override;
 
+  // Forgets the sizes of this item.
+  void ForgetSizes();
   // Forgets the sizes, and those of all that holds the widget, up to the top.
   void InvalidateSizeCache();
   // The widget asks for other sizes than before: the layouts take it into account in a new pass.

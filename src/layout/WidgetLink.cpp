@@ -12,22 +12,9 @@ WidgetLink::WidgetLink(BaseGUIObject* widget) : widget_(widget) {
   life_ = impl;
 }
 
-BaseGUIObject* ParentWidgetOf(const BaseGUIObject& widget) {
-  return dynamic_cast<BaseGUIObject*>(widget.GetParent());
-}
-
-WidgetItemV2* NearestItemOf(const BaseGUIObject* widget) {
-  for (; widget; widget = ParentWidgetOf(*widget)) {
-    const auto impl = widget->GetBaseImpl();
-    if (impl && impl->Links().layoutItem) return impl->Links().layoutItem;
-  }
-  return nullptr;
-}
-
-Layout* LayoutOf(const BaseGUIObject* widget) {
-  if (!widget) return nullptr;
-  const auto impl = widget->GetBaseImpl();
-  return impl ? impl->Links().layout : nullptr;
+// A running operation may hold the implementation of a widget that is gone.
+WidgetLink::operator bool() const {
+  return !life_.expired() && !impl_->Links().released;
 }
 
 }  // namespace Wexa

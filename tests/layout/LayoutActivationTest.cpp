@@ -151,6 +151,7 @@ TEST_F(LayoutActivationTest, ChildDialogIsPlacedWithWhatHoldsIt) {
 // A tab page is no item of a layout: its view hands it its place.
 TEST_F(LayoutActivationTest, PageOfAViewFollowsItsOwnChanges) {
   FakeWidget& view = AddTo(*layout_, Make(Gui::TabView));
+  view->arranges = true;
   FakeWidget& page = MakeIn(view, Gui::ChildDialog);
   auto* inPage = new HBoxLayout(&page);
   auto* nested = new HBoxLayout(inPage);
@@ -166,6 +167,49 @@ TEST_F(LayoutActivationTest, PageOfAViewFollowsItsOwnChanges) {
     page.MoveWindow(0, 0, 100, 50, true);
     EXPECT_EQ(label->place, Rect(spacing, 0, 100 - spacing, 50));
   }
+}
+
+// What places a widget without a layout is asked when the widget asks it for something else.
+TEST_F(LayoutActivationTest, HolderIsAskedOnlyForWhatItDoesNotKnow) {
+  FakeWidget& outer = AddTo(*layout_, Make(Gui::Splitter));
+  FakeWidget& splitter = MakeIn(outer, Gui::Splitter);
+  outer->arranges = splitter->arranges = true;
+  FakeWidget& group = MakeIn(splitter, Gui::GroupBox);
+  auto* inGroup = new HBoxLayout(&group);
+  for (const bool agrees : {true, false}) {
+    inGroup->SetSpacing(agrees ? 1 : 2);
+    DeliverRequest(dialog_);
+    dialog_->posts = 0;
+    splitter->agrees = agrees;
+    DeliverRequest(group);
+    EXPECT_EQ(dialog_->posts, agrees ? 0 : 1);
+  }
+  EXPECT_GT(splitter->forgotten, 0);
+}
+
+TEST_F(LayoutActivationTest, OutermostHolderPlacesAgainWhereNoLayoutIsAround) {
+  FakeWidget bare(Gui::Dialog);
+  FakeWidget outer(Gui::Splitter, &bare);
+  FakeWidget inner(Gui::TabView, &outer);
+  outer->arranges = inner->arranges = true;
+  FakeWidget page(Gui::ChildDialog, &inner);
+  auto* layout = new HBoxLayout(&page);
+  outer->arrangements = 0;
+  layout->SetSpacing(3);
+  EXPECT_EQ(outer->arrangements, 1);
+  EXPECT_EQ(inner->arrangements, 0);
+  EXPECT_EQ(page->posts, 0);
+}
+
+TEST_F(LayoutActivationTest, PassInAPlainParentAsksForNoOther) {
+  FakeWidget bare(Gui::Dialog);
+  FakeWidget group(Gui::GroupBox, &bare);
+  auto* layout = new HBoxLayout(&group);
+  DeliverRequest(group);
+  group->posts = 0;
+  layout->Invalidate(true);
+  DeliverRequest(group);
+  EXPECT_EQ(group->posts, 1);
 }
 
 TEST_F(LayoutActivationTest, LayoutBuiltBeforeItsWindowGetsItsPassLater) {

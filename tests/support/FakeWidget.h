@@ -6,6 +6,7 @@
 
 #include "BaseGUIObject.h"
 #include "Event.h"
+#include "layout/ChildArranger.h"
 #include "layout/Layout.h"
 #include "layout/SizeLimits.h"
 #include "support/engine/StubImpl.h"
@@ -13,7 +14,7 @@
 namespace Wexa {
 
 // A widget without a window that says what it is told to say, and counts what is done to it.
-class FakeImpl : public StubImpl {
+class FakeImpl : public StubImpl, public ChildArranger {
  public:
   ~FakeImpl() override { delete Links().layout; }
 
@@ -55,10 +56,16 @@ class FakeImpl : public StubImpl {
     return hasWindow;
   }
   int ParentScrollOffset() override { return scrolled; }
+  ChildArranger* AsArranger() override { return arranges ? this : nullptr; }
+  void ForgetSizes() override { ++forgotten; }
+  bool AgreesWith(BaseGUIObject&) override { return agrees; }
+  void RequestArrangement() override { ++arrangements; }
   void RefreshDropDownSelection() override { ++dropDownRefreshes; }
 
   bool visible = true;
   bool hasWindow = true;
+  bool arranges = false;  // its children itself
+  bool agrees = true;     // with the sizes of a child
   Size ideal{50, 20};
   Size minimumIdeal{10, 10};
   Size minimum;
@@ -74,6 +81,8 @@ class FakeImpl : public StubImpl {
   int updates = 0;
   int posts = 0;
   int dropDownRefreshes = 0;
+  int forgotten = 0;
+  int arrangements = 0;
 };
 
 inline void FakeImpl::MoveWindow(int x, int y, int width, int height, bool) {

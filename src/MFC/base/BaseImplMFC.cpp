@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "BaseGUIObject.h"
+#include "Event.h"
 #include "MFC/EventDispatch.h"
 #include "MFC/base/DialogFont.h"
 #include "MFC/base/WidgetColors.h"
@@ -11,7 +12,7 @@
 #include "WexaUtils.h"
 #include "layout/Layout.h"
 #include "layout/SizeLimits.h"
-#include "layout/WidgetItem.h"
+#include "layout/WidgetTree.h"
 #include "platform/Postponed.h"
 #include "platform/Theme.h"
 
@@ -230,7 +231,15 @@ void BaseImplMFC::UpdateLayout() {
 }
 
 void BaseImplMFC::InvalidateLayout() {
-  if (WidgetItemV2* item = NearestItemOf(owner_)) item->InvalidateSizes();
+  ForgetSizesFrom(owner_);
+  RequestPassAround(owner_);
+}
+
+void BaseImplMFC::PlaceAsRequested() {
+  if (!Links().layout) return;
+  Event request(Event::LayoutRequest);
+  Links().layout->WidgetEvent(&request);
+  if (GetHandle() && Links().layout) Links().layout->ClearRequestPosted();
 }
 
 bool BaseImplMFC::PostLayoutRequest() {

@@ -323,12 +323,8 @@ class EventDispatch {
   }
 
   LRESULT OnUpdateLayouts() {
-    if (Layout* layout = impl_.Links().layout) {
-      Event request(Event::LayoutRequest);
-      layout->WidgetEvent(&request);
-      if (!IsAlive()) return kHandled;
-      layout->ClearRequestPosted();
-    }
+    impl_.PlaceAsRequested();
+    if (!IsAlive()) return kHandled;
     return Offer(LayoutsUpdatedEvent()) ? kHandled : 0;
   }
 
