@@ -1,5 +1,7 @@
 #include "preview/Preview.h"
 
+#include <stdexcept>
+
 #include "platform/Classes.h"
 #include "platform/Picture.h"
 #include "preview/FormFiles.h"
@@ -25,7 +27,16 @@ void Preview::Paint() {
 
 void Preview::Resize(Wexa::Size client) {
   Impl().ResizeClient(client.Width(), client.Height());
-  AfxPumpPending();
+  Settle();
+}
+
+void Preview::Settle() {
+  constexpr int kMostMessages = 200000;
+  MSG message{};
+  for (int i = 0; PeekMessageW(&message, PM_NOREMOVE) && message.message != WM_QUIT; ++i) {
+    if (i == kMostMessages) throw std::runtime_error("The dialog does not come to rest.");
+    if (!AfxPumpMessage()) return;
+  }
 }
 
 void Preview::SavePicture(const std::string& png) {

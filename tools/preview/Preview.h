@@ -21,6 +21,8 @@ class Preview {
   void Show();
   // Paints what is due and shows it.
   void Paint();
+  // Handles all that waits. Throws std::runtime_error when that goes on without an end.
+  void Settle();
   // Gives the client area this size in pixels as far as the dialog's limits allow.
   void Resize(Wexa::Size client);
   // Paints the window with its frame into a PNG file.

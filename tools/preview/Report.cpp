@@ -34,6 +34,7 @@ Timing Exercise(Preview& preview, const Options& options) {
   Timing timing;
   timing.layout = MillisecondsOf([&] { preview.Show(); });
   timing.paint = MillisecondsOf([&] { preview.Paint(); });
+  preview.Settle();
   for (const Wexa::Size& size : options.sizes) preview.Resize(size);
   return timing;
 }

@@ -32,6 +32,7 @@ void WriteText(const std::string& text, const std::string& path) {
 void WriteFiles(const Options& options, const std::string& file) {
   Preview preview(file);
   preview.Show();
+  preview.Settle();
   if (!options.dump.empty()) {
     const std::string name = std::filesystem::path(file).stem().string();
     WriteText(DumpText(preview, name, options.sizes), options.dump);
