@@ -44,7 +44,8 @@ bool WidgetItem::IsEmpty() {
 
 WidgetItem::WantedSizes WidgetItem::Sizes() {
   const auto sizes = WidgetSizes::Of(*link_.Widget());
-  return {sizes.Preferred(), sizes.SmartHint(), sizes.SmartMinimum(), sizes.SmartMaximum(Alignment())};
+  return {sizes.Preferred(), sizes.SmartHint(), sizes.SmartMinimum(),
+          sizes.SmartMaximum(Alignment())};
 }
 
 Orientation WidgetItem::ExpandingDirections() {
@@ -95,8 +96,8 @@ int WidgetItem::MinimumHeightForWidth(int width) {
 
 int WidgetItem::WithinLimits(int height) const {
   BaseGUIObject& widget = *link_.Widget();
-  return std::max({std::min(height, widget.MaximumSize().Height()), widget.MinimumSize().Height(),
-                   0});
+  return std::max(
+      {std::min(height, widget.MaximumSize().Height()), widget.MinimumSize().Height(), 0});
 }
 
 // -- The cache ------------------------------------------------------------------------------------

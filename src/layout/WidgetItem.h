@@ -18,8 +18,8 @@ class WidgetItem : public LayoutItem {
   Size MinimumSize() override { return IsEmpty() ? Size() : Sizes().minimum; }
   Size MaximumSize() override { return IsEmpty() ? Size() : Sizes().maximum; }
   Orientation ExpandingDirections() override;
-  // Keeps the widget within its maximum and, where it is aligned, within its hint; that decides where
-  // in the rectangle it stands.
+  // Keeps the widget within its maximum and, where it is aligned, within its hint; that decides
+  // where in the rectangle it stands.
   void SetGeometry(const Rect& rect) override;
   Rect Geometry() override;
   bool IsEmpty() override;

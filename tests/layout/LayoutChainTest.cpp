@@ -72,7 +72,11 @@ TEST(LayoutChainTest, Examples) {
        {72, 144, 72},
        {0, 78, 228}},
       {"a shortfall is taken equally", {plain, plain, plain}, 90, {26, 26, 26}, {0, 32, 64}},
-      {"minimums are kept", {Slot(50, 45, kUnbounded), plain, plain}, 112, {45, 27, 28}, {0, 51, 84}},
+      {"minimums are kept",
+       {Slot(50, 45, kUnbounded), plain, plain},
+       112,
+       {45, 27, 28},
+       {0, 51, 84}},
       {"the largest minimums are cut first",
        {plain, Slot(50, 20, kUnbounded), Slot(50, 30, kUnbounded)},
        20,
@@ -90,7 +94,11 @@ TEST(LayoutChainTest, Examples) {
        {40, 130, 130},
        {0, 46, 182}},
       {"unused space widens gaps and ends", {fixed, fixed}, 76, {20, 20}, {10, 46}},
-      {"expansive slots take all", {small, Expansive(small), small}, 200, {20, 148, 20}, {0, 26, 180}},
+      {"expansive slots take all",
+       {small, Expansive(small), small},
+       200,
+       {20, 148, 20},
+       {0, 26, 180}},
       {"a hint below its minimum counts",
        {Slot(0, 40, kUnbounded), Expansive(plain)},
        146,
@@ -208,10 +216,15 @@ TEST(CrossMaximumTest, MergesItemAfterItem) {
     CrossMaximum start;
     std::vector<Merge> merges;
   } cases[] = {
-      {{100, false, true}, {{200, false, false, 200}, {80, false, false, 80}, {90, false, false, 80}}},
-      {{80, false, false}, {{300, true, false, 300}, {900, false, false, 300}, {400, true, false, 400}}},
+      {{100, false, true},
+       {{200, false, false, 200}, {80, false, false, 80}, {90, false, false, 80}}},
+      {{80, false, false},
+       {{300, true, false, 300}, {900, false, false, 300}, {400, true, false, 400}}},
       {{0, false, true},
-       {{70, false, true, 70}, {50, false, true, 50}, {400, false, false, 400}, {5, false, true, 400}}},
+       {{70, false, true, 70},
+        {50, false, true, 50},
+        {400, false, false, 400},
+        {5, false, true, 400}}},
   };
   for (auto [cross, merges] : cases) {
     for (const Merge& merge : merges) {
