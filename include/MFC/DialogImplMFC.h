@@ -69,6 +69,7 @@ class Dialog::impl : public BaseImplMFC {
   void OnCloseRequest();
   bool OnSetCursor();
   void OnGetMinMaxInfo(MINMAXINFO& info);
+  void OnPositionChanging(WINDOWPOS& request);
 
  protected:
   bool CreateNative(CWnd* parent) override;
@@ -81,6 +82,10 @@ class Dialog::impl : public BaseImplMFC {
   void SettleStyle();
   void SizeToClient();
   void CreateElements();
+  void CreateElement(std::shared_ptr<BaseGUIObject> widget);
+  void AttachSelf();
+  void Centre();
+  void ShowFirstTime();
   void ApplyTabOrder();
   void ArrangeFirstTime();
   void ArrangeLayout(Layout& layout);

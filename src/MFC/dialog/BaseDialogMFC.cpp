@@ -32,6 +32,11 @@ LRESULT BaseDialogMFC::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETMINMAXINFO:
       if (lParam) impl_.OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
       return 0;
+    case WM_WINDOWPOSCHANGING: {
+      const LRESULT result = CDialogEx::WindowProc(message, wParam, lParam);
+      if (lParam) impl_.OnPositionChanging(*reinterpret_cast<WINDOWPOS*>(lParam));
+      return result;
+    }
     default: break;
   }
   return CDialogEx::WindowProc(message, wParam, lParam);

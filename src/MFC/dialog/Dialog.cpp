@@ -48,7 +48,8 @@ int Dialog::DoModal() {
 
 void Dialog::DoModeless(CWnd* parent, bool show) {
   modal_ = false;
-  impl_->DoModeless(parent, show);
+  const auto held = impl_;
+  held->DoModeless(parent, show);
 }
 
 void Dialog::DoModeless(bool show) {

@@ -128,14 +128,14 @@ int Dialog::impl::DoModal() {
   window_->InitModalIndirect(&Template(), parentWindow_);
   wasInitialized_ = false;
   auto result = static_cast<int>(window_->DoModal());
-  if (!wasInitialized_) ThrowNotCreated();
+  if (!wasInitialized_ && Owner()) ThrowNotCreated();
   return result;
 }
 
 void Dialog::impl::DoModeless(CWnd* parent, bool show) {
   MakeWindow();
   if (!show) Template().style &= ~WS_VISIBLE;
-  if (!window_->CreateIndirect(&Template(), parent)) ThrowNotCreated();
+  if (!window_->CreateIndirect(&Template(), parent) && Owner()) ThrowNotCreated();
 }
 
 bool Dialog::impl::CreateNative(CWnd* parent) {
@@ -208,9 +208,19 @@ void Dialog::impl::SetFixedSize(Size size) {
 void Dialog::impl::OnGetMinMaxInfo(MINMAXINFO& info) {
   Size frame = FrameSize();
   Size least = WithinSurfaceLimits(MinimumSize());
-  Size most = WithinSurfaceLimits(MaximumSize());
+  Size most = MaximumSize().GetDeflated({kLargestSide, kLargestSide}).GetInflated({1, 1});
   info.ptMinTrackSize = {least.Width() + frame.Width(), least.Height() + frame.Height()};
   info.ptMaxTrackSize = {most.Width() + frame.Width(), most.Height() + frame.Height()};
+}
+
+// The largest width and the largest height are not to be had together.
+void Dialog::impl::OnPositionChanging(WINDOWPOS& request) {
+  if (request.flags & SWP_NOSIZE) return;
+  const Size frame = FrameSize();
+  const Size client =
+      WithinSurfaceLimits({request.cx - frame.Width(), request.cy - frame.Height()});
+  request.cx = std::min(request.cx, client.Width() + frame.Width());
+  request.cy = std::min(request.cy, client.Height() + frame.Height());
 }
 
 // -- Skin

@@ -15,6 +15,7 @@
 #include "Utf16.h"
 #include "WexaConfig.h"
 #include "WexaException.h"
+#include "layout/ChildArranger.h"
 #include "layout/Layout.h"
 #include "platform/ControlConstants.h"
 
@@ -59,24 +60,35 @@ void Dialog::impl::BuildTemplate() {
 // -- Initialisation
 
 bool Dialog::impl::OnInitDialog() {
+  const auto held = Owner()->GetBaseImpl();  // a handler may destroy the dialog in any step
+  for (const auto step :
+       {&impl::SettleStyle, &impl::SizeToClient, &impl::CreateElements, &impl::AttachSelf,
+        &impl::ApplyTabOrder, &impl::ArrangeFirstTime, &impl::Centre, &impl::ShowFirstTime}) {
+    (this->*step)();
+    if (!GetHandle() || !Owner()) return false;
+  }
   auto& dialog = *static_cast<Dialog*>(Owner());
-  dialog.SetTopLevelDlg(window_.get());
-  SettleStyle();
-  SizeToClient();
-  CreateElements();
-  AttachWindowProcedure(*Owner(), GetHandle());
-  ApplyTabOrder();
-  ArrangeFirstTime();
-  if ((Creation().style & kNoCentering) == 0) window_->CenterWindow();
-  Update();
-  ChooseDefaultButton();
-  SettleFrame();
-  RefreshSkinColors();
   dialog.initialized_ = true;
   wasInitialized_ = true;
   HWND window = GetHandle();
   if (!dialog.InitializeControls() && IsWindow(window)) Done(Rejected);
   return IsWindow(window) && !FocusedElement();
+}
+
+void Dialog::impl::AttachSelf() {
+  Owner()->SetTopLevelDlg(window_.get());
+  AttachWindowProcedure(*Owner(), GetHandle());
+}
+
+void Dialog::impl::Centre() {
+  if ((Creation().style & kNoCentering) == 0) window_->CenterWindow();
+}
+
+void Dialog::impl::ShowFirstTime() {
+  Update();
+  ChooseDefaultButton();
+  SettleFrame();
+  RefreshSkinColors();
 }
 
 void Dialog::impl::SettleStyle() {
@@ -95,18 +107,23 @@ void Dialog::impl::SizeToClient() {
                         SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
 }
 
+// Containers move what they have already: a handler may destroy the dialog with its elements.
 void Dialog::impl::CreateElements() {
-  for (Element& element : elements_) {
-    BaseGUIObject& widget = *element.widget;
-    BaseImplMFC& parent = *ImplOf(static_cast<BaseGUIObject*>(widget.GetParent()));
-    HWND holder = parent.HolderOf(widget);
-    widget.SetTopLevelDlg(window_.get());
-    widget.SetParentWindow(holder);
-    if (!widget.Create(holder))
-      throw WexaException("src/MFC/DialogImplMFC", __LINE__,
-                          "Cannot create dialog from dialog template data.");
-    parent.OnChildCreated(widget);
-  }
+  for (std::size_t i = 0; i < elements_.size(); ++i) CreateElement(elements_[i].widget);
+}
+
+void Dialog::impl::CreateElement(std::shared_ptr<BaseGUIObject> widget) {
+  const auto parent = static_cast<BaseGUIObject*>(widget->GetParent())->GetBaseImpl();
+  auto& holder = static_cast<BaseImplMFC&>(*parent);
+  const HWND window = holder.HolderOf(*widget);
+  widget->SetTopLevelDlg(window_.get());
+  widget->SetParentWindow(window);
+  const bool created = widget->Create(window);
+  if (!GetHandle()) return;
+  if (!created)
+    throw WexaException("src/MFC/DialogImplMFC", __LINE__,
+                        "Cannot create dialog from dialog template data.");
+  holder.OnChildCreated(*widget);
 }
 
 // Siblings are put in the order in which the form's tab stops first reach into them; those that no
@@ -133,13 +150,18 @@ void Dialog::impl::ApplyTabOrder() {
 }
 
 // Sizes and places from before all windows were there mean nothing. What no layout places, the form
-// does; it shares out its place by itself.
+// does; it shares out its place by itself. A handler of a widget that moves may destroy the dialog
+// with its elements.
 void Dialog::impl::ArrangeFirstTime() {
-  for (Element& element : elements_)
-    if (Layout* layout = ImplOf(element.widget.get())->Links().layout) layout->StartAgain();
-  if (Layout* layout = Links().layout) ArrangeLayout(*layout);
   for (Element& element : elements_) {
     BaseImplMFC& widget = *ImplOf(element.widget.get());
+    if (ChildArranger* arranger = widget.AsArranger()) arranger->ForgetSizes();
+    if (Layout* layout = widget.Links().layout) layout->StartAgain();
+  }
+  if (Layout* layout = Links().layout) ArrangeLayout(*layout);
+  for (std::size_t i = 0; i < elements_.size() && GetHandle(); ++i) {
+    const auto held = elements_[i].widget->GetBaseImpl();
+    auto& widget = static_cast<BaseImplMFC&>(*held);
     if (!widget.Links().layoutItem && widget.IsVisible()) widget.UpdateLayout();
   }
 }
@@ -149,9 +171,10 @@ void Dialog::impl::ArrangeFirstTime() {
 void Dialog::impl::ArrangeLayout(Layout& layout) {
   layout.RequestUpdate(false);
   layout.Activate();
+  if (!GetHandle()) return;
   const Size least = layout.TotalMinimumSize().GetInflated(MinimumSize());
   int width = std::max(clientSize.Width(), least.Width());
-  int height = layout.HasHeightForWidth() ? layout.TotalHeightForWidth(width) : 0;
+  int height = layout.HasHeightForWidth() ? layout.TotalMinimumHeightForWidth(width) : 0;
   ResizeClient(width, std::max({clientSize.Height(), least.Height(), height}));
 }
 

@@ -4,6 +4,7 @@
 
 #include "ButtonBox.h"
 #include "Edit.h"
+#include "MFC/DialogImplMFC.h"
 #include "WexaException.h"
 #include "support/DialogTest.h"
 
@@ -26,6 +27,32 @@ TEST_F(DialogTest, DoModalReturnsTheStateItWasEndedWith) {
   EXPECT_EQ(dialog.GetWndPtr(), nullptr);
   dialog.step = [&] { dialog.Done(Dialog::Accepted); };
   EXPECT_EQ(dialog.DoModal(), Dialog::Accepted) << "it can be shown again";
+}
+
+// Between its minimum and what its layout would like.
+TEST_F(DialogTest, ADialogOpensAtTheHeightThatItsFormAsksFor) {
+  const std::string wrapped = PropertyXml("wordWrap", "bool", "true");
+  Open(ColumnForm(TextWidget("QLabel", "text", "a few words", wrapped) +
+                      ItemXml("<layout class=\"QGridLayout\"><item row=\"0\" column=\"0\">" +
+                              WidgetXml("QLabel", "deep", wrapped) + "</item><item row=\"1\">" +
+                              WidgetXml("QTextEdit", "edit") + "</item></layout>"),
+                  300, 170));
+  EXPECT_EQ(dialog_->GetClientRect().GetSize(), Size(300, 170));
+  Open(ColumnForm(TextWidget("QLabel", "text", std::string(600, 'a') + " b", wrapped), 100, 20));
+  EXPECT_GT(dialog_->GetClientRect().Height(), 20);
+}
+
+// A surface has a largest number of pixels, not a largest height.
+TEST_F(DialogTest, TheSizeAskedForIsBoundedByItsPixels) {
+  Open(ColumnForm(LineEdit("edit")));
+  MINMAXINFO info{};
+  SendMessageW(dialog_->GetHandle(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+  EXPECT_GT(info.ptMaxTrackSize.y, 16000);
+  dialog_->GetImpl()->ResizeClient(400, 5000);
+  EXPECT_EQ(dialog_->GetClientRect().Height(), 5000);
+  WINDOWPOS request{dialog_->GetHandle(), nullptr, 0, 0, 16000, 16000, SWP_NOMOVE};
+  SendMessageW(dialog_->GetHandle(), WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&request));
+  EXPECT_LT(request.cy, 2200);
 }
 
 TEST_F(DialogTest, AFilterKeepsTheDialogOpenButDoesNotChangeTheState) {
