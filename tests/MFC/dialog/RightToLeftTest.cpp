@@ -106,6 +106,15 @@ TEST_F(RightToLeftTest, AreasAreScrolledByABarAtTheirLeft) {
   EXPECT_LT(Area(L"content").top, content.top);
 }
 
+TEST_F(RightToLeftTest, LeadingItemsStandAtTheRightOfTheirCells) {
+  Open(ColumnForm(ItemXml(WidgetXml("QLabel", "leading"), "alignment=\"Qt::AlignLeft\"") +
+                  ItemXml(WidgetXml("QPushButton", "trailing"), "alignment=\"Qt::AlignTrailing\"") +
+                  ItemXml(WidgetXml("QLineEdit", "wide"))));
+  EXPECT_EQ(Area(L"leading").right, Area(L"wide").right);
+  EXPECT_EQ(Area(L"trailing").left, Area(L"wide").left);
+  EXPECT_LT(Area(L"trailing").Width(), Area(L"wide").Width());
+}
+
 TEST_F(RightToLeftTest, TextsBeginAtTheRight) {
   for (const std::string className : {"QLabel", "QLineEdit", "QCheckBox"}) {
     OpenRow(TextWidget(className, "widget", "שלום"));

@@ -208,6 +208,24 @@ TEST_F(BuilderTest, PagesAndPanesAreAddedInTheirOrder) {
   EXPECT_EQ(PlaceOf(L"right").Height(), PlaceOf(L"left").Height());
 }
 
+TEST_F(BuilderTest, ItemsStandAlignedInTheirCells) {
+  Open(ColumnForm(ItemXml(WidgetXml("QLineEdit", "wide")) +
+                      ItemXml(WidgetXml("QTextEdit", "corner"),
+                              "alignment=\"Qt::AlignRight|Qt::AlignBottom\"") +
+                      ItemXml("<layout class=\"QHBoxLayout\">" +
+                                  ItemXml(WidgetXml("QLineEdit", "nested")) + "</layout>",
+                              "alignment=\"Qt::AlignmentFlag::AlignHCenter\""),
+                  600, 600));
+  const Rect wide = PlaceOf(L"wide");
+  const Rect corner = PlaceOf(L"corner");
+  const Rect nested = PlaceOf(L"nested");
+  EXPECT_EQ(corner.GetSize(), Find<BaseGUIObject>(L"corner").IdealSize());
+  EXPECT_EQ(corner.Right(), wide.Right());
+  EXPECT_GT(corner.Top(), wide.Bottom() + 6);
+  EXPECT_EQ(nested.Width(), Find<BaseGUIObject>(L"nested").IdealSize().Width());
+  EXPECT_NEAR(nested.Left() - wide.Left(), wide.Right() - nested.Right(), 1);
+}
+
 TEST_F(BuilderTest, RadioButtonsAreCheckedInTheirGroups) {
   const auto radio = [](const std::string& name, const std::string& group, bool checked) {
     return WidgetItem("QRadioButton", name,
