@@ -1,22 +1,42 @@
 #include "StackedDialog.h"
 
+#include <algorithm>
+
 #include "ChildDialog.h"
-#include "MFC/containers/PagesImpl.h"
+#include "MFC/containers/StackedDialogImpl.h"
+#include "platform/Painter.h"
 
 namespace Wexa {
 
-class StackedDialog::impl : public PagesImpl {
- public:
-  using PagesImpl::PagesImpl;
+namespace {
 
-  void InvalidateInParent() {
-    CWnd* parent = GetHandle() ? GetCWnd()->GetParent() : nullptr;
-    if (!parent) return;
-    CRect area = GetCWnd()->GetWindowRect();
-    parent->ScreenToClient(&area);
-    parent->InvalidateRect(&area, true);
-  }
-};
+constexpr int kBorder = 1;
+
+}  // namespace
+
+// The frame is drawn, not a part of the window: it belongs to the size the stack asks for.
+void StackedDialog::impl::SetFramed(bool framed) {
+  isFramed_ = framed;
+  Creation().style &= ~WS_BORDER;
+}
+
+int StackedDialog::impl::Border() const {
+  return isFramed_ ? std::max(1, Scale(kBorder)) : 0;
+}
+
+void StackedDialog::impl::Paint(Painter& painter, const CRect& client,
+                                const ControlPalette& palette) {
+  PagesImpl::Paint(painter, client, palette);
+  if (isFramed_) painter.FrameRect(client, palette.border, Border());
+}
+
+void StackedDialog::impl::InvalidateInParent() {
+  CWnd* parent = GetHandle() ? GetCWnd()->GetParent() : nullptr;
+  if (!parent) return;
+  CRect area = GetCWnd()->GetWindowRect();
+  parent->ScreenToClient(&area);
+  parent->InvalidateRect(&area, true);
+}
 
 StackedDialog::StackedDialog()
     : BaseGUIObject(GuiType::StackedDialog), impl_(std::make_shared<impl>(this)) {}

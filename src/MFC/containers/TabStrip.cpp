@@ -39,7 +39,7 @@ int TabStrip::Thickness(HFONT font) const {
   if (!IsUpright()) return HeightFor(font);
   int width = 0;
   for (const std::wstring& caption : captions_) width = std::max(width, WidthFor(font, caption));
-  return std::min(width, Scale(kThickestUpright));
+  return std::min(width + LineWidth(), Scale(kThickestUpright));
 }
 
 void TabStrip::SetCaptions(const std::vector<std::wstring>& captions) {

@@ -1,6 +1,7 @@
 #include "MFC/forms/ClassSettings.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cwchar>
 #include <limits>
@@ -20,6 +21,7 @@
 #include "MFC/RadioButtonImplMFC.h"
 #include "MFC/containers/PagesImpl.h"
 #include "MFC/containers/ScrollAreaImpl.h"
+#include "MFC/containers/StackedDialogImpl.h"
 #include "MultiLineEdit.h"
 #include "ProgressBar.h"
 #include "RichEdit.h"
@@ -234,6 +236,17 @@ void ApplyCurrentPage(PagesImpl& pages, const FormNode& node) {
 
 TabPosition TabPositionOf(const FormNode& node) {
   const std::wstring* text = node.Extra(L"tabPosition");
+void Apply(StackedDialog& stack, const FormNode& node) {
+  auto* impl = static_cast<StackedDialog::impl*>(ImplOf(&stack));
+  ApplyCurrentPage(*impl, node);
+  const std::wstring* shape = node.Text(PropertyId::FrameShape);
+  constexpr std::array<std::wstring_view, 4> kFramed{L"QFrame::Box", L"QFrame::Panel",
+                                                     L"QFrame::StyledPanel", L"QFrame::WinPanel"};
+  impl->SetFramed(shape && std::any_of(kFramed.begin(), kFramed.end(), [&](std::wstring_view word) {
+                    return IsEnumWord(*shape, word);
+                  }));
+}
+
   if (!text) return TabPosition::North;
   if (HasEnumWord(*text, L"QTabWidget::South")) return TabPosition::South;
   if (HasEnumWord(*text, L"QTabWidget::West")) return TabPosition::West;
@@ -271,8 +284,7 @@ void ApplyClassSettings(BaseGUIObject& widget, const FormNode& node) {
     case GuiType::ScrollArea: return Apply(static_cast<ScrollArea&>(widget), node);
     case GuiType::Splitter: return Apply(static_cast<Splitter&>(widget), node);
     case GuiType::TabView: return Apply(static_cast<TabView&>(widget), node);
-    case GuiType::StackedDialog:
-      return ApplyCurrentPage(static_cast<PagesImpl&>(*ImplOf(&widget)), node);
+    case GuiType::StackedDialog: return Apply(static_cast<StackedDialog&>(widget), node);
     default: return;
   }
 }

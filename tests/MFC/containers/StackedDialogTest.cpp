@@ -31,6 +31,18 @@ TEST_F(StackedDialogTest, ShowsOnePageOverTheWholeArea) {
   EXPECT_EQ(Stack().GetPage(1)->GetWindowRect(), Stack().GetWindowRect());
 }
 
+TEST_F(StackedDialogTest, AFormGivesItAFrameAroundItsPages) {
+  for (const std::string shape : {"NoFrame", "Box", "Panel", "StyledPanel"}) {
+    const int frame = shape == "NoFrame" ? 0 : 1;
+    Open(ColumnForm(ItemXml(WidgetXml(
+        "QStackedWidget", "stack",
+        PropertyXml("frameShape", "enum", "QFrame::" + shape) + PageXml("one", "<spacer/>")))));
+    EXPECT_EQ(PlaceOf(L"one").Left() - PlaceOf(L"stack").Left(), frame) << shape;
+    EXPECT_EQ(PlaceOf(L"stack").Bottom() - PlaceOf(L"one").Bottom(), frame) << shape;
+    EXPECT_EQ(Robot::HasInk(Stack().GetPlatformHandle(), {0, 0, 9, 2}), frame == 1) << shape;
+  }
+}
+
 TEST_F(StackedDialogTest, AnIndexOutOfRangeChangesNothingButRepaints) {
   OpenStack();
   int paints = 0;

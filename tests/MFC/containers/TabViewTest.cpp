@@ -163,6 +163,11 @@ TEST_F(TabViewTest, TabsStandAtAnyEdgeOfTheirPages) {
     GetWindowRect(Strip(), &strip);
     const bool upright = room.left + room.right > 0;
     const int thickness = upright ? strip.right - strip.left : strip.bottom - strip.top;
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(Strip(), WM_GETFONT, 0, 0));
+    for (int i = 0; upright && i < Tabs().GetItemCount(); ++i) {
+      const SIZE text = GetTextExtent(font, Tabs().GetTabText(i), INT32_MAX, DT_SINGLELINE);
+      EXPECT_GT(thickness, text.cx + 2 * Theme::TabPadding().cx) << "room for the inner line";
+    }
     const auto margin = [&](LONG share) { return share ? thickness : 1; };
     Rect page = Find<BaseGUIObject>(L"one").GetWindowRect();
     Rect view = Tabs().GetWindowRect();
