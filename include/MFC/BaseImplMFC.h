@@ -52,8 +52,8 @@ class BaseImplMFC : public BaseImpl {
   Size MinimumIdealSize() override;
   Size MinimumSize() override { return minimumSize_; }
   Size MaximumSize() override { return maximumSize_; }
-  void SetMinimumSize(Size size) override { minimumSize_ = size; }
-  void SetMaximumSize(Size size) override { maximumSize_ = size; }
+  void SetMinimumSize(Size size) override;
+  void SetMaximumSize(Size size) override;
   void MoveWindow(int x, int y, int width, int height, bool repaint) override;
   int GetFrameWidth() override;
   unsigned SetTimer(unsigned id, unsigned milliseconds) override;
@@ -63,7 +63,7 @@ class BaseImplMFC : public BaseImpl {
   void Repaint(const Region& region) override { Update(region); }
   void Repaint() override;
   SizePolicy GetSizePolicy() override { return sizePolicy_; }
-  void SetSizePolicy(const SizePolicy& policy) override { sizePolicy_ = policy; }
+  void SetSizePolicy(const SizePolicy& policy) override;
   void SetAcceptDrops(bool accept) override;
   bool IsAcceptDrops() override { return acceptDrops_; }
   void SetTrackMouseEvent() override;
@@ -147,6 +147,10 @@ class BaseImplMFC : public BaseImpl {
   virtual bool OnMnemonic(wchar_t) { return false; }
   // Child widgets whose skins follow this one's.
   std::vector<BaseGUIObject*>& Children() { return children_; }
+  // Takes a widget in, from another one if it was there; it leaves when it dies.
+  void AddChild(BaseGUIObject& child);
+  // The child is going, or goes to another widget.
+  virtual void ForgetChild(BaseGUIObject& child);
 
   CreationRecord& Creation() { return creation_; }
   const CreationRecord& Creation() const { return creation_; }
@@ -182,6 +186,7 @@ class BaseImplMFC : public BaseImpl {
   bool enabledState_ = true;
   Rect lastGeometry_;
   std::vector<BaseGUIObject*> children_;
+  std::weak_ptr<BaseImpl> holder_;  // the widget that has this one among its children
   std::shared_ptr<BalloonTip> balloonTip_;
 };
 

@@ -206,6 +206,7 @@ constexpr PropertyRule kRules[] = {
     {L"value", ReadNumberOrDouble, nullptr, PropertyId::Value},
     {L"verticalScrollBarPolicy", ReadExtra, L"enum"},
     {L"verticalSpacing", ReadText, L"number", PropertyId::VerticalSpacing},
+    {L"widgetResizable", ReadExtra, L"bool"},
     {L"windowTitle", ReadText, L"string", PropertyId::Title},
     {L"wordWrap", ReadText, L"bool", PropertyId::WordWrap},
 };

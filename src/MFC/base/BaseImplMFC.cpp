@@ -75,6 +75,8 @@ void BaseImplMFC::Release() {
   if (window) RunPostponing([this] { Window().DestroyWindow(); });
   // One of the window's last handlers may be what ends the widget: the window is there still.
   if (IsWindow(window) && owner_) DetachWindowProcedure(*owner_, window);
+  if (const auto holder = holder_.lock(); holder && owner_)
+    static_cast<BaseImplMFC&>(*holder).ForgetChild(*owner_);
   owner_ = nullptr;
 }
 
@@ -168,6 +170,23 @@ Size BaseImplMFC::IdealSize() {
 
 Size BaseImplMFC::MinimumIdealSize() {
   return Links().layout ? Links().layout->TotalMinimumSize() : Size(-1, -1);
+}
+
+void BaseImplMFC::SetMinimumSize(Size size) {
+  if (minimumSize_ == size) return;
+  minimumSize_ = size;
+  ForgetSizesFrom(owner_);
+}
+
+void BaseImplMFC::SetMaximumSize(Size size) {
+  if (maximumSize_ == size) return;
+  maximumSize_ = size;
+  ForgetSizesFrom(owner_);
+}
+
+void BaseImplMFC::SetSizePolicy(const SizePolicy& policy) {
+  sizePolicy_ = policy;
+  ForgetSizesFrom(owner_);
 }
 
 Size BaseImplMFC::Clamped(int width, int height) const {
@@ -299,6 +318,22 @@ int BaseImplMFC::GetLogicalPixelsY() {
   int pixels = GetDeviceCaps(dc, LOGPIXELSY);
   ReleaseDC(GetHandle(), dc);
   return pixels;
+}
+
+// -- Children -----------------------------------------------------------------
+
+void BaseImplMFC::AddChild(BaseGUIObject& child) {
+  const auto self = owner_->GetBaseImpl();
+  auto& link = ImplOf(&child)->holder_;
+  const auto before = link.lock();
+  if (before == self) return;
+  if (before) static_cast<BaseImplMFC&>(*before).ForgetChild(child);
+  children_.push_back(&child);
+  link = self;
+}
+
+void BaseImplMFC::ForgetChild(BaseGUIObject& child) {
+  std::erase(children_, &child);
 }
 
 // -- Fonts and colours --------------------------------------------------------

@@ -79,17 +79,9 @@ class GroupBox::impl : public ContainerImpl {
     if (Owner() && isCheckable_) static_cast<GroupBox*>(Owner())->Toggled(checked);
   }
 
-  // A child whose window has just been made follows the box.
-  void OnChildCreated(BaseGUIObject& child) override {
-    if (!IsOpen()) child.Enable(false, false);
-  }
-
   void Enable(bool enable, bool remember) override {
-    const bool before = Window().IsWindowEnabled();
     ContainerImpl::Enable(enable, remember);
-    if (before == static_cast<bool>(GetCWnd()->IsWindowEnabled())) return;
-    if (check_->GetSafeHwnd()) check_->EnableWindow(!before);
-    EnableChildren();
+    if (check_->GetSafeHwnd()) check_->EnableWindow(GetCWnd()->IsWindowEnabled());
   }
 
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override {
@@ -121,6 +113,8 @@ class GroupBox::impl : public ContainerImpl {
   }
 
  protected:
+  bool IsOpen() override { return (!isCheckable_ || isChecked_) && ContainerImpl::IsOpen(); }
+
   bool CreateNative(CWnd* parent) override {
     UpdateMargins();
     if (!ContainerImpl::CreateNative(parent)) return false;
@@ -129,22 +123,10 @@ class GroupBox::impl : public ContainerImpl {
   }
 
  private:
-  // Whether what is in the box can be used.
-  bool IsOpen() { return (!isCheckable_ || isChecked_) && GetCWnd()->IsWindowEnabled(); }
-
   void FillCheckPalette(ControlPalette& palette) {
     palette.background = BackgroundColor();
     Wexa::FillCheckPalette(palette, GetSkinManager());
     palette.radius = Scale(checkRadius_);
-  }
-
-  // Disabling takes the focus away, and a handler of that may destroy the box.
-  void EnableChildren() {
-    const std::vector<BaseGUIObject*> children = Children();
-    for (BaseGUIObject* child : children) {
-      if (!GetHandle()) return;
-      if (child->GetPlatformHandle()) child->Enable(IsOpen(), false);
-    }
   }
 
   // Makes the check box, or takes it away.

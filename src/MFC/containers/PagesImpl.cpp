@@ -8,8 +8,26 @@
 namespace Wexa {
 
 void PagesImpl::AddPage(ChildDialog* page) {
+  if (!page) return;
   pages_.push_back(page);
-  Children().push_back(page);
+  AddChild(*page);
+  ForgetSizes();
+}
+
+// The next page shows in the place of one that is gone, once that is over.
+void PagesImpl::ForgetChild(BaseGUIObject& child) {
+  ArrangingImpl::ForgetChild(child);
+  const auto gone = std::find(pages_.begin(), pages_.end(), &child);
+  if (gone == pages_.end()) return;
+  const auto index = static_cast<int>(gone - pages_.begin());
+  if (index < current_) --current_;
+  pages_.erase(gone);
+  OnPageGone(index);
+}
+
+void PagesImpl::PlaceAsRequested() {
+  ArrangingImpl::PlaceAsRequested();
+  if (GetHandle()) ShowOnly(CurrentIndex(), false);
 }
 
 ChildDialog* PagesImpl::Page(int index) const {
@@ -17,9 +35,9 @@ ChildDialog* PagesImpl::Page(int index) const {
   return valid ? pages_[static_cast<std::size_t>(index)] : nullptr;
 }
 
-Size PagesImpl::AroundPages(Size (BaseGUIObject::*size)(), const Size& own) {
+Size PagesImpl::AroundPages(Size (WidgetSizes::*size)() const, const Size& own) {
   Size largest;
-  for (ChildDialog* page : pages_) largest = largest.GetInflated((page->*size)());
+  for (ChildDialog* page : pages_) largest = largest.GetInflated((SizesOf(*page).*size)());
   RECT margins = PageMargins();
   largest.SetWidth(largest.Width() + margins.left + margins.right);
   largest.SetHeight(largest.Height() + margins.top + margins.bottom);
@@ -27,10 +45,10 @@ Size PagesImpl::AroundPages(Size (BaseGUIObject::*size)(), const Size& own) {
 }
 
 Size PagesImpl::IdealSize() {
-  return AroundPages(&BaseGUIObject::IdealSize, OwnSize());
+  return AroundPages(&WidgetSizes::SmartHint, OwnSize());
 }
 Size PagesImpl::MinimumIdealSize() {
-  return AroundPages(&BaseGUIObject::MinimumIdealSize, OwnMinimumSize());
+  return AroundPages(&WidgetSizes::SmartMinimum, OwnMinimumSize());
 }
 
 Rect PagesImpl::PageRect() {
@@ -83,7 +101,8 @@ void PagesImpl::EnablePage(int index, bool enable, bool remember) {
 }
 
 void PagesImpl::OnChildCreated(BaseGUIObject& page) {
-  page.Show(&page == Page(CurrentIndex()), false);
+  ArrangingImpl::OnChildCreated(page);
+  if (GetHandle()) page.Show(&page == Page(CurrentIndex()), false);
 }
 
 }  // namespace Wexa

@@ -3,21 +3,24 @@
 #include <algorithm>
 #include <vector>
 
-#include "MFC/ContainerImpl.h"
+#include "MFC/containers/ArrangingImpl.h"
 
 namespace Wexa {
 
 class ChildDialog;
 
 // Containers of pages of which one is shown at a time, over the same area.
-class PagesImpl : public ContainerImpl {
+class PagesImpl : public ArrangingImpl {
  public:
-  using ContainerImpl::ContainerImpl;
+  using ArrangingImpl::ArrangingImpl;
 
   Size IdealSize() override;
   Size MinimumIdealSize() override;
   void UpdateLayout() override;
+  void PlaceAsRequested() override;
+  void ForgetChild(BaseGUIObject& child) override;
 
+  // Null is ignored.
   void AddPage(ChildDialog* page);
   ChildDialog* Page(int index) const;  // null for an index out of range
   int PageCount() const { return static_cast<int>(pages_.size()); }
@@ -32,6 +35,8 @@ class PagesImpl : public ContainerImpl {
   void OnChildCreated(BaseGUIObject& page) override;
 
  protected:
+  // The page of that index has gone.
+  virtual void OnPageGone(int) {}
   // What the container takes of its client area on each side of the page.
   virtual RECT PageMargins() const { return {}; }
   // The size of the container's own parts: as they like it, and at least.
@@ -42,7 +47,7 @@ class PagesImpl : public ContainerImpl {
   Rect PageRect();
 
  private:
-  Size AroundPages(Size (BaseGUIObject::*size)(), const Size& own);
+  Size AroundPages(Size (WidgetSizes::*size)() const, const Size& own);
   bool ShowOnly(int index, bool updateLayout);
 
   std::vector<ChildDialog*> pages_;

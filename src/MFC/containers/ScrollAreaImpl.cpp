@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "MFC/base/WidgetColors.h"
-#include "layout/WidgetSizes.h"
+#include "layout/Layout.h"
 #include "platform/DialogManager.h"
 #include "platform/Painter.h"
 #include "platform/VirtualKeys.h"
@@ -40,7 +40,7 @@ bool IsArrowKey(WPARAM key) {
 
 }  // namespace
 
-ScrollArea::impl::impl(ScrollArea* owner) : ContainerImpl(owner) {
+ScrollArea::impl::impl(ScrollArea* owner) : ArrangingImpl(owner) {
   horizontal_->vertical = false;
   vertical_->vertical = true;
   for (auto& bar : {vertical_, horizontal_}) {
@@ -56,7 +56,7 @@ ScrollArea::impl::impl(ScrollArea* owner) : ContainerImpl(owner) {
 }
 
 bool ScrollArea::impl::CreateNative(CWnd* parent) {
-  if (!ContainerImpl::CreateNative(parent)) return false;
+  if (!ArrangingImpl::CreateNative(parent)) return false;
   view_.Create(CRect(), GetCWnd());
   for (auto& bar : {vertical_, horizontal_}) bar->Create(L"", WS_CHILD, CRect(), GetCWnd());
   for (HWND window : {view_.m_hWnd, vertical_->m_hWnd, horizontal_->m_hWnd})
@@ -70,13 +70,16 @@ HWND ScrollArea::impl::HolderOf(const BaseGUIObject& child) {
 
 void ScrollArea::impl::SetContent(BaseGUIObject* content) {
   content_ = content;
-  auto& children = Children();
-  bool isNew = content && std::find(children.begin(), children.end(), content) == children.end();
-  if (isNew) children.push_back(content);
+  if (content) AddChild(*content);
   if (content && view_.GetSafeHwnd() && content->GetPlatformHandle())
     ::SetParent(content->GetPlatformHandle(), view_.GetSafeHwnd());
   UpdateLayout();
   InvalidateLayout();
+}
+
+void ScrollArea::impl::ForgetChild(BaseGUIObject& child) {
+  ArrangingImpl::ForgetChild(child);
+  if (&child == content_) content_ = nullptr;
 }
 
 // -- Sizes --------------------------------------------------------------------
@@ -89,7 +92,7 @@ int ScrollArea::impl::Border() const {
 Size ScrollArea::impl::IdealSize() {
   const Size most = Scale(kLargestWidth, kLargestHeight);
   const int frame = 2 * Border();
-  const ScrollView view = ViewOf({most.Width() - frame, most.Height() - frame});
+  const ScrollView view = ViewOf({most.Width() - frame, most.Height() - frame}, true);
   const int bar = Theme::ScrollBarWidth();
   const Size whole(view.wanted.Width() + frame + (view.hasVertical ? bar : 0),
                    view.wanted.Height() + frame + (view.hasHorizontal ? bar : 0));
@@ -102,9 +105,9 @@ Size ScrollArea::impl::MinimumIdealSize() {
 
 // What the content would like to have in a view of this width. Where no bar would show it, what is
 // outside cannot be reached: the content then makes do with its minimum.
-Size ScrollArea::impl::ContentSize(int width) {
+Size ScrollArea::impl::PreferredSize(int width) {
   BaseImplMFC& impl = *ImplOf(content_);
-  const WidgetSizes sizes = WidgetSizes::Of(*content_);
+  const WidgetSizes& sizes = SizesOf(*content_);
   const Size least = sizes.SmartMinimum();
   Size size = sizes.SmartHint();
   if (policies_.horizontal == BarPolicy::AlwaysOff) size.SetWidth(least.Width());
@@ -114,8 +117,25 @@ Size ScrollArea::impl::ContentSize(int width) {
   return size;
 }
 
-ScrollView ScrollArea::impl::ViewOf(Size view) {
-  const auto wantedAt = [this](int width) { return content_ ? ContentSize(width) : Size(); };
+// What the content cannot do without in a view of this width.
+Size ScrollArea::impl::LeastSize(int width) {
+  BaseImplMFC& impl = *ImplOf(content_);
+  Size size = SizesOf(*content_).SmartMinimum();
+  Layout* layout = impl.Links().layout;
+  if (!layout) size = size.GetInflated(ReachOf(*content_));
+  const int across = std::max(width, size.Width());
+  if (layout && layout->HasHeightForWidth())
+    size.SetHeight(layout->TotalMinimumHeightForWidth(across));
+  else if (impl.HasHeightForWidth())
+    size.SetHeight(impl.HeightForWidth(across));
+  return size;
+}
+
+ScrollView ScrollArea::impl::ViewOf(Size view, bool preferred) {
+  const auto wantedAt = [&](int width) {
+    if (!content_) return Size();
+    return preferred ? PreferredSize(width) : LeastSize(width);
+  };
   return ScrollView::Of(view, wantedAt, Theme::ScrollBarWidth(), policies_);
 }
 
@@ -128,8 +148,8 @@ CRect ScrollArea::impl::InnerRect() {
 void ScrollArea::impl::UpdateLayout() {
   if (!view_.GetSafeHwnd() || isArranging_) return;
   CRect inner = InnerRect();
-  const ScrollView view = ViewOf({inner.Width(), inner.Height()});
-  contentSize_ = view.Content();
+  const ScrollView view = ViewOf({inner.Width(), inner.Height()}, fit_ != ContentFit::Resize);
+  contentSize_ = fit_ == ContentFit::Preferred ? view.wanted : view.Content();
   view_.MoveWindow(
       CRect(inner.left, inner.top, inner.left + view.room.Width(), inner.top + view.room.Height()));
   PlaceBars(inner, view);
@@ -179,7 +199,7 @@ void ScrollArea::impl::OnFocusWithin(HWND window) {
 // -- Looks --------------------------------------------------------------------
 
 void ScrollArea::impl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {
-  ContainerImpl::Paint(painter, client, palette);
+  ArrangingImpl::Paint(painter, client, palette);
   if (isFramed_) painter.FrameRect(client, palette.border, Border());
 }
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "MFC/ContainerImpl.h"
+#include "MFC/containers/ArrangingImpl.h"
 #include "MFC/containers/ScrollView.h"
 #include "MFC/drawn/HolderView.h"
 #include "MFC/ranges/ScrollBarWnd.h"
@@ -10,8 +10,15 @@
 
 namespace Wexa {
 
+// How large the content is made.
+enum class ContentFit {
+  Fill,       // as large as it likes to be, and at least the view
+  Preferred,  // as large as it likes to be
+  Resize,     // the view, and at least its own minimum
+};
+
 // The content stands in a view that cuts it off, and is moved there when it is scrolled.
-class ScrollArea::impl : public ContainerImpl {
+class ScrollArea::impl : public ArrangingImpl {
  public:
   explicit impl(ScrollArea* owner);
 
@@ -23,7 +30,9 @@ class ScrollArea::impl : public ContainerImpl {
   bool OnPreTranslate(const MSG& message) override;
   void OnFocusWithin(HWND window) override;
   HWND HolderOf(const BaseGUIObject& child) override;
+  void ForgetChild(BaseGUIObject& child) override;
   void SetContent(BaseGUIObject* content);
+  void SetContentFit(ContentFit fit) { fit_ = fit; }
   void SetBarPolicies(BarPolicies policies) { policies_ = policies; }
   void SetFramed(bool framed) { isFramed_ = framed; }
 
@@ -32,8 +41,9 @@ class ScrollArea::impl : public ContainerImpl {
 
  private:
   int Border() const;
-  Size ContentSize(int width);
-  ScrollView ViewOf(Size view);
+  Size PreferredSize(int width);
+  Size LeastSize(int width);
+  ScrollView ViewOf(Size view, bool preferred);
   CRect InnerRect();
   void PlaceBars(const CRect& inner, const ScrollView& view);
   void SetRanges(const ScrollView& view);
@@ -47,6 +57,7 @@ class ScrollArea::impl : public ContainerImpl {
   std::shared_ptr<ScrollBarWnd> horizontal_ = std::make_shared<ScrollBarWnd>();
   Size contentSize_;
   BarPolicies policies_;
+  ContentFit fit_ = ContentFit::Fill;
   bool isFramed_ = true;
   bool isArranging_ = false;
 };

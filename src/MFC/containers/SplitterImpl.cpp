@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "layout/WidgetSizes.h"
 #include "platform/Painter.h"
 #include "platform/VirtualKeys.h"
 
@@ -18,13 +17,6 @@ class TrackerWnd : public InteractiveWnd {
   }
 };
 
-Size HintOf(BaseGUIObject& view) {
-  return WidgetSizes::Of(view).SmartHint();
-}
-Size MinimumOf(BaseGUIObject& view) {
-  return WidgetSizes::Of(view).SmartMinimum();
-}
-
 }  // namespace
 
 // -- Sizes --------------------------------------------------------------------
@@ -35,17 +27,17 @@ int Splitter::impl::HandleSize() const {
 
 // A handle stands between two visible panes.
 int Splitter::impl::HandlesSize() const {
-  auto visible = std::count_if(panes_.begin(), panes_.end(),
-                               [](const Pane& pane) { return pane.view->IsVisible(); });
+  auto visible =
+      std::count_if(panes_.begin(), panes_.end(), [](const Pane& pane) { return pane.IsShown(); });
   return std::max(static_cast<int>(visible) - 1, 0) * HandleSize();
 }
 
-Size Splitter::impl::Around(Size (*sizeOf)(BaseGUIObject&)) {
+Size Splitter::impl::Around(Size (WidgetSizes::*sizeOf)() const) {
   int along = HandlesSize();
   int across = 0;
   for (const Pane& pane : panes_) {
-    if (!pane.view->IsVisible()) continue;
-    Size size = sizeOf(*pane.view);
+    if (!pane.IsShown()) continue;
+    Size size = (SizesOf(*pane.view).*sizeOf)();
     along += Along(size);
     across = std::max(across, Across(size));
   }
@@ -53,22 +45,21 @@ Size Splitter::impl::Around(Size (*sizeOf)(BaseGUIObject&)) {
 }
 
 Size Splitter::impl::IdealSize() {
-  return Around(HintOf);
+  return Around(&WidgetSizes::SmartHint);
 }
 Size Splitter::impl::MinimumIdealSize() {
-  return Around(MinimumOf);
+  return Around(&WidgetSizes::SmartMinimum);
 }
 
 void Splitter::impl::ReadWishes() {
   for (std::size_t i = 0; i < panes_.size(); ++i) {
-    BaseGUIObject& view = *panes_[i].view;
     SplitPane& pane = sizes_.panes[i];
-    pane.hidden = !view.IsVisible();
+    pane.hidden = !panes_[i].IsShown();
     if (pane.hidden) continue;
-    WidgetSizes sizes = WidgetSizes::Of(view);
-    SizePolicy policy = view.GetSizePolicy();
+    const WidgetSizes& sizes = SizesOf(*panes_[i].view);
+    const SizePolicy& policy = sizes.policy;
     pane.minimum = Along(sizes.SmartMinimum());
-    pane.maximum = Along(view.MaximumSize());
+    pane.maximum = Along(sizes.maximum);
     pane.hint = Along(sizes.SmartHint());
     pane.stretch = isVertical_ ? policy.GetVerticalStretch() : policy.GetHorizontalStretch();
     pane.expansive =
@@ -83,8 +74,7 @@ void Splitter::impl::AddView(BaseGUIObject* view) {
   if (!view) return;
   panes_.push_back({view});
   sizes_.panes.emplace_back();
-  auto& children = Children();
-  if (std::find(children.begin(), children.end(), view) == children.end()) children.push_back(view);
+  AddChild(*view);
   if (!GetHandle()) return;
   CreatePane(panes_.size() - 1);
   if (HWND window = view->GetPlatformHandle())
@@ -95,12 +85,28 @@ void Splitter::impl::AddView(BaseGUIObject* view) {
 
 std::vector<BaseGUIObject*> Splitter::impl::Views() const {
   std::vector<BaseGUIObject*> views;
-  for (const Pane& pane : panes_) views.push_back(pane.view);
+  for (const Pane& pane : panes_)
+    if (pane.view) views.push_back(pane.view);
   return views;
 }
 
+bool Splitter::impl::Pane::IsShown() const {
+  return view && view->IsVisible();
+}
+
+void Splitter::impl::OnChildCreated(BaseGUIObject& view) {
+  ArrangingImpl::OnChildCreated(view);
+  if (GetHandle()) UpdateLayout();
+}
+
+void Splitter::impl::ForgetChild(BaseGUIObject& view) {
+  ArrangingImpl::ForgetChild(view);
+  for (Pane& pane : panes_)
+    if (pane.view == &view) pane.view = nullptr;
+}
+
 bool Splitter::impl::CreateNative(CWnd* parent) {
-  if (!ContainerImpl::CreateNative(parent)) return false;
+  if (!ArrangingImpl::CreateNative(parent)) return false;
   for (std::size_t i = 0; i < panes_.size(); ++i) CreatePane(i);
   return true;
 }
@@ -199,7 +205,7 @@ void Splitter::impl::PlacePane(std::size_t index, int from) {
   pane.window->ShowWindow(sizes.hidden ? SW_HIDE : SW_SHOW);
   CRect rect = PaneRect(from, sizes.size);
   pane.window->MoveWindow(rect);
-  if (pane.view->GetPlatformHandle())
+  if (pane.view && pane.view->GetPlatformHandle())
     pane.view->MoveWindow(0, 0, rect.Width(), rect.Height(), true);
 }
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "MFC/ContainerImpl.h"
+#include "MFC/containers/ArrangingImpl.h"
 #include "MFC/containers/SplitHandle.h"
 #include "MFC/containers/SplitSizes.h"
 #include "MFC/drawn/HolderView.h"
@@ -13,15 +13,16 @@
 namespace Wexa {
 
 // Each view stands in a pane, a window of its own; a handle follows each pane but the last.
-class Splitter::impl : public ContainerImpl {
+class Splitter::impl : public ArrangingImpl {
  public:
-  explicit impl(Splitter* owner) : ContainerImpl(owner) {}
+  explicit impl(Splitter* owner) : ArrangingImpl(owner) {}
 
   Size IdealSize() override;
   Size MinimumIdealSize() override;
   void UpdateLayout() override;
   HWND HolderOf(const BaseGUIObject& view) override;
-  void OnChildCreated(BaseGUIObject&) override { UpdateLayout(); }
+  void OnChildCreated(BaseGUIObject& view) override;
+  void ForgetChild(BaseGUIObject& view) override;
   bool OnPreTranslate(const MSG& message) override;
 
   void SetOrientation(bool vertical);
@@ -38,7 +39,9 @@ class Splitter::impl : public ContainerImpl {
 
  private:
   struct Pane {
-    BaseGUIObject* view = nullptr;
+    bool IsShown() const;
+
+    BaseGUIObject* view = nullptr;  // null when it has gone; the pane is left, and hidden
     std::unique_ptr<HolderView> window = std::make_unique<HolderView>();
     std::shared_ptr<SplitHandle> handle = std::make_shared<SplitHandle>();
   };
@@ -48,7 +51,7 @@ class Splitter::impl : public ContainerImpl {
   CRect PaneRect(int from, int length);
   int HandleSize() const;
   int HandlesSize() const;
-  Size Around(Size (*sizeOf)(BaseGUIObject&));
+  Size Around(Size (WidgetSizes::*sizeOf)() const);
   void CreatePane(std::size_t index);
   void TieHandle(std::size_t index);
   void ReadWishes();

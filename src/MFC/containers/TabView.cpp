@@ -130,6 +130,11 @@ class TabView::impl : public PagesImpl {
     palette.hoverBorder = SlotColor(GetSkinManager(), Slot::kButtonHoverBorder);
   }
 
+  void OnPageGone(int index) override {
+    captions_.erase(captions_.begin() + index);
+    RefreshStrip();
+  }
+
   bool CreateNative(CWnd* parent) override {
     if (!PagesImpl::CreateNative(parent)) return false;
     DWORD tabStop = Creation().style & WS_TABSTOP;

@@ -204,6 +204,8 @@ void Apply(ScrollArea& area, const FormNode& node) {
   impl->SetBarPolicies({BarPolicyOf(node, L"verticalScrollBarPolicy"),
                         BarPolicyOf(node, L"horizontalScrollBarPolicy")});
   impl->SetFramed(!Has(node, PropertyId::FrameShape, L"QFrame::NoFrame"));
+  if (const std::wstring* resizes = node.Extra(L"widgetResizable"))
+    impl->SetContentFit(*resizes == L"true" ? ContentFit::Resize : ContentFit::Preferred);
 }
 
 void Apply(CheckBox& check, const FormNode& node) {
@@ -234,8 +236,6 @@ void ApplyCurrentPage(PagesImpl& pages, const FormNode& node) {
   pages.SetInitialIndex(ToInt(NumberOr(node, PropertyId::CurrentIndex, 0)));
 }
 
-TabPosition TabPositionOf(const FormNode& node) {
-  const std::wstring* text = node.Extra(L"tabPosition");
 void Apply(StackedDialog& stack, const FormNode& node) {
   auto* impl = static_cast<StackedDialog::impl*>(ImplOf(&stack));
   ApplyCurrentPage(*impl, node);
@@ -247,6 +247,8 @@ void Apply(StackedDialog& stack, const FormNode& node) {
                   }));
 }
 
+TabPosition TabPositionOf(const FormNode& node) {
+  const std::wstring* text = node.Extra(L"tabPosition");
   if (!text) return TabPosition::North;
   if (HasEnumWord(*text, L"QTabWidget::South")) return TabPosition::South;
   if (HasEnumWord(*text, L"QTabWidget::West")) return TabPosition::West;

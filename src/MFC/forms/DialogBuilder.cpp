@@ -163,7 +163,7 @@ void DialogBuilder::BuildWidget(const FormNode& node, const Place& place) {
   }
   widget->SetName(node.name);
   widget->SetParent(place.widget);
-  ImplOf(place.widget)->Children().push_back(widget.get());
+  ImplOf(place.widget)->AddChild(*widget);
   widget->GetSkinManager().InitSkinManager(&impl_.GetSkinManager(),
                                            ChildModeOf(impl_.GetSkinManager()));
   ApplyWidgetSettings(*widget, node, className);

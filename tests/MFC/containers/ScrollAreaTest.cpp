@@ -107,6 +107,17 @@ TEST_F(ScrollAreaTest, AFormSaysWhenBarsShowAndWhetherThereIsAFrame) {
   EXPECT_EQ(Content().Height(), Area().Height() - Theme::ScrollBarWidth());
 }
 
+TEST_F(ScrollAreaTest, AFormSaysWhetherTheContentFollowsTheView) {
+  OpenRows(2, "QTextEdit", PropertyXml("widgetResizable", "bool", "true"));
+  const auto& content = [this]() -> BaseGUIObject& { return Find<BaseGUIObject>(L"content"); };
+  EXPECT_GT(content().IdealSize().Height(), Area().Height());
+  EXPECT_EQ(Content().Height(), Area().Height() - 2) << "cut down to the view";
+  dialog_->MoveWindow(0, 0, 150, 100, true);
+  EXPECT_EQ(Content().Height(), content().MinimumIdealSize().Height());
+  OpenRows(2, "QPushButton", PropertyXml("widgetResizable", "bool", "false"));
+  EXPECT_EQ(Content().GetSize(), content().IdealSize());
+}
+
 TEST_F(ScrollAreaTest, TheAreaLikesToShowTheBarBesideItsContent) {
   OpenRows(20);
   const int content = Find<BaseGUIObject>(L"content").IdealSize().Width();
