@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <utility>
+
 #include "controls/ControlsTest.h"
 
 namespace {

@@ -2,6 +2,8 @@
 
 // The fixture of control tests: an open dialog on the offscreen display, and hands to use it.
 
+#include <gtest/gtest.h>
+
 #include "controls/TestDialog.h"
 #include "platform/VirtualKeys.h"
 #include "support/Robot.h"

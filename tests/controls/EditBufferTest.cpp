@@ -1,5 +1,7 @@
 #include "controls/EditBuffer.h"
 
+#include <gtest/gtest.h>
+
 #include <random>
 
 using Change = EditBuffer::Change;

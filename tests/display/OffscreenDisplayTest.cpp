@@ -1,5 +1,7 @@
 #include "display/offscreen/OffscreenDisplay.h"
 
+#include <gmock/gmock.h>
+
 #include <thread>
 
 #include "platform/VirtualKeys.h"

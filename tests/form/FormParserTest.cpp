@@ -1,5 +1,7 @@
 #include "form/FormParser.h"
 
+#include <gmock/gmock.h>
+
 #include <rapidxml/rapidxml.hpp>
 #include <stdexcept>
 

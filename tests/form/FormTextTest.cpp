@@ -1,5 +1,7 @@
 #include "form/FormText.h"
 
+#include <gtest/gtest.h>
+
 #include <stdexcept>
 #include <tuple>
 

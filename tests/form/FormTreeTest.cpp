@@ -1,5 +1,7 @@
 #include "form/FormTree.h"
 
+#include <gmock/gmock.h>
+
 #include "FormTestSupport.h"
 
 namespace Wexa {

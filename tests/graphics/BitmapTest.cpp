@@ -1,11 +1,13 @@
 #include "platform/Bitmap.h"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
+#include <gtest/gtest.h>
 
 // These macros of glib would stand in the way of the constants in platform/Types.h.
 #undef TRUE
 #undef FALSE
 
+#include <algorithm>
 #include <functional>
 
 #include "graphics/TestCanvas.h"

@@ -1,5 +1,8 @@
 #include "platform/Font.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <cmath>
 
 #include "graphics/FontCache.h"

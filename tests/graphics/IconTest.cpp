@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "platform/Bitmap.h"
 #include "support/PictureFiles.h"
 

@@ -1,5 +1,7 @@
 #include "platform/Painter.h"
 
+#include <gtest/gtest.h>
+
 #include "TestCanvas.h"
 
 namespace {

@@ -1,5 +1,7 @@
 #include "graphics/PngWriter.h"
 
+#include <gmock/gmock.h>
+
 #include <filesystem>
 #include <stdexcept>
 

@@ -1,5 +1,7 @@
 #include "platform/Region.h"
 
+#include <gtest/gtest.h>
+
 #include <bitset>
 #include <random>
 

@@ -1,5 +1,7 @@
 // Texts of many scripts have a font behind the default one that knows their characters.
 
+#include <gtest/gtest.h>
+
 #include "TestCanvas.h"
 #include "graphics/FontCache.h"
 #include "graphics/TextEngine.h"

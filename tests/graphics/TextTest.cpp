@@ -1,3 +1,7 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
 #include "TestCanvas.h"
 #include "graphics/FontCache.h"
 #include "graphics/TextEngine.h"

@@ -1,5 +1,7 @@
 #include "platform/Theme.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cmath>
 

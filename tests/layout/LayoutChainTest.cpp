@@ -1,5 +1,8 @@
 #include "layout/LayoutChain.h"
 
+#include <gmock/gmock.h>
+
+#include <algorithm>
 #include <climits>
 #include <ostream>
 #include <random>

@@ -1,5 +1,7 @@
 #include "SizePolicy.h"
 
+#include <gtest/gtest.h>
+
 #include <cstring>
 
 namespace Wexa {

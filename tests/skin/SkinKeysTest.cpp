@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include <map>
 #include <numeric>
 #include <set>

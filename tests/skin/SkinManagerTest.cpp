@@ -1,5 +1,7 @@
 #include "SkinManager.h"
 
+#include <gtest/gtest.h>
+
 #include <memory>
 
 #include "support/engine/StubImpl.h"

@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include "Utf8.h"
 #include "XmlDocument.h"
 #include "translation/FormTranslation.h"

@@ -1,5 +1,7 @@
 #include "Event.h"
 
+#include <gtest/gtest.h>
+
 #include <set>
 
 #include "KeyMap.h"

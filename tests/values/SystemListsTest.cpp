@@ -1,6 +1,7 @@
 // What the utilities tell of fonts and of versions.
 
 #include <dlfcn.h>
+#include <gtest/gtest.h>
 #include <algorithm>
 #include <filesystem>
 #include <fstream>

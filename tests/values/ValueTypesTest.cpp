@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <list>
 
 #include "Any.h"

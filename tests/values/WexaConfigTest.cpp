@@ -1,5 +1,7 @@
 #include "WexaConfig.h"
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <fstream>
 

@@ -1,5 +1,7 @@
 #include "WexaUtils.h"
 
+#include <gtest/gtest.h>
+
 #include <limits>
 
 #include "ScaleFactor.h"

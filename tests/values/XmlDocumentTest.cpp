@@ -1,5 +1,7 @@
 #include "XmlDocument.h"
 
+#include <gmock/gmock.h>
+
 #include "Utf8.h"
 
 namespace Wexa {

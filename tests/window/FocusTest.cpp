@@ -1,5 +1,7 @@
 // Focus, activation, capture, modality.
 
+#include <gmock/gmock.h>
+
 #include "window/WindowTest.h"
 
 using testing::ElementsAre;

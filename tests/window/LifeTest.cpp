@@ -1,5 +1,9 @@
 // Creation, destruction and handles.
 
+#include <gmock/gmock.h>
+
+#include <utility>
+
 #include "window/WindowTest.h"
 
 using testing::ElementsAre;

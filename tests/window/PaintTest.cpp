@@ -1,9 +1,12 @@
+#include <gmock/gmock.h>
+
 #include "platform/Painter.h"
 #include "platform/Picture.h"
 #include "window/WindowTest.h"
 
 #include <cstdio>
 #include <filesystem>
+#include <utility>
 
 using testing::ElementsAre;
 using testing::IsEmpty;

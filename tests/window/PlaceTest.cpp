@@ -1,5 +1,7 @@
 // Moving, sizing, showing, enabling; coordinates, mirrored ones too.
 
+#include <gmock/gmock.h>
+
 #include "window/WindowTest.h"
 
 using testing::ElementsAre;

@@ -1,5 +1,7 @@
 // Order of the queue, posting, timers, keys, settings.
 
+#include <gmock/gmock.h>
+
 #include <thread>
 
 #include "platform/SystemColors.h"

@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include "window/WindowTest.h"
 
 using testing::ElementsAre;

@@ -1,5 +1,6 @@
 #include "window/WindowTest.h"
 
+#include <algorithm>
 #include <map>
 
 #include "platform/Painter.h"

@@ -2,9 +2,12 @@
 
 // The fixture of window tests: a fresh offscreen display and windows that note their messages.
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "platform/VirtualKeys.h"
 #include "support/Robot.h"

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <unistd.h>
 
 #include "platform/WindowStyles.h"

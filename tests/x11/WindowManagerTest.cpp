@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "platform/WindowStyles.h"
 #include "x11/X11Test.h"
 

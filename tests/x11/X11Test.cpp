@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "x11/X11Test.h"
 
 #include "display/x11/X11Display.h"

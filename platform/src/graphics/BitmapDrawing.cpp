@@ -1,6 +1,9 @@
 // Drawing bitmaps, on windows and into other sizes.
 
 #include "graphics/BitmapObject.h"
+
+#include <algorithm>
+
 #include "graphics/Canvas.h"
 #include "platform/Painter.h"
 

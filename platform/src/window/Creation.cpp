@@ -1,5 +1,8 @@
 #include "platform/Postponed.h"
 #include "window/Coordinates.h"
+
+#include <algorithm>
+
 #include "window/CreationHook.h"
 #include "window/Dispatch.h"
 #include "window/Position.h"

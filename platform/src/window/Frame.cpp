@@ -1,5 +1,7 @@
 #include "window/Frame.h"
 
+#include <utility>
+
 #include "platform/SystemColors.h"
 #include "window/Coordinates.h"
 #include "window/PaintContext.h"

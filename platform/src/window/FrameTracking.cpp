@@ -1,5 +1,8 @@
 #include "window/FrameTracking.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "window/Dispatch.h"
 #include "window/Frame.h"
 #include "window/Position.h"

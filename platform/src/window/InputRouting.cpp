@@ -1,5 +1,7 @@
 #include "window/InputRouting.h"
 
+#include <utility>
+
 #include "platform/SystemColors.h"
 #include "window/Activation.h"
 #include "window/Dispatch.h"

@@ -1,5 +1,7 @@
 #include "window/Overlaps.h"
 
+#include <algorithm>
+
 namespace core {
 namespace {
 

@@ -1,5 +1,7 @@
 #include "window/PaintContext.h"
 
+#include <utility>
+
 #include "graphics/DeviceContext.h"
 #include "window/Coordinates.h"
 #include "window/Dispatch.h"

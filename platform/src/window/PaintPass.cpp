@@ -1,5 +1,7 @@
 #include "window/PaintPass.h"
 
+#include <algorithm>
+
 #include "window/Coordinates.h"
 #include "window/Dispatch.h"
 #include "window/Overlaps.h"

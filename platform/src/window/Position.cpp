@@ -1,5 +1,7 @@
 #include "window/Position.h"
 
+#include <algorithm>
+
 #include "window/Activation.h"
 #include "window/Coordinates.h"
 #include "window/Dispatch.h"

@@ -1,9 +1,11 @@
 #include "window/Queue.h"
 
+#include <algorithm>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <optional>
+#include <utility>
 
 #include "platform/Postponed.h"
 #include "platform/SystemColors.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "window/WindowObject.h"
 
 namespace core {

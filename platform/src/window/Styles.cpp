@@ -1,4 +1,7 @@
 #include "window/Dispatch.h"
+
+#include <utility>
+
 #include "window/TopLevelSurface.h"
 #include "window/WindowClass.h"
 

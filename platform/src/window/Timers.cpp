@@ -1,5 +1,7 @@
 #include "window/Timers.h"
 
+#include <algorithm>
+
 #include "window/WindowObject.h"
 
 namespace core {

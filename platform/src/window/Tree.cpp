@@ -1,4 +1,7 @@
 #include "window/TopLevelSurface.h"
+
+#include <algorithm>
+
 #include "window/Updates.h"
 
 using core::Find;

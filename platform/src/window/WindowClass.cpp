@@ -1,5 +1,6 @@
 #include "window/WindowClass.h"
 
+#include <algorithm>
 #include <cwctype>
 
 #include "window/WindowObject.h"

@@ -1,5 +1,7 @@
 #include "window/ZOrder.h"
 
+#include <algorithm>
+
 namespace core {
 namespace {
 

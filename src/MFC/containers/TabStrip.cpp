@@ -1,5 +1,7 @@
 #include "MFC/containers/TabStrip.h"
 
+#include <algorithm>
+
 #include "MFC/BaseImplMFC.h"
 #include "platform/VirtualKeys.h"
 

@@ -1,5 +1,7 @@
 #include "MFC/DialogCursor.h"
 
+#include <algorithm>
+
 #include "MFC/BaseImplMFC.h"
 #include "platform/Window.h"
 

@@ -1,5 +1,6 @@
 #include "MFC/forms/LayoutSettings.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 

@@ -1,5 +1,7 @@
 #include "MFC/ranges/ScrollTrack.h"
 
+#include <algorithm>
+
 namespace Wexa {
 
 ScrollTrack::ScrollTrack(const ValueRange& range, int length, int arrowLength, int shortestThumb)

@@ -1,5 +1,6 @@
 #include "MFC/ranges/SliderWnd.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "MFC/BaseImplMFC.h"

@@ -1,5 +1,7 @@
 #include "CallbackList.h"
 
+#include <gmock/gmock.h>
+
 #include "Dialog.h"
 #include "support/FormTest.h"
 

@@ -1,5 +1,7 @@
 // Texts have to be read on what they are drawn on, in every palette.
 
+#include <gtest/gtest.h>
+
 #include "MFC/base/WidgetColors.h"
 #include "MFC/ranges/ScrollBarWnd.h"
 #include "SkinManager.h"

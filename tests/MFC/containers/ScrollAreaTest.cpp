@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "ScrollArea.h"
 
 #include "platform/Theme.h"

@@ -1,5 +1,7 @@
 // How dialogs are shown and ended, modal and modeless.
 
+#include <gmock/gmock.h>
+
 #include <stdexcept>
 
 #include "ButtonBox.h"

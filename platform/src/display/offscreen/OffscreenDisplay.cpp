@@ -1,6 +1,8 @@
 #include "display/offscreen/OffscreenDisplay.h"
 
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "display/offscreen/OffscreenSurface.h"
 

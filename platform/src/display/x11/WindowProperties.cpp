@@ -4,6 +4,7 @@
 #include <unistd.h>
 #include <xcb/xcb_icccm.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <limits>
 #include <string_view>
