@@ -101,7 +101,7 @@ class CallbackList {
   using Connections = std::vector<std::shared_ptr<Connection>>;
 
   // Connections are replaced as a whole, so that a firing works on those it began with.
-  struct State : ConnectionOwner {
+  struct State final : ConnectionOwner {
     ConnectionId Add(ConnectionMode mode, Callback callback, BaseGUIObject* receiver) {
       std::lock_guard guard(lock);
       auto changed = std::make_shared<Connections>(*connections);

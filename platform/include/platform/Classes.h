@@ -13,7 +13,7 @@
 
 #pragma GCC visibility push(default)  // hosts may use all of this
 
-class CFont {
+class PLATFORM_API CFont {
  public:
   CFont() = default;
   CFont(const CFont&) = delete;
@@ -29,7 +29,7 @@ class CFont {
 };
 
 // The device context of one WM_PAINT.
-class CPaintDC {
+class PLATFORM_API CPaintDC {
  public:
   explicit CPaintDC(HWND window) : window_(window) { BeginPaint(window_, &paint_); }
   ~CPaintDC() { EndPaint(window_, &paint_); }
@@ -43,7 +43,7 @@ class CPaintDC {
   PAINTSTRUCT paint_{};
 };
 
-class CWnd {
+class PLATFORM_API CWnd {
  public:
   CWnd() = default;
   CWnd(const CWnd&) = delete;
@@ -128,7 +128,7 @@ class CWnd {
   bool owned_ = false;
 };
 
-class CStatic : public CWnd {
+class PLATFORM_API CStatic : public CWnd {
  public:
   BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
   // In which the text fits; wrapped to `width` when that is not negative.
@@ -138,7 +138,7 @@ class CStatic : public CWnd {
   MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
-class CButton : public CWnd {
+class PLATFORM_API CButton : public CWnd {
  public:
   virtual BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent,
                       UINT id);
@@ -154,7 +154,7 @@ class CButton : public CWnd {
   MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
-class CEdit : public CWnd {
+class PLATFORM_API CEdit : public CWnd {
  public:
   BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
   void SetSel(int from, int to);
@@ -170,7 +170,7 @@ class CEdit : public CWnd {
   MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
-class CDialogEx : public CWnd {
+class PLATFORM_API CDialogEx : public CWnd {
  public:
   ~CDialogEx() override;
 

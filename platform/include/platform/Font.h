@@ -58,7 +58,7 @@ SIZE GetTextExtent(HFONT font, std::wstring_view text);
 SIZE GetTextExtent(HFONT font, std::wstring_view text, int width, UINT format);
 
 // One shaped line of editable text: carets, hits and drawing. Positions are code points.
-class TextLine {
+class PLATFORM_API TextLine {
  public:
   // Unless it is told to, the line runs from right to left when its first letter does.
   TextLine(HFONT font, std::wstring_view text, bool rightToLeft);

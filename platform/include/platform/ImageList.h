@@ -11,7 +11,7 @@ class Painter;
 
 #pragma GCC visibility push(default)  // hosts may use all of this
 
-class CImageList {
+class PLATFORM_API CImageList {
  public:
   CImageList() = default;
   CImageList(const CImageList&) = delete;

@@ -26,7 +26,7 @@ enum class ArrowDirection { Up, Down, Left, Right };
 // axis-aligned, clipped to what the context may paint. In a mirrored (right-to-left) context
 // places mirror and DT_LEFT and DT_RIGHT change meaning, while text stays readable.
 // Rectangles are crisp: edges fall on whole pixels. Colours carry transparency in the top byte.
-class Painter {
+class PLATFORM_API Painter {
  public:
   explicit Painter(HDC dc);
   ~Painter();

@@ -26,7 +26,7 @@ int GetRgnBox(HRGN region, RECT* box);
 BOOL DeleteRgn(HRGN region);
 
 // Owns one region handle; a copy owns a region of its own with the same area.
-class CRgn {
+class PLATFORM_API CRgn {
  public:
   CRgn() = default;
   explicit CRgn(HRGN region) : region_(region) {}

@@ -5,6 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 
+// Marks a class that hosts may use. The headers' visibility pragmas do not reach a class that
+// another header has declared before.
+#define PLATFORM_API __attribute__((visibility("default")))
+
 using BOOL = int;
 using BYTE = std::uint8_t;
 using WORD = std::uint16_t;
@@ -20,8 +24,13 @@ using UINT_PTR = std::uintptr_t;
 using DWORD_PTR = std::uintptr_t;
 using ATOM = std::uint16_t;
 
+// Headers of C libraries that a program includes first may have made macros of these.
+#ifndef TRUE
 inline constexpr BOOL TRUE = 1;
+#endif
+#ifndef FALSE
 inline constexpr BOOL FALSE = 0;
+#endif
 
 // Handles hold an index and a generation, never an address: a stale one is recognised.
 using HWND = struct HWND__*;

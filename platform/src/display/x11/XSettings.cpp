@@ -11,7 +11,8 @@ namespace {
 // Small letters only.
 std::string Plain(const std::string& name) {
   std::string plain;
-  for (const unsigned char c : name) {
+  for (const char letter : name) {
+    const auto c = static_cast<unsigned char>(letter);
     if (std::isalpha(c)) plain.push_back(static_cast<char>(std::tolower(c)));
   }
   return plain;
