@@ -6,6 +6,7 @@
 #include <openssl/evp.h>
 #include <openssl/rc4.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -164,18 +165,18 @@ void Md5OfOpenSsl(benchmark::State& state) {
 }
 BENCHMARK(Md5OfOpenSsl);
 
-constexpr std::string_view kKey = "a key of 27 characters here";
+constexpr std::string_view kPassword = "a key of 27 characters here";
 
 void Rc4(benchmark::State& state) {
-  OnAMegabyte(state, [](auto& data) { Wexa::Rc4(data, kKey); });
+  OnAMegabyte(state, [](auto& data) { Wexa::Rc4(data, kPassword); });
 }
 BENCHMARK(Rc4);
 
 void Rc4OfOpenSsl(benchmark::State& state) {
   OnAMegabyte(state, [](auto& data) {
     RC4_KEY key;
-    RC4_set_key(&key, static_cast<int>(kKey.size()),
-                reinterpret_cast<const unsigned char*>(kKey.data()));
+    RC4_set_key(&key, static_cast<int>(kPassword.size()),
+                reinterpret_cast<const unsigned char*>(kPassword.data()));
     RC4(&key, data.size(), data.data(), data.data());
   });
 }

@@ -6,12 +6,12 @@ namespace {
 
 using Key = Event::Key;
 
-struct KeyRange {
+struct KeySpan {
   Key first;
   Key last;
 };
 
-constexpr KeyRange kSpecialKeys[] = {
+constexpr KeySpan kSpecialKeys[] = {
     {Key::Tab, Key::Tab},       {Key::Return, Key::Control}, {Key::CapsLock, Key::CapsLock},
     {Key::Escape, Key::Escape}, {Key::PageUp, Key::Down},    {Key::PrintScreen, Key::Delete},
     {Key::Keypad0, Key::F9},    {Key::F11, Key::ScrollLock}, {Key::LeftAlt, Key::RightAlt},

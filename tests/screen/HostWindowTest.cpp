@@ -9,10 +9,6 @@ namespace {
 constexpr SIZE kClient{320, 240};
 const std::string kForm = testdata::InProject("tests/screen/Guest.ui");
 
-POINT MiddleOf(const RECT& place) {
-  return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-}
-
 class HostWindowTest : public ScreenTest {
  protected:
   // The dialog's background, beside its widgets.

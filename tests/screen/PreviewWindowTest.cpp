@@ -14,10 +14,6 @@ RECT Inside(const RECT& place) {
   return {place.left + 3, place.top + 3, place.right - 3, place.bottom - 3};
 }
 
-POINT MiddleOf(const RECT& place) {
-  return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-}
-
 // Where check boxes and radio buttons have their mark.
 RECT MarkOf(const RECT& place) {
   return {place.left, place.top, place.left + 16, place.bottom};

@@ -17,6 +17,10 @@
 
 namespace screen {
 
+inline POINT MiddleOf(const RECT& place) {
+  return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+}
+
 class ScreenTest : public testing::Test {
  protected:
   using Picture = std::vector<std::uint32_t>;

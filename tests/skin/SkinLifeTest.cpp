@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <memory>
 
 #include "SkinManager.h"
@@ -6,7 +8,7 @@
 namespace Wexa {
 namespace {
 
-unsigned long Resolved(const SkinManager& skin, int slot) {
+unsigned long Shown(const SkinManager& skin, int slot) {
   return skin.Slot(slot);
 }
 
@@ -22,20 +24,20 @@ TEST_F(SkinLife, AnOrphanKeepsTheColorsItShows) {
   skin_.InitSkinManager(parent_.get(), SkinMode::Default);
   parent_->Slot(2) = 0x010203;
   parent_.reset();
-  EXPECT_EQ(Resolved(skin_, 2), 0x010203u);
+  EXPECT_EQ(Shown(skin_, 2), 0x010203u);
   EXPECT_EQ(&skin_.GetParentSkinManager(), &skin_);
   skin_.LoadSkin(SkinMode::XML, false, false);
   EXPECT_TRUE(skin_.SetSkinMode(SkinMode::Dark));
-  EXPECT_EQ(Resolved(skin_, 2), 0x333333u);
+  EXPECT_EQ(Shown(skin_, 2), 0x333333u);
 }
 
 TEST_F(SkinLife, SlotsThatAPaletteLeavesUntouchedLetGoOfADetachedParent) {
   skin_.InitSkinManager(parent_.get(), SkinMode::Default);
   skin_.SetSkinMode(SkinMode::Dark);
   parent_->Slot(37) = 0x010203;
-  EXPECT_EQ(Resolved(skin_, 37), 0xFFFFFFu);
+  EXPECT_EQ(Shown(skin_, 37), 0xFFFFFFu);
   parent_.reset();
-  EXPECT_EQ(Resolved(skin_, 37), 0xFFFFFFu);
+  EXPECT_EQ(Shown(skin_, 37), 0xFFFFFFu);
 }
 
 TEST_F(SkinLife, SlotsThatAPaletteLeavesUntouchedMoveToTheNewParent) {
@@ -43,14 +45,14 @@ TEST_F(SkinLife, SlotsThatAPaletteLeavesUntouchedMoveToTheNewParent) {
   other.Slot(37) = 0x040506;
   skin_.InitSkinManager(parent_.get(), SkinMode::Default);
   skin_.InitSkinManager(&other, SkinMode::Dark);
-  EXPECT_EQ(Resolved(skin_, 37), 0x040506u);
+  EXPECT_EQ(Shown(skin_, 37), 0x040506u);
 }
 
 TEST_F(SkinLife, AParentThatNeverCountedMayGo) {
   skin_.SetParentSkinManager(parent_.get());
   parent_.reset();
   EXPECT_TRUE(skin_.LoadSkin(SkinMode::Default, false, false));
-  EXPECT_EQ(Resolved(skin_, 2), 0xFFFFFFu);
+  EXPECT_EQ(Shown(skin_, 2), 0xFFFFFFu);
 }
 
 TEST_F(SkinLife, CopiesOfOrphansAreSafe) {
@@ -60,8 +62,8 @@ TEST_F(SkinLife, CopiesOfOrphansAreSafe) {
   SkinManager custom(SkinMode::Default);
   custom.SetCustomSkin(skin_);
   parent_.reset();
-  EXPECT_EQ(Resolved(copy, 2), 0x010203u);
-  EXPECT_EQ(Resolved(custom, 2), 0x010203u);
+  EXPECT_EQ(Shown(copy, 2), 0x010203u);
+  EXPECT_EQ(Shown(custom, 2), 0x010203u);
 }
 
 TEST_F(SkinLife, FamiliesMayGoInAnyOrder) {
@@ -72,10 +74,10 @@ TEST_F(SkinLife, FamiliesMayGoInAnyOrder) {
   skin_.InitSkinManager(child.get(), SkinMode::Default);
   parent_->Slot(2) = 0x010203;
   child.reset();
-  EXPECT_EQ(Resolved(*grandchild, 2), 0x010203u);
+  EXPECT_EQ(Shown(*grandchild, 2), 0x010203u);
   grandchild.reset();
   parent_.reset();
-  EXPECT_EQ(Resolved(skin_, 2), 0x010203u);
+  EXPECT_EQ(Shown(skin_, 2), 0x010203u);
 }
 
 TEST_F(SkinLife, AReloadFollowsTheSystemAndKeepsExplicitColors) {
@@ -84,13 +86,13 @@ TEST_F(SkinLife, AReloadFollowsTheSystemAndKeepsExplicitColors) {
   SetSystemScheme(SystemScheme::HighContrast);
   skin_.ReloadPalette();
   EXPECT_EQ(skin_.GetSkinMode(), SkinMode::HCMDark);
-  EXPECT_EQ(Resolved(skin_, 11), GetSysColor(COLOR_BTNFACE));
-  EXPECT_EQ(Resolved(skin_, 2), 0x010203u);
+  EXPECT_EQ(Shown(skin_, 11), GetSysColor(COLOR_BTNFACE));
+  EXPECT_EQ(Shown(skin_, 2), 0x010203u);
   SetSystemScheme(SystemScheme::Light);
   skin_.ReloadPalette();
   EXPECT_EQ(skin_.GetSkinMode(), SkinMode::Dark);
-  EXPECT_EQ(Resolved(skin_, 11), 0x333333u);
-  EXPECT_EQ(Resolved(skin_, 2), 0x010203u);
+  EXPECT_EQ(Shown(skin_, 11), 0x333333u);
+  EXPECT_EQ(Shown(skin_, 2), 0x010203u);
 }
 
 TEST_F(SkinLife, ACustomSkinIsNotReloaded) {
@@ -98,7 +100,7 @@ TEST_F(SkinLife, ACustomSkinIsNotReloaded) {
   SetSystemScheme(SystemScheme::HighContrast);
   skin_.ReloadPalette();
   EXPECT_EQ(skin_.GetSkinMode(), SkinMode::Custom);
-  EXPECT_EQ(Resolved(skin_, 2), 0x333333u);
+  EXPECT_EQ(Shown(skin_, 2), 0x333333u);
 }
 
 }  // namespace

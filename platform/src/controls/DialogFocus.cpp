@@ -8,10 +8,6 @@
 
 namespace {
 
-DWORD StyleOf(HWND window) {
-  return static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE));
-}
-
 // The window's own state, whatever its ancestors are.
 bool IsShownAndEnabled(HWND window) {
   return (StyleOf(window) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
@@ -80,6 +76,10 @@ bool IsDialog(HWND window) {
 }
 
 }  // namespace
+
+DWORD StyleOf(HWND window) {
+  return static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE));
+}
 
 bool CanTakeFocus(HWND control) {
   return IsShownAndEnabled(control);

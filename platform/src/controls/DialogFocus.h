@@ -6,6 +6,8 @@
 
 #include "platform/Types.h"
 
+// The style bits (WS_..., BS_... and their like).
+DWORD StyleOf(HWND window);
 // Every control that the keyboard could reach by place: in child order, those of visible, enabled
 // WS_EX_CONTROLPARENT windows in place of the window itself.
 std::vector<HWND> ControlsOf(HWND dialog);

@@ -18,10 +18,6 @@ LRESULT CodeOf(HWND control, const MSG* message = nullptr) {
                       reinterpret_cast<LPARAM>(message));
 }
 
-DWORD StyleOf(HWND window) {
-  return static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE));
-}
-
 void SendCommand(HWND target, int id, HWND control) {
   SendMessageW(target, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(control));
 }

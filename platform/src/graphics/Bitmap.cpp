@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::uint32_t kOpaqueBlack = 0xFF000000;
 
-HandleTable<HBITMAP, BitmapObject>& Table() {
+HandleTable<HBITMAP, BitmapObject>& Bitmaps() {
   static auto& table = *new HandleTable<HBITMAP, BitmapObject>;
   return table;
 }
@@ -61,11 +61,11 @@ bool IsPictureSize(std::int64_t width, std::int64_t height) {
 }
 
 HBITMAP AddBitmap(std::unique_ptr<BitmapObject> bitmap) {
-  return Table().Add(std::move(bitmap));
+  return Bitmaps().Add(std::move(bitmap));
 }
 
 BitmapObject* FindBitmap(HBITMAP bitmap) {
-  return Table().Find(bitmap);
+  return Bitmaps().Find(bitmap);
 }
 
 HBITMAP CreateBitmap(int width, int height, int bitsPerPixel) {
@@ -97,7 +97,7 @@ HBITMAP WithAlphaOfMask(HBITMAP color, HBITMAP mask) {
 }
 
 BOOL DeleteBitmap(HBITMAP bitmap) {
-  return Table().Remove(bitmap) != nullptr;
+  return Bitmaps().Remove(bitmap) != nullptr;
 }
 
 BOOL GetBitmapDescription(HBITMAP bitmap, BITMAP* description) {

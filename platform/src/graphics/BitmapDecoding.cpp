@@ -1,14 +1,11 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
-// These macros of glib would stand in the way of the constants in platform/Types.h.
-#undef TRUE
-#undef FALSE
-
 #include <algorithm>
 #include <cstring>
 #include <string_view>
 
 #include "graphics/BitmapObject.h"
+#include "graphics/GObjectPtr.h"
 #include "platform/Geometry.h"
 
 namespace {
@@ -16,10 +13,7 @@ namespace {
 // Small enough that a picture refused for its size is left soon.
 constexpr std::size_t kChunk = 16384;
 
-struct GObjectRelease {
-  void operator()(gpointer object) const { g_object_unref(object); }
-};
-using LoaderPtr = std::unique_ptr<GdkPixbufLoader, GObjectRelease>;
+using LoaderPtr = GObjectPtr<GdkPixbufLoader>;
 
 // A loader's name, and how the files begin that it is for. What begins otherwise is no picture: the
 // loaders of other formats are not for bytes from anywhere.

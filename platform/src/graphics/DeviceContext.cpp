@@ -7,7 +7,7 @@
 
 namespace {
 
-HandleTable<HDC, DeviceContext>& Table() {
+HandleTable<HDC, DeviceContext>& Contexts() {
   static auto& table = *new HandleTable<HDC, DeviceContext>;
   return table;
 }
@@ -15,13 +15,13 @@ HandleTable<HDC, DeviceContext>& Table() {
 }  // namespace
 
 HDC CreateDeviceContext(DeviceContext context) {
-  return Table().Add(std::make_unique<DeviceContext>(std::move(context)));
+  return Contexts().Add(std::make_unique<DeviceContext>(std::move(context)));
 }
 
 void DeleteDeviceContext(HDC dc) {
-  Table().Remove(dc);
+  Contexts().Remove(dc);
 }
 
 DeviceContext* GetDeviceContext(HDC dc) {
-  return Table().Find(dc);
+  return Contexts().Find(dc);
 }

@@ -28,7 +28,7 @@ struct FontObject {
   std::shared_ptr<SharedFont> font;
 };
 
-HandleTable<HFONT, FontObject>& Table() {
+HandleTable<HFONT, FontObject>& Fonts() {
   static auto& table = *new HandleTable<HFONT, FontObject>;
   return table;
 }
@@ -61,7 +61,7 @@ HFONT CreateSystemFont() {
 
 HFONT CreateFontIndirectW(const LOGFONTW* description) {
   if (!description) return nullptr;
-  return Table().Add(std::make_unique<FontObject>(FontObject{*description, Share(*description)}));
+  return Fonts().Add(std::make_unique<FontObject>(FontObject{*description, Share(*description)}));
 }
 
 HFONT CreatePointFontIndirect(const LOGFONTW* description) {
@@ -74,11 +74,11 @@ HFONT CreatePointFontIndirect(const LOGFONTW* description) {
 
 BOOL DeleteFont(HFONT font) {
   if (font == GetSystemFont()) return FALSE;
-  return Table().Remove(font) != nullptr;
+  return Fonts().Remove(font) != nullptr;
 }
 
 BOOL GetFontDescription(HFONT font, LOGFONTW* description) {
-  const FontObject* object = Table().Find(font);
+  const FontObject* object = Fonts().Find(font);
   if (!object || !description) return FALSE;
   *description = object->description;
   return TRUE;
@@ -93,8 +93,8 @@ HFONT GetSystemFont() {
 }
 
 RealizedFont& FontOf(HFONT font) {
-  FontObject* object = Table().Find(font);
-  if (!object) object = Table().Find(GetSystemFont());
+  FontObject* object = Fonts().Find(font);
+  if (!object) object = Fonts().Find(GetSystemFont());
   std::unique_ptr<RealizedFont>& realized = object->font->realized;
   if (!realized) realized = std::make_unique<RealizedFont>(object->font->key);
   return *realized;

@@ -18,7 +18,7 @@ struct IconObject {
   UniqueBitmap mask;
 };
 
-HandleTable<HICON, IconObject>& Table() {
+HandleTable<HICON, IconObject>& Icons() {
   static auto& table = *new HandleTable<HICON, IconObject>;
   return table;
 }
@@ -52,7 +52,7 @@ HICON CreateIconFromResourceEx(const BYTE* image, DWORD size, BOOL isIcon, DWORD
   const auto read = ReadIconImage(isIcon ? bytes : bytes.subspan(kHotSpotBytes));
   if (!read) return nullptr;
   const POINT hotSpot = isIcon ? POINT{read->width / 2, read->height / 2} : HotSpotOf(bytes);
-  return Table().Add(std::make_unique<IconObject>(
+  return Icons().Add(std::make_unique<IconObject>(
       IconObject{isIcon != FALSE, hotSpot, ColorOf(*read), MaskOf(*read)}));
 }
 
@@ -62,17 +62,17 @@ HICON CreateIconIndirect(const ICONINFO* info) {
   const HBITMAP mask =
       info->hbmMask ? CopyBitmap(info->hbmMask) : CreateBitmap(size.bmWidth, size.bmHeight, 1);
   const POINT hotSpot{static_cast<LONG>(info->xHotspot), static_cast<LONG>(info->yHotspot)};
-  return Table().Add(std::make_unique<IconObject>(
+  return Icons().Add(std::make_unique<IconObject>(
       IconObject{info->fIcon != FALSE, hotSpot, UniqueBitmap(CopyBitmap(info->hbmColor)),
                  UniqueBitmap(mask)}));
 }
 
 BOOL DestroyIcon(HICON icon) {
-  return Table().Remove(icon) != nullptr;
+  return Icons().Remove(icon) != nullptr;
 }
 
 BOOL GetIconInfo(HICON icon, ICONINFO* info) {
-  const IconObject* object = Table().Find(icon);
+  const IconObject* object = Icons().Find(icon);
   if (!object || !info) return FALSE;
   *info = {object->isIcon, static_cast<DWORD>(object->hotSpot.x),
            static_cast<DWORD>(object->hotSpot.y), CopyBitmap(object->mask.get()),
@@ -81,7 +81,7 @@ BOOL GetIconInfo(HICON icon, ICONINFO* info) {
 }
 
 SIZE GetIconSize(HICON icon) {
-  const IconObject* object = Table().Find(icon);
+  const IconObject* object = Icons().Find(icon);
   BITMAP size{};
   if (object) GetBitmapDescription(object->color.get(), &size);
   return {size.bmWidth, size.bmHeight};

@@ -14,13 +14,13 @@ constexpr int kEllipseLimit = 1 << 20;
 
 using RegionTable = HandleTable<HRGN, PixelRegion>;
 
-RegionTable& Table() {
+RegionTable& Regions() {
   static RegionTable& table = *new RegionTable;
   return table;
 }
 
 HRGN Add(PixelRegion region) {
-  return Table().Add(std::make_unique<PixelRegion>(std::move(region)));
+  return Regions().Add(std::make_unique<PixelRegion>(std::move(region)));
 }
 
 int Kind(const PixelRegion& region) {
@@ -52,7 +52,7 @@ bool Combine(PixelRegion& area, const PixelRegion& other, int mode) {
 }  // namespace
 
 const PixelRegion* GetPixelRegion(HRGN region) {
-  return Table().Find(region);
+  return Regions().Find(region);
 }
 
 HRGN CreateRectRgn(int left, int top, int right, int bottom) {
@@ -65,9 +65,9 @@ HRGN CreateEllipticRgn(int left, int top, int right, int bottom) {
 }
 
 int CombineRgn(HRGN result, HRGN a, HRGN b, int mode) {
-  PixelRegion* target = Table().Find(result);
-  const PixelRegion* first = Table().Find(a);
-  const PixelRegion* second = Table().Find(b);
+  PixelRegion* target = Regions().Find(result);
+  const PixelRegion* first = Regions().Find(a);
+  const PixelRegion* second = Regions().Find(b);
   if (!target || !first || (!second && mode != RGN_COPY)) return ERROR;
   PixelRegion area = *first;
   if (mode != RGN_COPY && !Combine(area, *second, mode)) return ERROR;
@@ -76,29 +76,29 @@ int CombineRgn(HRGN result, HRGN a, HRGN b, int mode) {
 }
 
 BOOL EqualRgn(HRGN a, HRGN b) {
-  const PixelRegion* first = Table().Find(a);
-  const PixelRegion* second = Table().Find(b);
+  const PixelRegion* first = Regions().Find(a);
+  const PixelRegion* second = Regions().Find(b);
   return first && second && *first == *second;
 }
 
 BOOL PtInRegion(HRGN region, int x, int y) {
-  const PixelRegion* area = Table().Find(region);
+  const PixelRegion* area = Regions().Find(region);
   return area && area->Contains(POINT{x, y});
 }
 
 int GetRgnBox(HRGN region, RECT* box) {
-  const PixelRegion* area = Table().Find(region);
+  const PixelRegion* area = Regions().Find(region);
   if (!area || !box) return ERROR;
   *box = area->Bounds();
   return Kind(*area);
 }
 
 BOOL DeleteRgn(HRGN region) {
-  return Table().Remove(region) != nullptr;
+  return Regions().Remove(region) != nullptr;
 }
 
 CRgn::CRgn(const CRgn& other) {
-  if (const PixelRegion* area = Table().Find(other.region_)) region_ = Add(*area);
+  if (const PixelRegion* area = Regions().Find(other.region_)) region_ = Add(*area);
 }
 
 CRgn& CRgn::operator=(const CRgn& other) {

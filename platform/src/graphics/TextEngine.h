@@ -5,17 +5,8 @@
 #include <memory>
 #include <string_view>
 
-// These macros of glib would stand in the way of the constants in platform/Types.h.
-#undef TRUE
-#undef FALSE
-
+#include "graphics/GObjectPtr.h"
 #include "platform/Types.h"
-
-struct GObjectRelease {
-  void operator()(gpointer object) const { g_object_unref(object); }
-};
-template <typename T>
-using GObjectPtr = std::unique_ptr<T, GObjectRelease>;
 
 struct FontDescriptionRelease {
   void operator()(PangoFontDescription* description) const {

@@ -9,7 +9,7 @@ constexpr int kCaptionHeight = 30;
 constexpr int kSizingFrame = 4;
 constexpr int kFixedFrame = 1;
 constexpr int kCloseWidth = 40;
-constexpr int kTitleIndent = 10;
+constexpr int kCaptionIndent = 10;
 
 struct CloseColors {
   COLORREF face;
@@ -56,7 +56,7 @@ RECT CloseButtonRect(const RECT& caption) {
 void DrawCaption(Painter& painter, const RECT& caption, std::wstring_view title, bool active,
                  bool hasCloseButton, FramePart hovered, FramePart pressed) {
   painter.FillRect(caption, CaptionColor(active));
-  CRect text = CRect(caption).Shrunk(ScaleUnits(kTitleIndent), 0);
+  CRect text = CRect(caption).Shrunk(ScaleUnits(kCaptionIndent), 0);
   if (hasCloseButton) {
     RECT close = CloseButtonRect(caption);
     CloseColors colors =

@@ -10,7 +10,7 @@ struct Click {
   std::uint32_t time = 0;
 };
 
-Click& Latest() {
+Click& LatestClick() {
   static Click click;
   return click;
 }
@@ -23,16 +23,16 @@ bool IsNear(const POINT& a, const POINT& b) {
 }  // namespace
 
 bool NoteClick(const Window& window, const display::Input& press) {
-  const Click before = Latest();
+  const Click before = LatestClick();
   const bool twice = before.window == window.handle && before.button == press.button &&
                      press.time - before.time <= GetDoubleClickTime() &&
                      IsNear(before.place, press.position);
-  Latest() = twice ? Click{} : Click{window.handle, press.button, press.position, press.time};
+  LatestClick() = twice ? Click{} : Click{window.handle, press.button, press.position, press.time};
   return twice;
 }
 
 void ForgetClick(const Window& window) {
-  if (Latest().window == window.handle) Latest() = {};
+  if (LatestClick().window == window.handle) LatestClick() = {};
 }
 
 }  // namespace core

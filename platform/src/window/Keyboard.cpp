@@ -1,5 +1,7 @@
 #include "window/Keyboard.h"
 
+#include <utility>
+
 #include "platform/VirtualKeys.h"
 #include "window/Activation.h"
 #include "window/Focus.h"
@@ -12,13 +14,13 @@ namespace {
 using display::Input;
 
 // The latest key message and the characters that it gives.
-struct LatestKey {
+struct KeyStroke {
   MSG message{};
   std::u32string text;
 };
 
-LatestKey& Latest() {
-  static LatestKey latest;
+KeyStroke& LatestKey() {
+  static KeyStroke latest;
   return latest;
 }
 
@@ -75,7 +77,7 @@ std::optional<MSG> KeyMessage(const Input& input) {
       target->handle, message, static_cast<WPARAM>(key), KeyData(input, wasDown || !down, altHeld),
       input.time,     {}};
   GetCursorPos(&made.pt);
-  Latest() = {made, down ? input.text : std::u32string()};
+  LatestKey() = {made, down ? input.text : std::u32string()};
   return made;
 }
 
@@ -90,8 +92,8 @@ void NoteMouseUsed() {
 }  // namespace core
 
 BOOL TranslateMessage(const MSG* message) {
-  if (!message || !core::SameMessage(core::Latest().message, *message)) return FALSE;
-  const std::u32string text = std::exchange(core::Latest().text, {});
+  if (!message || !core::SameMessage(core::LatestKey().message, *message)) return FALSE;
+  const std::u32string text = std::exchange(core::LatestKey().text, {});
   const UINT kind = message->message == WM_SYSKEYDOWN ? WM_SYSCHAR : WM_CHAR;
   for (const char32_t c : text)
     PostMessageW(message->hwnd, kind, static_cast<WPARAM>(c), message->lParam);

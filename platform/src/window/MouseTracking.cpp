@@ -1,5 +1,7 @@
 #include "window/MouseTracking.h"
 
+#include <utility>
+
 #include "window/Coordinates.h"
 #include "window/KeyState.h"
 
@@ -25,13 +27,13 @@ Tracking& Request() {
   return request;
 }
 
-Pointer& Latest() {
+Pointer& LatestPointer() {
   static Pointer pointer;
   return pointer;
 }
 
 void StartHover(Tracking& request) {
-  request.restingPlace = Latest().place;
+  request.restingPlace = LatestPointer().place;
   request.hoverDue = display::Current().Now() + request.hoverTime;
 }
 
@@ -49,10 +51,10 @@ void Leave() {
 }  // namespace
 
 void NotePointerOver(const Window* window, POINT screen) {
-  Latest() = {window ? window->handle : nullptr, screen};
+  LatestPointer() = {window ? window->handle : nullptr, screen};
   Tracking& request = Request();
   if (!request.window) return;
-  if (request.window != Latest().over)
+  if (request.window != LatestPointer().over)
     Leave();
   else if (request.hover && HasMovedAway(request, screen))
     StartHover(request);
@@ -68,7 +70,7 @@ void PostDueHover() {
   if (!due || *due > display::Current().Now()) return;
   Tracking& request = Request();
   request.hover = false;
-  const POINT p = ToClient(*Find(request.window), Latest().place);
+  const POINT p = ToClient(*Find(request.window), LatestPointer().place);
   PostMessageW(request.window, WM_MOUSEHOVER, MouseKeys(), MAKELPARAM(p.x, p.y));
   if (!request.leave) request = {};
 }
@@ -89,6 +91,6 @@ BOOL TrackMouseEvent(TRACKMOUSEEVENT* request) {
     tracking.hoverTime = ownTime ? request->dwHoverTime : kHoverTime;
     core::StartHover(tracking);
   }
-  if (core::Latest().over != request->hwndTrack) core::Leave();
+  if (core::LatestPointer().over != request->hwndTrack) core::Leave();
   return TRUE;
 }

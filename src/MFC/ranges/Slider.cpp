@@ -11,8 +11,8 @@ namespace Wexa {
 
 namespace {
 
-constexpr int kIdealLength = 100;
-constexpr int kSmallestLength = 48;
+constexpr int kSliderLength = 100;
+constexpr int kSmallestSlider = 48;
 constexpr int kThickness = 24;
 
 class SliderImpl : public RangeControl::impl {
@@ -25,8 +25,8 @@ class SliderImpl : public RangeControl::impl {
 
  protected:
   bool IsVertical() const override { return (Creation().style & TBS_VERT) != 0; }
-  Size LyingIdealSize() const override { return Scale(kIdealLength, kThickness); }
-  Size LyingMinimumSize() const override { return Scale(kSmallestLength, kThickness); }
+  Size LyingIdealSize() const override { return Scale(kSliderLength, kThickness); }
+  Size LyingMinimumSize() const override { return Scale(kSmallestSlider, kThickness); }
 };
 
 SliderWnd& WindowOf(RangeControl::impl& impl) {
