@@ -5,7 +5,11 @@ if(WEXA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # Results with precompiled headers are kept only when ccache may trust their defines and times.
   set(CMAKE_CXX_COMPILER_LAUNCHER
     ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${WEXA_CCACHE})
-  add_compile_options(-fpch-preprocess)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-fpch-preprocess)
+  else()
+    add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
+  endif()
 endif()
 
 include(CheckLinkerFlag)

@@ -1,5 +1,6 @@
-# Every header compiles alone, and included twice. Public headers are seen as a host sees them: only
-# through <wexa/...>, without the tree's own include folders.
+# Headers compile alone, and included twice. Public headers are seen as a host sees them: only through
+# <wexa/...>, without the tree's own include folders. Of the others, those that no source includes first:
+# the rest prove it wherever precompiled headers are off.
 
 # wexa_headers_alone(name BASE folder PREFIX prefix HEADERS header...): one source for each header, which
 # includes it as <prefix/path from base>.
@@ -31,9 +32,26 @@ foreach(target public_headers_alone layer_headers_alone)
   target_include_directories(${target} PRIVATE ${WEXA_HOST_INCLUDE_DIR})
 endforeach()
 
+# Takes headers out of a list that have a source of their name.
+function(wexa_without_source list)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${root}/src/*.cpp ${root}/platform/src/*.cpp)
+  list(TRANSFORM sources REPLACE "^.*/" "")
+  set(left)
+  foreach(header IN LISTS ${list})
+    get_filename_component(name ${header} NAME_WE)
+    if(NOT ${name}.cpp IN_LIST sources)
+      list(APPEND left ${header})
+    endif()
+  endforeach()
+  set(${list} ${left} PARENT_SCOPE)
+endfunction()
+
 file(GLOB_RECURSE layer CONFIGURE_DEPENDS ${root}/platform/src/*.h)
 file(GLOB_RECURSE library CONFIGURE_DEPENDS ${root}/src/*.h)
 file(GLOB implementations CONFIGURE_DEPENDS ${root}/include/MFC/*.h)
+foreach(headers layer library implementations)
+  wexa_without_source(${headers})
+endforeach()
 wexa_headers_alone(layer_internals_alone BASE ${root}/platform/src HEADERS ${layer})
 wexa_headers_alone(library_internals_alone BASE ${root}/src HEADERS ${library})
 wexa_headers_alone(implementation_headers_alone BASE ${root}/include HEADERS ${implementations})
