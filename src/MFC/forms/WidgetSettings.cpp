@@ -16,7 +16,7 @@ namespace Wexa {
 
 namespace {
 
-bool Has(const FormNode& node, PropertyId id, std::wstring_view word) {
+bool HasWord(const FormNode& node, PropertyId id, std::wstring_view word) {
   const std::wstring* text = node.Text(id);
   return text && HasEnumWord(*text, word);
 }
@@ -35,7 +35,7 @@ CRect RectOf(const FormNode& node) {
 }
 
 DWORD ClassStyle(const FormNode& node, std::wstring_view className) {
-  bool isVertical = Has(node, PropertyId::Orientation, L"Qt::Vertical");
+  bool isVertical = HasWord(node, PropertyId::Orientation, L"Qt::Vertical");
   if (className == L"QTableWidget" || className == L"QListWidget") {
     const std::wstring* sorted = node.Text(PropertyId::SortingEnabled);
     return sorted && *sorted == L"true" ? LVS_SORTASCENDING : 0;
@@ -44,7 +44,7 @@ DWORD ClassStyle(const FormNode& node, std::wstring_view className) {
   if (className == L"QScrollBar") return isVertical ? SBS_VERT : 0;
   if (className == L"QProgressBar") return isVertical ? PBS_VERTICAL : 0;
   if (className == L"Line" && isVertical) return SS_ETCHEDVERT;
-  if (className == L"Line" && Has(node, PropertyId::Orientation, L"Qt::Horizontal"))
+  if (className == L"Line" && HasWord(node, PropertyId::Orientation, L"Qt::Horizontal"))
     return SS_ETCHEDHORZ;
   return 0;
 }
@@ -53,8 +53,8 @@ void ApplyStyle(CreationRecord& record, const FormNode& node, std::wstring_view 
   record.style |= ClassStyle(node, className);
   const std::wstring* frame = node.Text(PropertyId::FrameShape);
   if (frame && IsEnumWord(*frame, L"QFrame::Box")) record.style |= WS_BORDER;
-  if (Has(node, PropertyId::FocusPolicy, L"Qt::NoFocus")) record.style &= ~WS_TABSTOP;
-  if (Has(node, PropertyId::FrameShape, L"QFrame::NoFrame")) record.style &= ~WS_BORDER;
+  if (HasWord(node, PropertyId::FocusPolicy, L"Qt::NoFocus")) record.style &= ~WS_TABSTOP;
+  if (HasWord(node, PropertyId::FrameShape, L"QFrame::NoFrame")) record.style &= ~WS_BORDER;
 }
 
 void ApplySizePolicy(BaseGUIObject& widget, const FormNode& node, const std::wstring& className) {
@@ -62,7 +62,7 @@ void ApplySizePolicy(BaseGUIObject& widget, const FormNode& node, const std::wst
   const std::wstring* vertical = node.Text(PropertyId::VSizeType);
   if (!horizontal || !vertical || !node.Text(PropertyId::HorStretch) ||
       !node.Text(PropertyId::VerStretch)) {
-    bool isVertical = Has(node, PropertyId::Orientation, L"Qt::Vertical");
+    bool isVertical = HasWord(node, PropertyId::Orientation, L"Qt::Vertical");
     return widget.SetSizePolicy(DefaultPolicyOf(className, isVertical));
   }
   SizePolicy policy(WexaUtils::PropertyToSizePolicy(*horizontal),
