@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kSliderLength = 100;
 constexpr int kSmallestSlider = 48;
-constexpr int kThickness = 24;
+constexpr int kTrackThickness = 24;
 
 class SliderImpl : public RangeControl::impl {
  public:
@@ -25,8 +25,8 @@ class SliderImpl : public RangeControl::impl {
 
  protected:
   bool IsVertical() const override { return (Creation().style & TBS_VERT) != 0; }
-  Size LyingIdealSize() const override { return Scale(kSliderLength, kThickness); }
-  Size LyingMinimumSize() const override { return Scale(kSmallestSlider, kThickness); }
+  Size LyingIdealSize() const override { return Scale(kSliderLength, kTrackThickness); }
+  Size LyingMinimumSize() const override { return Scale(kSmallestSlider, kTrackThickness); }
 };
 
 SliderWnd& WindowOf(RangeControl::impl& impl) {
