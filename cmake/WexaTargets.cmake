@@ -31,11 +31,27 @@ if(WEXA_BUILD_TESTS)
   target_link_libraries(wexa_test_headers PRIVATE GTest::gmock)
 endif()
 
-# wexa_quick(target precompiled): compiles a target's sources some at a time, on top of a precompiled
-# header.
+# wexa_sources(list folder...): the sources of some folders; those of one folder are compiled together,
+# eight at a time.
+function(wexa_sources list)
+  set(sources)
+  foreach(folder IN LISTS ARGN)
+    file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp)
+    string(MAKE_C_IDENTIFIER "${folder}" group)
+    set(count 0)
+    foreach(source IN LISTS found)
+      math(EXPR batch "${count} / 8")
+      math(EXPR count "${count} + 1")
+      set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${group}_${batch})
+    endforeach()
+    list(APPEND sources ${found})
+  endforeach()
+  set(${list} ${sources} PARENT_SCOPE)
+endfunction()
+
+# wexa_quick(target precompiled): compiles a target's sources together, on top of a precompiled header.
 function(wexa_quick target precompiled)
-  set_target_properties(${target} PROPERTIES
-    UNITY_BUILD ${WEXA_UNITY_BUILD} UNITY_BUILD_BATCH_SIZE 8)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${WEXA_UNITY_BUILD} UNITY_BUILD_MODE GROUP)
   if(WEXA_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # An implementation's hidden members look to it as if they stood in a header.
     target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
@@ -46,11 +62,7 @@ endfunction()
 # wexa_room(name folder... LINKS target...): the sources of some folders as one object library.
 function(wexa_room name)
   cmake_parse_arguments(ROOM "" "" "LINKS;FOLDERS" ${ARGN})
-  set(sources)
-  foreach(folder IN LISTS ROOM_FOLDERS)
-    file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp)
-    list(APPEND sources ${found})
-  endforeach()
+  wexa_sources(sources ${ROOM_FOLDERS})
   if(NOT sources)
     return()
   endif()
@@ -70,11 +82,7 @@ add_custom_target(thread_tests)
 # LAUNCHER is a program that runs it, if not the test driver itself.
 function(wexa_test name)
   cmake_parse_arguments(TEST "" "LAUNCHER" "ROOMS;FOLDERS;LABELS" ${ARGN})
-  set(sources)
-  foreach(folder IN LISTS TEST_FOLDERS)
-    file(GLOB found CONFIGURE_DEPENDS ${folder}/*.cpp)
-    list(APPEND sources ${found})
-  endforeach()
+  wexa_sources(sources ${TEST_FOLDERS})
   if(NOT sources)
     return()
   endif()

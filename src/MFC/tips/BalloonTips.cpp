@@ -11,7 +11,7 @@ namespace Wexa {
 namespace {
 
 constexpr int kPictureSide = 32;
-constexpr UINT kShownMilliseconds = 10000;
+constexpr UINT kBalloonMilliseconds = 10000;
 
 std::shared_ptr<HBITMAP__> PictureOf(const unsigned char* data, int size,
                                      WexaUtils::ImageTypes type) {
@@ -40,7 +40,7 @@ bool BaseImplMFC::ShowBalloon(const TipContent& content, bool closesOnInput, boo
   if (!owner_) return false;
   if (!balloonTip_) balloonTip_ = std::make_shared<BalloonTip>();
   return balloonTip_->Show(*owner_, content,
-                           {closesOnInput, closesInTime ? kShownMilliseconds : 0});
+                           {closesOnInput, closesInTime ? kBalloonMilliseconds : 0});
 }
 
 bool BaseImplMFC::ShowBalloonTipEx(const std::wstring& text, BalloonTipIconType icon,

@@ -11,7 +11,7 @@ namespace {
 constexpr UINT kShowTimer = 1;
 constexpr UINT kHideTimer = 2;
 constexpr UINT kRestMilliseconds = 500;
-constexpr UINT kShownMilliseconds = 5000;
+constexpr UINT kTipMilliseconds = 5000;
 constexpr int kPointerHeight = 20;
 
 // Whether input at the point that came to `window` is meant for the widget. A disabled window gets
@@ -63,7 +63,7 @@ LRESULT ToolTipWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 // Below the pointer, or above it where there is no room.
 void ToolTipWindow::ShowAtPointer() {
   KillTimer(kShowTimer);
-  SetTimer(kHideTimer, kShownMilliseconds);
+  SetTimer(kHideTimer, kTipMilliseconds);
   POINT pointer{};
   GetCursorPos(&pointer);
   const SIZE size = ContentSize();

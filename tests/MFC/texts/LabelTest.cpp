@@ -50,7 +50,7 @@ TEST_F(LabelTest, CentredTextsAreCutNotWrapped) {
 
 // -- Pictures
 
-constexpr std::uint32_t kGreen = 0x12C834;
+constexpr std::uint32_t kLabelGreen = 0x12C834;
 
 class LabelPictureTest : public FormTest {
  protected:
@@ -63,7 +63,7 @@ class LabelPictureTest : public FormTest {
   void WritePicture(const std::string& name, int width, int height) const {
     const auto file = host_ / "wexaresources/img" / name;
     std::filesystem::create_directories(file.parent_path());
-    const auto bytes = pictures::BmpFile(width, height, pictures::Always(kGreen));
+    const auto bytes = pictures::BmpFile(width, height, pictures::Always(kLabelGreen));
     std::ofstream(file, std::ios::binary)
         .write(reinterpret_cast<const char*>(bytes.data()),
                static_cast<std::streamsize>(bytes.size()));
@@ -73,7 +73,7 @@ class LabelPictureTest : public FormTest {
     return WidgetItem("QLabel", name,
                       TextXml("instead") + PropertyXml("pixmap", "pixmap", file) + more);
   }
-  CRect Shown(const wchar_t* label, std::uint32_t color = kGreen) {
+  CRect Shown(const wchar_t* label, std::uint32_t color = kLabelGreen) {
     return Robot::BoundsOf(Find<Label>(label).GetPlatformHandle(), color);
   }
 
