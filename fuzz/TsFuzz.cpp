@@ -13,9 +13,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(reinterpret_cast<const char*>(data), size);
   if (!Wexa::IsUtf8(text)) return 0;
   for (const auto* language : {L"de", L"ar", L"pt_BR", L"ja"}) {
-    Wexa::TsPlaces places;
+    Wexa::TsReport report;
     try {
-      if (const auto unit = Wexa::LoadTsText(text, language, places)) {
+      if (const auto unit = Wexa::LoadTsText(text, language, report)) {
         TSTranslationUnit all;
         all.AppendTsTranslationUnit(*unit);
       }

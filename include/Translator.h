@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -11,7 +13,9 @@
 
 namespace Wexa {
 
-// Why a language file gave nothing, or what is wrong with it.
+struct TsReport;
+
+// Why a language file gave nothing, what is wrong with it, or why a form was not translated.
 struct LanguageDiagnostic {
   std::wstring file;    // its path
   int line;             // counted from 1; 0 for the whole file
@@ -39,7 +43,8 @@ class WEXA_API Translator {
   std::wstring GetDefaultText(const std::wstring& name, const std::wstring& id);
   // Forgets all texts, form translations and diagnostics.
   void ResetStringsTable();
-  // What was wrong with the files read since the last reset, in the order it was found.
+  // What was wrong with the files read since the last reset, in the order it was found: files that
+  // gave nothing or not all, and forms in which no translation found its text.
   const std::vector<LanguageDiagnostic>& GetDiagnostics() const { return diagnostics_; }
 
   // The text of a language file, decrypted where encrypted files are expected; empty on failure.
@@ -54,7 +59,7 @@ class WEXA_API Translator {
   void SetEmptyTranslationsApplied(bool applied) { emptyTranslationsApplied_ = applied; }
   bool AreEmptyTranslationsApplied() const { return emptyTranslationsApplied_; }
   // The same for the text of a plain form file read from `path`, which keeps its lines.
-  std::wstring TranslateUIText(const std::wstring& path, const std::wstring& text) const;
+  std::wstring TranslateUIText(const std::wstring& path, const std::wstring& text);
 
  private:
   using Texts = std::unordered_map<std::wstring, std::wstring>;
@@ -67,8 +72,12 @@ class WEXA_API Translator {
   void ReadStrings(const std::wstring& path, Texts& texts);
   void MergeFormTranslations(const std::wstring& name);
   void ReadFormTranslations(const std::wstring& path);
+  void DiagnoseTsFile(const std::wstring& path, const TsReport& report, bool hasMessages);
+  void DiagnoseUnmatched(const std::wstring& path, const std::wstring& form, std::size_t texts);
+  const std::map<unsigned int, std::wstring>& TranslationsOf(const std::wstring& form) const;
   static std::string ReadLanguageFile(const std::wstring& path);
   std::string ReadOrDiagnose(const std::wstring& path);
+  void DiagnoseUnread(const std::wstring& path, const std::string& text);
   void DiagnoseAt(const std::wstring& path, std::size_t offset, std::wstring reason);
   void Diagnose(const std::wstring& path, int line, std::wstring reason);
 
@@ -76,6 +85,8 @@ class WEXA_API Translator {
   StringsTable defaultStrings_;
   TSTranslationUnit unit_;
   std::set<std::wstring> loadedTsFiles_;
+  // Why the TS files that are there may match no form; empty when none is there.
+  std::wstring reasonForNoMatch_;
   std::vector<LanguageDiagnostic> diagnostics_;
   bool emptyTranslationsApplied_ = false;
 };

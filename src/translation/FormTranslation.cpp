@@ -102,6 +102,35 @@ class Entries {
   EmptyTranslations empty_;
 };
 
+template <typename Char>
+std::basic_string<Char> Ascii(std::string_view text) {
+  return {text.begin(), text.end()};
+}
+
+template <typename Char>
+std::size_t CountTranslatable(std::basic_string_view<Char> text) {
+  constexpr auto kNone = std::basic_string_view<Char>::npos;
+  const auto opening = Ascii<Char>(kStartTag);
+  const auto fixed = Ascii<Char>("notr=\"true\"");
+  std::size_t count = 0;
+  for (auto at = text.find(opening); at != kNone; at = text.find(opening, at + 1)) {
+    const auto tag = text.substr(at, text.find(Char('>'), at) - at);
+    const bool isString = tag.size() == opening.size() || tag[opening.size()] == Char(' ');
+    if (isString && tag.find(fixed) == kNone) ++count;
+  }
+  return count;
+}
+
+template <typename Char>
+std::size_t CountUnmatchedIn(std::basic_string_view<Char> text, const FormLines& translations) {
+  LineReader<Char> lines(text);
+  const auto first = translations.begin();
+  while (first != translations.end() && lines.Number() < first->first && lines.Next()) continue;
+  const bool matches = first != translations.end() && lines.Number() == first->first &&
+                       lines.Has(Ascii<Char>(kStartTag));
+  return matches ? 0 : CountTranslatable(text);
+}
+
 std::size_t LongestText(std::string_view text, const FormLines& translations) {
   std::size_t length = text.size();
   for (const auto& [line, translation] : translations) length += translation.size();
@@ -150,6 +179,14 @@ std::wstring TranslateFormInPlace(const std::wstring& text, const FormLines& tra
     copied = string->end;
   }
   return translated.append(text, copied);
+}
+
+std::size_t CountUnmatched(std::string_view text, const FormLines& translations) {
+  return CountUnmatchedIn(text, translations);
+}
+
+std::size_t CountUnmatched(std::wstring_view text, const FormLines& translations) {
+  return CountUnmatchedIn(text, translations);
 }
 
 }  // namespace Wexa

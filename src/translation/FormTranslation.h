@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
@@ -21,5 +22,10 @@ std::wstring TranslateForm(std::string_view text, const FormLines& translations,
 // was, lines included. A line on which no string element starts ends the replacing. Strings with an
 // empty translation stay.
 std::wstring TranslateFormInPlace(const std::wstring& text, const FormLines& translations);
+
+// How many strings there are in a form of which the first translation finds none; 0 where it finds
+// one. Those marked as not to be translated do not count.
+std::size_t CountUnmatched(std::string_view text, const FormLines& translations);
+std::size_t CountUnmatched(std::wstring_view text, const FormLines& translations);
 
 }  // namespace Wexa

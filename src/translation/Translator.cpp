@@ -33,12 +33,6 @@ std::wstring FormName(const std::wstring& path) {
   return name.substr(0, name.size() - std::min(name.size(), kEncryptedSuffixLength));
 }
 
-const FormLines& TranslationsOf(const TSTranslationUnit& unit, const std::wstring& form) {
-  static const FormLines kNone;
-  const auto found = unit.GetMessageMap().find(form);
-  return found == unit.GetMessageMap().end() ? kNone : found->second;
-}
-
 // What the parser and the standard library say is plain ASCII.
 std::wstring Widen(const char* text) {
   return std::wstring(text, text + std::strlen(text));
@@ -87,8 +81,10 @@ void Translator::LoadStringsOnce(StringsTable& table, const std::wstring& path) 
 }
 
 void Translator::ReadStrings(const std::wstring& path, Texts& texts) try {
-  LoadStringsText(ReadOrDiagnose(path), {GetCurrentLanguage(), GetDefaultLanguage()}, texts,
-                  *GetFontInfo());
+  const Languages languages{GetCurrentLanguage(), GetDefaultLanguage()};
+  for (const auto& [offset, reason] :
+       LoadStringsText(ReadOrDiagnose(path), languages, texts, *GetFontInfo()))
+    DiagnoseAt(path, offset, reason);
 } catch (const XmlParseError& error) {
   DiagnoseAt(path, error.Offset(), Widen(error.what()));
 }
@@ -99,9 +95,12 @@ void Translator::MergeFormTranslations(const std::wstring& name) {
 }
 
 void Translator::ReadFormTranslations(const std::wstring& path) {
-  TsPlaces places;
+  std::string text = ReadOrDiagnose(path);
+  if (text.empty()) return;
+  TsReport report;
   try {
-    auto unit = LoadTsText(ReadOrDiagnose(path), GetCurrentLanguage(), places);
+    auto unit = LoadTsText(std::move(text), GetCurrentLanguage(), report);
+    DiagnoseTsFile(path, report, unit && !unit->GetMessageMap().empty());
     if (unit && unit_.GetMessageMap().empty()) {
       unit_ = std::move(*unit);
     } else if (unit) {
@@ -110,12 +109,28 @@ void Translator::ReadFormTranslations(const std::wstring& path) {
   } catch (const XmlParseError& error) {
     DiagnoseAt(path, error.Offset(), Widen(error.what()));
   } catch (const std::logic_error&) {
-    DiagnoseAt(path, *places.bad, L"the line of this location is no number");
+    DiagnoseAt(path, *report.bad, L"the line of this location is no number");
   }
-  if (places.relative) {
-    DiagnoseAt(path, *places.relative,
+  if (report.relative) {
+    DiagnoseAt(path, *report.relative,
                L"the lines of locations are relative from here on; they must be absolute");
   }
+}
+
+void Translator::DiagnoseTsFile(const std::wstring& path, const TsReport& report,
+                                bool hasMessages) {
+  const std::wstring wanted = GetCurrentLanguage();
+  if (!report.isTs) return Diagnose(path, 0, L"no TS file");
+  reasonForNoMatch_ = L"no message is for this form";
+  if (report.language != wanted) {
+    reasonForNoMatch_ = L"the language file is for another language";
+    return Diagnose(path, 0,
+                    report.language ? L"for \"" + *report.language + L"\", not for " + wanted
+                                    : L"names no language; it must be " + wanted);
+  }
+  if (report.messages == 0 || hasMessages) return;
+  reasonForNoMatch_ = L"the messages have no locations";
+  Diagnose(path, 0, L"none of its messages has a location");
 }
 
 // The bytes of a language file, decrypted; empty on failure.
@@ -131,10 +146,15 @@ std::string Translator::ReadOrDiagnose(const std::wstring& path) {
   std::string text = ReadLanguageFile(path);
   const bool sound = !text.empty() && IsUtf8(text);
   if (!sound && std::filesystem::exists(NativePath(path))) {
-    const bool encrypted = text.empty() && ExpectsEncryptedLanguageFiles();
-    Diagnose(path, 0, encrypted ? L"no encrypted file, or damaged" : L"empty or not UTF-8");
+    DiagnoseUnread(path, text);
   }
   return sound ? text : std::string();
+}
+
+void Translator::DiagnoseUnread(const std::wstring& path, const std::string& text) {
+  if (IsFileTooLarge(path)) return Diagnose(path, 0, L"the file is too large");
+  if (!text.empty()) return DiagnoseAt(path, *FindBadUtf8(text), L"not UTF-8");
+  Diagnose(path, 0, ExpectsEncryptedLanguageFiles() ? L"no encrypted file, or damaged" : L"empty");
 }
 
 // Reading a text changes it, so that its lines are counted in the file.
@@ -158,6 +178,7 @@ void Translator::ResetStringsTable() {
   currentStrings_.clear();
   defaultStrings_.clear();
   unit_.Clear();
+  reasonForNoMatch_.clear();
   loadedTsFiles_.clear();
   diagnostics_.clear();
 }
@@ -190,11 +211,33 @@ std::wstring Translator::TranslateUIBytes(const std::wstring& path, std::string 
   if (!IsUtf8(form)) return {};
   const auto empty =
       emptyTranslationsApplied_ ? EmptyTranslations::EmptyString : EmptyTranslations::KeepString;
-  return TranslateForm(form, TranslationsOf(unit_, FormName(path)), empty);
+  const std::wstring name = FormName(path);
+  const FormLines& lines = TranslationsOf(name);
+  if (!reasonForNoMatch_.empty()) DiagnoseUnmatched(path, name, CountUnmatched(form, lines));
+  return TranslateForm(form, lines, empty);
 }
 
-std::wstring Translator::TranslateUIText(const std::wstring& path, const std::wstring& text) const {
-  return TranslateFormInPlace(text, TranslationsOf(unit_, FileName(path)));
+std::wstring Translator::TranslateUIText(const std::wstring& path, const std::wstring& text) {
+  const std::wstring name = FileName(path);
+  const FormLines& lines = TranslationsOf(name);
+  if (!reasonForNoMatch_.empty()) DiagnoseUnmatched(path, name, CountUnmatched(text, lines));
+  return TranslateFormInPlace(text, lines);
+}
+
+const std::map<unsigned int, std::wstring>& Translator::TranslationsOf(
+    const std::wstring& form) const {
+  static const FormLines kNone;
+  const auto found = unit_.GetMessageMap().find(form);
+  return found == unit_.GetMessageMap().end() ? kNone : found->second;
+}
+
+void Translator::DiagnoseUnmatched(const std::wstring& path, const std::wstring& form,
+                                   std::size_t texts) {
+  if (texts == 0) return;
+  const std::wstring& reason =
+      TranslationsOf(form).empty() ? reasonForNoMatch_ : L"the messages are for other lines";
+  Diagnose(path, 0,
+           L"0 of " + std::to_wstring(texts) + L" texts of " + form + L" matched: " + reason);
 }
 
 }  // namespace Wexa

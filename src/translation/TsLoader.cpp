@@ -67,7 +67,7 @@ bool IsTsFor(const Utf8XmlNode* root, std::string_view language) {
 // Reads the messages of one TS file.
 class TsReader {
  public:
-  TsReader(std::string_view language, TsPlaces& places) : language_(language), places_(places) {}
+  TsReader(std::string_view language, TsReport& report) : language_(language), report_(report) {}
 
   void Take(const Utf8XmlDocument& document, const Utf8XmlNode& root, const Utf8XmlNode& parent,
             const Utf8XmlNode& element) {
@@ -79,6 +79,7 @@ class TsReader {
 
  private:
   void ReadMessage(const Utf8XmlDocument& document, const Utf8XmlNode& message) {
+    ++report_.messages;
     locations_.clear();
     translation_.Clear();
     for (const auto* part = message.first_node(); part; part = part->next_sibling()) {
@@ -107,11 +108,11 @@ class TsReader {
     int line = 0;
     const auto result = std::from_chars(number.data(), number.data() + number.size(), line);
     if (result.ec == std::errc() && line >= 0) return line;
-    if (!places_.relative && IsRelative(number)) places_.relative = place;
+    if (!report_.relative && IsRelative(number)) report_.relative = place;
     try {
       return std::stoi(std::string(number));
     } catch (const std::logic_error&) {
-      places_.bad = place;
+      report_.bad = place;
       throw;
     }
   }
@@ -126,7 +127,7 @@ class TsReader {
   }
 
   std::string_view language_;
-  TsPlaces& places_;
+  TsReport& report_;
   const Utf8XmlNode* root_ = nullptr;  // the last one seen
   bool wanted_ = false;                // its messages
   std::vector<Location> locations_;    // of the message being read
@@ -139,11 +140,15 @@ class TsReader {
 }  // namespace
 
 std::optional<TSTranslationUnit> LoadTsText(std::string text, const std::wstring& language,
-                                            TsPlaces& places) {
+                                            TsReport& report) {
   const std::string code = NarrowUtf8(language);
-  TsReader reader(code, places);
+  TsReader reader(code, report);
   const Utf8XmlDocument document(std::move(text), std::bind_front(&TsReader::Take, &reader));
-  if (!IsTsFor(document.First("TS"), code)) return std::nullopt;
+  const auto* root = document.First("TS");
+  report.isTs = root != nullptr;
+  const auto named = root ? AttributeOf(*root, "language") : std::nullopt;
+  if (named) report.language = WidenUtf8(*named);
+  if (!IsTsFor(root, code)) return std::nullopt;
   return TSTranslationUnit(reader.TakeMessages());
 }
 

@@ -53,8 +53,8 @@ std::wstring Write(const std::string& bytes) {
 }
 
 void ReadTs(const std::string& bytes) {
-  TsPlaces places;
-  if (IsUtf8(bytes)) LoadTsText(bytes, L"de_DE", places);
+  TsReport report;
+  if (IsUtf8(bytes)) LoadTsText(bytes, L"de_DE", report);
 }
 
 void ReadStrings(const std::string& bytes) {

@@ -26,8 +26,8 @@ std::wstring Ts(const std::wstring& messages) {
 }
 
 std::optional<TSTranslationUnit> Load(const std::wstring& text) {
-  TsPlaces places;
-  return LoadTsText(NarrowUtf8(text), L"de-DE", places);
+  TsReport report;
+  return LoadTsText(NarrowUtf8(text), L"de-DE", report);
 }
 
 // What is read: "a.ui:3=text a.ui:12=other ", by the names of the files.
@@ -85,24 +85,24 @@ TEST(TsLoader, BadLinesAndBadXmlThrow) {
 }
 
 TEST(TsLoader, TellsWhereNumbersAreRelativeOrNone) {
-  TsPlaces places;
+  TsReport report;
   std::string text;
   const auto read = [&](const std::string& line) {
-    places = {};
+    report = {};
     text =
         "<TS language='de'>\n<context><message>\n<location filename='a.ui' line='1'/>\n"
         "<location filename='a.ui' line='" +
         line + "'/></message></context></TS>";
-    return LoadTsText(text, L"de", places);
+    return LoadTsText(text, L"de", report);
   };
   const auto lineAt = [&](std::size_t offset) { return LineAt(text, offset); };
   EXPECT_EQ(read("+12")->GetMessageMap().at(L"a.ui").count(12), 1u);
-  EXPECT_EQ(lineAt(places.relative.value()), 4);
-  EXPECT_FALSE(places.bad);
+  EXPECT_EQ(lineAt(report.relative.value()), 4);
+  EXPECT_FALSE(report.bad);
   EXPECT_THROW(read(""), std::invalid_argument);
-  EXPECT_EQ(lineAt(places.bad.value()), 4);
+  EXPECT_EQ(lineAt(report.bad.value()), 4);
   EXPECT_EQ(read(" 12 ")->GetMessageMap().at(L"a.ui").count(12), 1u);
-  EXPECT_FALSE(places.relative || places.bad);
+  EXPECT_FALSE(report.relative || report.bad);
 }
 
 // Longer than what the parser keeps ready for one message.
@@ -170,6 +170,21 @@ TEST(StringsLoader, SetsTheFontTheFileNames) {
   EXPECT_EQ(partly.font.height, 80);
 }
 
+TEST(StringsLoader, PassesOverFontsWithBrokenNumbers) {
+  for (const auto* height : {L"", L"x", L"110x", L"99999999999", L"10001", L"-10001"}) {
+    logFont font;
+    std::unordered_map<std::wstring, std::wstring> texts;
+    const auto file = L"<r language='de-DE'>\n<Font><PreFont FaceName='Arial' Height='" +
+                      std::wstring(height) + L"'/></Font></r>";
+    const auto faults = LoadStringsText(NarrowUtf8(file), {L"de-DE", L""}, texts, font);
+    ASSERT_EQ(faults.size(), 1u) << height;
+    EXPECT_EQ(LineAt(file, faults[0].offset), 2);
+    EXPECT_EQ(faults[0].reason, L"\"Height\" is no number from -10000 to 10000");
+    EXPECT_EQ(font.height, logFont().height);
+    EXPECT_EQ(font.faceName, L"Arial");
+  }
+}
+
 TEST(FormTranslation, ReplacesStringsWithTheirWholeLinesUpToALineWithoutOne) {
   const std::string form = "<string>1</string>\nno string\n<string>3</string>\nshort";
   const std::string twoLines = "<string>1\n2</string>\n<string>3</string>";
@@ -200,6 +215,17 @@ TEST(FormTranslation, StringsWithoutATranslationStayUnlessAskedFor) {
             L"<string></string>no string<string>3</string><string>4</string>");
   EXPECT_EQ(TranslateFormInPlace(*WidenUtf8(form), lines),
             L"<string>1</string>\nno string\n<string>t</string>\n<string>4</string>");
+}
+
+TEST(FormTranslation, CountsTheStringsThatTheFirstTranslationMisses) {
+  const std::string form =
+      "<ui>\n<string>1</string><string comment='x'>2</string>\n<stringlist/>"
+      "<string notr=\"true\">3</string><string/>";
+  for (const auto& [lines, count] :
+       {std::pair(FormLines{}, 2u), {{{1, L"t"}}, 2}, {{{2, L""}}, 0}, {{{9, L"t"}}, 2}}) {
+    EXPECT_EQ(CountUnmatched(form, lines), count);
+    EXPECT_EQ(CountUnmatched(*WidenUtf8(form), lines), count);
+  }
 }
 
 TEST(FormTranslation, InPlaceKeepsWhatIsAroundAString) {

@@ -141,7 +141,8 @@ TEST_F(TranslatorTest, BrokenStringsFilesGiveNothingAndAReason) {
   EXPECT_EQ(diagnostics[0].line, 2);
   EXPECT_EQ(diagnostics[0].reason, L"invalid closing tag name");
   EXPECT_EQ(diagnostics[1].file, GetStringsFilePath(L"", false));
-  EXPECT_EQ(diagnostics[1].reason, L"empty or not UTF-8");
+  EXPECT_EQ(diagnostics[1].line, 1);
+  EXPECT_EQ(diagnostics[1].reason, L"not UTF-8");
   translator_.ResetStringsTable();
   EXPECT_TRUE(translator_.GetDiagnostics().empty());
 }
@@ -159,6 +160,33 @@ TEST_F(TranslatorTest, BrokenTsFilesDisturbNoOther) {
   EXPECT_EQ(TranslateForm(), L"<ui><string>good</string></ui>");
   EXPECT_EQ(translator_.GetDiagnostics().size(), 3u);
   for (const auto& diagnostic : translator_.GetDiagnostics()) EXPECT_EQ(diagnostic.line, 2);
+}
+
+TEST_F(TranslatorTest, FilesThatMatchNoTextSayWhy) {
+  const std::string location = "<location filename='f.ui' line='";
+  const std::pair<std::string, std::wstring> kFiles[] = {
+      {" language='de_DE'>",
+       L"for \"de_DE\", not for de-DE|the language file is for another language"},
+      {">", L"names no language; it must be de-DE|the language file is for another language"},
+      {" language='de-DE'><context><message/></context>",
+       L"none of its messages has a location|the messages have no locations"},
+      {" language='de-DE'><context><message>" + location + "1'/></message></context>",
+       L"|the messages are for other lines"},
+      {" language='de-DE'>", L"|no message is for this form"},
+      {" language='de-DE'><context><message>" + location + "2'/></message></context>", L""}};
+  for (const auto& [ts, reasons] : kFiles) {
+    translator_.ResetStringsTable();
+    Write(GetTranslationFilePath(L"c"), "<TS" + ts + "</TS>");
+    translator_.LoadStrings(L"c");
+    TranslateForm();
+    std::wstring said;
+    for (const auto& diagnostic : translator_.GetDiagnostics()) {
+      const bool isForm = diagnostic.file.ends_with(L"f.ui.kv");
+      EXPECT_EQ(diagnostic.reason.starts_with(L"0 of 1 texts of f.ui matched: "), isForm);
+      said += isForm ? L"|" + diagnostic.reason.substr(30) : diagnostic.reason;
+    }
+    EXPECT_EQ(said, reasons) << ts;
+  }
 }
 
 TEST_F(TranslatorTest, PlainOrMissingFormsGiveNothing) {
