@@ -19,9 +19,15 @@ struct EncrypterAccess {
   // What ReadAndDecryptFile turns back into `text`.
   static std::vector<unsigned char> Pack(std::string_view text) {
     std::vector<unsigned char> bytes(text.begin(), text.end());
+    PackInPlace(bytes);
+    return bytes;
+  }
+  // The same to the bytes of a text.
+  static void PackInPlace(std::vector<unsigned char>& bytes) {
     Encrypter::RC4CryptBlock(bytes);
     const Digest digest = DigestOf(bytes);
     bytes.insert(bytes.end(), digest.begin(), digest.end());
-    return bytes;
   }
+  // The text of a packed file's bytes; empty when they are none.
+  static std::string Unpack(std::string bytes) { return Encrypter::DecryptBytes(std::move(bytes)); }
 };

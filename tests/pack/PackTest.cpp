@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include <sys/stat.h>
+
 #include "Encrypter.h"
 #include "Utf8.h"
 #include "data/TestData.h"
@@ -62,6 +64,16 @@ TEST_F(PackTest, BadFilesAreNamedAndTheOthersPacked) {
             "wexa-pack: none.ts: cannot be read: No such file or directory\n");
   EXPECT_EQ(Unpacked("z.ts.kv"), "good");
   EXPECT_EQ(CountFiles(), 4);
+}
+
+// Each of them would keep the program reading for ever.
+TEST_F(PackTest, PipesAndDevicesAreNoFiles) {
+  const auto pipe = Path("pipe.ts");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const auto result = Run(pipe + " /dev/zero -o " + Path("out"));
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.errors, "wexa-pack: " + pipe + ": no file\nwexa-pack: /dev/zero: no file\n");
+  EXPECT_EQ(Run("--check " + pipe).status, 1);
 }
 
 TEST_F(PackTest, AnUnwritableOutputLeavesNothingBehind) {

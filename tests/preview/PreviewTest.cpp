@@ -83,6 +83,27 @@ TEST_F(PreviewTest, DumpLeavesOutWhatIsHiddenOrNameless) {
   EXPECT_TRUE(widgets.contains("shown"));
 }
 
+TEST_F(PreviewTest, ShowsThePagesAskedFor) {
+  tool_.Write("pages.ui", kPagesForm);
+  const auto widgets = [this](const std::string& options) {
+    const Outcome outcome = tool_.Run("--dump - pages.ui " + options);
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    return json::parse(outcome.output)["sizes"][0]["widgets"];
+  };
+  EXPECT_TRUE(widgets("--page stack=1").contains("hidden"));
+  EXPECT_FALSE(widgets("--page stack=1").contains("shown"));
+  EXPECT_THAT(widgets("--hidden"), SizeIs(3));
+  EXPECT_THAT(tool_.Run("--dump - --page stack=2 pages.ui").errors, HasSubstr("no page 2"));
+  EXPECT_THAT(tool_.Run("--dump - --page other=0 pages.ui").errors, HasSubstr("named other"));
+  EXPECT_EQ(tool_.Run("--dump - --page stack pages.ui").status, 2);
+}
+
+TEST_F(PreviewTest, WhatCannotBeWrittenIsAnError) {
+  EXPECT_EQ(tool_.Run("--report rows.ui >/dev/full; exit $?; true").status, 1);
+  EXPECT_EQ(tool_.Run("--dump - rows.ui >/dev/full; exit $?; true").status, 1);
+  EXPECT_EQ(tool_.Run("--png /dev/full rows.ui").status, 1);
+}
+
 TEST_F(PreviewTest, PictureHasTheSizeOfTheWindow) {
   ASSERT_EQ(tool_.Run("--png small.png --size 300x200 rows.ui").status, 0);
   ASSERT_EQ(tool_.Run("--png large.png --size 300x200 --size 400x350 rows.ui").status, 0);

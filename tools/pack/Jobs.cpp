@@ -1,6 +1,7 @@
 #include "pack/Jobs.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 namespace pack {
@@ -14,22 +15,26 @@ bool IsWanted(const fs::path& file, Task task) {
   return extension == ".ts" || extension == ".ui" || extension == ".xml";
 }
 
-std::vector<fs::path> FilesBelow(const fs::path& folder, Task task) {
-  std::vector<fs::path> files;
-  for (const auto& entry : fs::recursive_directory_iterator(folder))
-    if (entry.is_regular_file() && IsWanted(entry.path(), task)) files.push_back(entry.path());
-  if (files.empty())
-    throw std::runtime_error(folder.string() + ": no such files below this folder");
-  std::ranges::sort(files);
-  return files;
+std::vector<Job> FilesBelow(const fs::path& folder, Task task) {
+  std::vector<Job> found;
+  std::error_code error;
+  for (const auto& entry : fs::directory_iterator(folder, error)) {
+    if (entry.is_directory() && !entry.is_symlink()) {
+      std::ranges::move(FilesBelow(entry.path(), task), std::back_inserter(found));
+    } else if (entry.is_regular_file() && IsWanted(entry.path(), task)) {
+      found.push_back({entry.path(), {}, {}});
+    }
+  }
+  if (error) found.push_back({folder, {}, "cannot be read: " + error.message()});
+  return found;
 }
 
 // `base` is the folder that was asked for, or that of a file that was.
 Job MakeJob(const Options& options, const fs::path& source, const fs::path& base) {
-  if (options.task != Task::Pack) return {source, {}};
+  if (options.task != Task::Pack) return {source, {}, {}};
   fs::path target = source;
   if (!options.folder.empty()) target = fs::path(options.folder) / source.lexically_relative(base);
-  return {source, target += kPackedExtension};
+  return {source, target += kPackedExtension, {}};
 }
 
 void CheckTargetsDiffer(std::vector<Job> jobs) {
@@ -50,8 +55,12 @@ std::vector<Job> FindJobs(const Options& options) {
       jobs.push_back(MakeJob(options, path, path.parent_path()));
       continue;
     }
-    for (const auto& file : FilesBelow(path, options.task))
-      jobs.push_back(MakeJob(options, file, path));
+    auto found = FilesBelow(path, options.task);
+    if (found.empty())
+      throw std::runtime_error(path.string() + ": no such files below this folder");
+    std::ranges::sort(found, {}, &Job::source);
+    for (Job& job : found)
+      jobs.push_back(job.problem.empty() ? MakeJob(options, job.source, path) : std::move(job));
   }
   CheckTargetsDiffer(jobs);
   return jobs;

@@ -1,15 +1,14 @@
 #include "pack/PackedFile.h"
 
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <stdexcept>
+#include <vector>
 
-#include "Utf8.h"
+#include "FileAside.h"
+#include "FileText.h"
 #include "Utf8Decoding.h"
 #include "translation/EncrypterAccess.h"
 
@@ -22,68 +21,55 @@ namespace fs = std::filesystem;
   throw std::runtime_error(what + ": " + std::strerror(errno));
 }
 
+using Bytes = std::vector<unsigned char>;
 using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
-std::string ReadBytes(const fs::path& path) {
+// Pipes and devices have no end, so that only files are read.
+std::size_t SizeOf(const fs::path& path) {
+  std::error_code error;
+  const auto kind = fs::status(path, error).type();
+  if (kind != fs::file_type::regular && kind != fs::file_type::not_found && !error)
+    throw std::runtime_error("no file");
+  const auto size = fs::file_size(path, error);
+  if (error) throw std::runtime_error("cannot be read: " + error.message());
+  if (size > Wexa::kLargestFile) throw std::runtime_error("too large: programs read 256 MB");
+  return size;
+}
+
+// In as much memory as the packed file takes.
+Bytes ReadBytes(const fs::path& path) {
+  const std::size_t size = SizeOf(path);
+  Bytes bytes;
+  bytes.reserve(size + sizeof(EncrypterAccess::Digest));
   const File file(std::fopen(path.c_str(), "rb"), &std::fclose);
   if (!file) FailWithReason("cannot be read");
-  std::string bytes;
-  char part[1 << 16];
-  while (const auto count = std::fread(part, 1, sizeof part, file.get())) bytes.append(part, count);
+  bytes.resize(size);
+  bytes.resize(std::fread(bytes.data(), 1, size, file.get()));
   if (std::ferror(file.get())) FailWithReason("cannot be read");
   return bytes;
 }
 
-// A file beside the one to write, which takes its place when it is complete.
-class FileAside {
- public:
-  explicit FileAside(const fs::path& target) : target_(target), name_(target.string() + ".XXXXXX") {
-    const int descriptor = mkstemp(name_.data());
-    file_.reset(descriptor < 0 ? nullptr : fdopen(descriptor, "wb"));
-    if (!file_) FailWithReason("cannot write " + target_.string());
-  }
-  ~FileAside() {
-    if (!name_.empty()) unlink(name_.c_str());
-  }
-  FileAside(const FileAside&) = delete;
-  FileAside& operator=(const FileAside&) = delete;
-
-  void Write(const std::vector<unsigned char>& bytes) {
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) == bytes.size();
-    const bool ended = std::fclose(file_.release()) == 0;
-    if (!written || !ended) FailWithReason("cannot write " + target_.string());
-  }
-  void TakePlace(fs::perms permissions) {
-    fs::permissions(name_, permissions);
-    if (std::rename(name_.c_str(), target_.c_str()) != 0)
-      FailWithReason("cannot write " + target_.string());
-    name_.clear();
-  }
-
- private:
-  const fs::path& target_;
-  std::string name_;
-  File file_{nullptr, &std::fclose};
-};
+bool IsUtf8(const Bytes& bytes) {
+  return Wexa::IsUtf8({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
 
 }  // namespace
 
 void PackFile(const fs::path& source, const fs::path& target) {
-  const std::string text = ReadBytes(source);
-  if (text.empty()) throw std::runtime_error("empty");
-  if (!Wexa::IsUtf8(text)) throw std::runtime_error("not UTF-8");
+  Bytes bytes = ReadBytes(source);
+  if (bytes.empty()) throw std::runtime_error("empty");
+  if (!IsUtf8(bytes)) throw std::runtime_error("not UTF-8");
   if (target.has_parent_path()) fs::create_directories(target.parent_path());
-  FileAside file(target);
-  file.Write(EncrypterAccess::Pack(text));
+  tools::FileAside file(target);
+  EncrypterAccess::PackInPlace(bytes);
+  file.Write(bytes.data(), bytes.size());
   file.TakePlace(fs::status(source).permissions());
 }
 
 std::string ReadPackedFile(const fs::path& file) {
-  ReadBytes(file);
-  const auto path = Wexa::WidenUtf8(file.string());
-  if (!path) throw std::runtime_error("the path is not UTF-8");
-  const std::string text = Wexa::NarrowUtf8(Encrypter::ReadAndDecryptFile(*path));
-  if (text.empty()) throw std::runtime_error("damaged, or no packed file");
+  const Bytes bytes = ReadBytes(file);
+  std::string text = EncrypterAccess::Unpack({bytes.begin(), bytes.end()});
+  if (text.empty() || !Wexa::IsUtf8(text)) throw std::runtime_error("damaged, or no packed file");
   return text;
 }
 

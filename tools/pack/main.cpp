@@ -20,6 +20,7 @@ void PrintText(const std::string& text) {
 }
 
 void Do(Task task, const Job& job) {
+  if (!job.problem.empty()) throw std::runtime_error(job.problem);
   switch (task) {
     case Task::Pack: return PackFile(job.source, job.target);
     case Task::Check: return void(ReadPackedFile(job.source));

@@ -21,31 +21,32 @@ Json RectJson(const CRect& rect) {
 }
 
 // Of two widgets of one name the first of the form counts.
-Json WidgetsJson(Preview& preview) {
+Json WidgetsJson(Preview& preview, bool hidden) {
   Json widgets = Json::object();
   const CRect client = preview.ClientOnScreen();
   for (const auto& [name, widget] : preview.Impl().Elements()) {
     const HWND window = widget->GetPlatformHandle();
     CRect rect;
-    if (name.empty() || !IsWindowVisible(window) || !GetWindowRect(window, &rect)) continue;
+    if (name.empty() || (!hidden && !IsWindowVisible(window)) || !GetWindowRect(window, &rect))
+      continue;
     widgets.emplace(Wexa::NarrowUtf8(name), RectJson(rect.Moved(-client.left, -client.top)));
   }
   return widgets;
 }
 
-Json EntryJson(Preview& preview, Wexa::Size request) {
+Json EntryJson(Preview& preview, Wexa::Size request, bool hidden) {
   const CRect client = preview.ClientOnScreen();
   return {{"request", SizeJson(request)},
           {"client", SizeJson(client.Size())},
-          {"widgets", WidgetsJson(preview)}};
+          {"widgets", WidgetsJson(preview, hidden)}};
 }
 
-Json SizesJson(Preview& preview, const std::vector<Wexa::Size>& sizes) {
+Json SizesJson(Preview& preview, const std::vector<Wexa::Size>& sizes, bool hidden) {
   Json entries = Json::array();
-  if (sizes.empty()) entries.push_back(EntryJson(preview, preview.Impl().clientSize));
+  if (sizes.empty()) entries.push_back(EntryJson(preview, preview.Impl().clientSize, hidden));
   for (const Wexa::Size& size : sizes) {
     preview.Resize(size);
-    entries.push_back(EntryJson(preview, size));
+    entries.push_back(EntryJson(preview, size, hidden));
   }
   return entries;
 }
@@ -61,9 +62,9 @@ Json LayoutJson(Wexa::Dialog::impl& dialog) {
 }  // namespace
 
 std::string DumpText(Preview& preview, const std::string& formName,
-                     const std::vector<Wexa::Size>& sizes) {
+                     const std::vector<Wexa::Size>& sizes, bool hidden) {
   Json dump{{"form", formName},
-            {"sizes", SizesJson(preview, sizes)},
+            {"sizes", SizesJson(preview, sizes, hidden)},
             {"layout", LayoutJson(preview.Impl())}};
   return dump.dump(-1, ' ', false, Json::error_handler_t::replace);
 }

@@ -42,7 +42,7 @@ std::string Describe(const Wexa::LanguageDiagnostic& diagnostic) {
 
 }  // namespace
 
-std::vector<std::string> LoadLanguage(const Options& options) {
+std::string LoadLanguage(const Options& options) {
   if (options.language.empty()) return {};
   const fs::path folder = fs::absolute(options.workingDir.empty() ? "." : options.workingDir);
   Wexa::SetWorkingDirPath(Wide((folder / "").string()));
@@ -50,11 +50,15 @@ std::vector<std::string> LoadLanguage(const Options& options) {
   const fs::path nameless = Wexa::NativePath(Wexa::GetTranslationFilePath(L""));
   const auto components = FindComponents(nameless);
   if (components.empty())
-    return {"no " + nameless.filename().string() + " in " + nameless.parent_path().string()};
+    return "no " + nameless.filename().string() + " in " + nameless.parent_path().string();
   auto& translator = Wexa::Translator::GetInstance();
   for (const std::wstring& name : components) translator.LoadStrings(name);
+  return {};
+}
+
+std::vector<std::string> LanguageWarnings() {
   std::vector<std::string> warnings;
-  for (const auto& diagnostic : translator.GetDiagnostics())
+  for (const auto& diagnostic : Wexa::Translator::GetInstance().GetDiagnostics())
     warnings.push_back(Describe(diagnostic));
   return warnings;
 }

@@ -1,6 +1,7 @@
 #include "preview/Options.h"
 
 #include <CLI/CLI.hpp>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -25,6 +26,7 @@ Examples:
   wexa-preview settings.ui                            work in the dialog
   wexa-preview --png shot.png --scale 1.5 --skin dark settings.ui
   wexa-preview --dump - --size 400x300 --size 800x600 settings.ui
+  wexa-preview --png second.png --page tabs=1 settings.ui
   wexa-preview --language de --plain --working-dir host settings.ui
   wexa-preview --report forms/                        one JSON line for each form
 
@@ -66,6 +68,26 @@ std::string ComplaintIfNan(const std::string& text) {
   return std::isnan(std::strtod(text.c_str(), nullptr)) ? "is no number" : "";
 }
 
+void AddPages(CLI::App& app, std::map<std::string, int>& pages) {
+  const auto read = [&pages](const CLI::results_t& texts) {
+    for (const std::string& text : texts) {
+      const auto equals = text.rfind('=');
+      const std::string digits = equals == text.npos ? "" : text.substr(equals + 1);
+      int index = 0;
+      const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), index);
+      if (end.ec != std::errc() || end.ptr != digits.data() + digits.size() || index < 0)
+        throw CLI::ValidationError("--page", "'" + text + "' is no page like tabs=1");
+      pages[text.substr(0, equals)] = index;
+    }
+    return true;
+  };
+  app.add_option("--page", read,
+                 "Show this page of a tab widget or stack, counted from 0; may repeat")
+      ->type_name("NAME=INDEX")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
 void AddLooks(CLI::App& app, Options& options) {
   app.add_option("--scale", options.scale, "Scale of the display, 1.5 for 144 dots per inch")
       ->type_name("S")
@@ -103,7 +125,9 @@ void AddOptions(CLI::App& app, Options& options) {
   auto* dump =
       app.add_option("--dump", options.dump, "Write the geometry as JSON, - for standard output");
   dump->type_name("FILE");
+  app.add_flag("--hidden", options.hidden, "Dump hidden widgets and pages, too")->needs(dump);
   AddSizes(app, options.sizes);
+  AddPages(app, options.pages);
   AddLooks(app, options);
   AddLanguage(app, options);
   app.add_flag("--report", options.report, "Time each form; one line of JSON for each")

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,6 +24,8 @@ struct Options {
   bool plain = false;      // language files are not encrypted
   bool rightToLeft = false;
   bool report = false;
+  bool hidden = false;               // dump what is hidden, too
+  std::map<std::string, int> pages;  // to show, by the names of tab widgets and stacks
 
   bool WantsFiles() const { return !png.empty() || !dump.empty(); }
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "Dialog.h"
@@ -9,6 +10,11 @@ namespace preview {
 
 // Gives the dialog the colours of the key map, if there is one.
 void UseKeyMap(Wexa::Dialog& dialog);
+
+// Turns tab widgets and stacks of a shown dialog to pages, by their names. Throws
+// std::runtime_error when the form has no such widget or the widget no such page.
+using Pages = std::map<std::string, int>;
+void ShowPages(Wexa::Dialog& dialog, const Pages& pages);
 
 // A form's dialog, shown without a modal loop so that it can be sized, measured and pictured.
 class Preview {
@@ -25,6 +31,7 @@ class Preview {
   void Settle();
   // Gives the client area this size in pixels as far as the dialog's limits allow.
   void Resize(Wexa::Size client);
+  void ShowPages(const Pages& pages) { preview::ShowPages(dialog_, pages); }
   // Paints the window with its frame into a PNG file.
   void SavePicture(const std::string& png);
 

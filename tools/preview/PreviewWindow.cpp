@@ -52,13 +52,14 @@ std::wstring WithoutMnemonic(std::wstring text) {
 // The form's dialog with what a host would add for its buttons to end it.
 class WindowDialog : public Dialog {
  public:
-  WindowDialog(const std::wstring& file, std::optional<Wexa::Size> client)
-      : Dialog(file, nullptr, 0, WexaUtils::GetScaleFactor()), client_(client) {
+  WindowDialog(const std::wstring& file, std::optional<Wexa::Size> client, const Pages& pages)
+      : Dialog(file, nullptr, 0, WexaUtils::GetScaleFactor()), client_(client), pages_(pages) {
     UseKeyMap(*this);
     for (const auto& element : GetImpl()->Elements()) Connect(*element.widget);
   }
 
   bool InitializeControls() override {
+    ShowPages(*this, pages_);
     if (!client_) return true;
     GetImpl()->ResizeClient(client_->Width(), client_->Height());
     GetWndPtr()->CenterWindow();
@@ -87,6 +88,7 @@ class WindowDialog : public Dialog {
   }
 
   std::optional<Wexa::Size> client_;
+  const Pages& pages_;
 };
 
 }  // namespace
@@ -99,8 +101,9 @@ bool IsOffscreen() {
   return dynamic_cast<display::OffscreenDisplay*>(&display::Current()) != nullptr;
 }
 
-void ShowInWindow(const std::string& file, std::optional<Wexa::Size> client) {
-  WindowDialog(LibraryPath(file), client).DoModal();
+void ShowInWindow(const std::string& file, std::optional<Wexa::Size> client,
+                  const std::map<std::string, int>& pages) {
+  WindowDialog(LibraryPath(file), client, pages).DoModal();
 }
 
 }  // namespace preview

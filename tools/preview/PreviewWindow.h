@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 
@@ -14,6 +15,7 @@ bool IsOffscreen();
 
 // Shows the form and returns when it was closed: by its frame, by Escape, or by one of its buttons
 // OK, Yes, Close, Cancel, No and Abort. Throws like Preview.
-void ShowInWindow(const std::string& file, std::optional<Wexa::Size> client);
+void ShowInWindow(const std::string& file, std::optional<Wexa::Size> client,
+                  const std::map<std::string, int>& pages);
 
 }  // namespace preview

@@ -1,10 +1,13 @@
 // wexa-preview: shows forms in windows, as pictures, as JSON.
 
+#include <sys/stat.h>
+
 #include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <stdexcept>
 
+#include "FileAside.h"
 #include "preview/Dump.h"
 #include "preview/ExitStatus.h"
 #include "preview/FormFiles.h"
@@ -21,37 +24,64 @@ void PrintError(const std::string& line) {
   std::fprintf(stderr, "wexa-preview: %s\n", line.c_str());
 }
 
+constexpr auto kPermissions = std::filesystem::perms(0666);
+
+std::filesystem::perms AllowedPermissions() {
+  const mode_t mask = umask(0);
+  umask(mask);
+  return kPermissions & ~std::filesystem::perms(mask);
+}
+
+void WriteAside(const std::string& text, const std::string& path) {
+  tools::FileAside file(path);
+  file.Write(text.data(), text.size());
+  file.TakePlace(AllowedPermissions());
+}
+
+void WritePicture(Preview& preview, const std::string& path) {
+  tools::FileAside file(path);
+  preview.SavePicture(file.Name());
+  file.TakePlace(AllowedPermissions());
+}
+
 void WriteText(const std::string& text, const std::string& path) {
-  std::FILE* file = path == "-" ? stdout : std::fopen(path.c_str(), "wb");
-  if (!file) throw std::runtime_error("Cannot write " + path);
-  const bool written = std::fputs(text.c_str(), file) >= 0 && std::fputc('\n', file) != EOF;
-  const bool ended = file == stdout ? std::fflush(file) == 0 : std::fclose(file) == 0;
-  if (!written || !ended) throw std::runtime_error("Cannot write " + path);
+  if (path != "-") return WriteAside(text + '\n', path);
+  if (std::puts(text.c_str()) == EOF || std::fflush(stdout) != 0)
+    throw std::runtime_error("cannot write to standard output");
 }
 
 void WriteFiles(const Options& options, const std::string& file) {
   Preview preview(file);
   preview.Show();
+  preview.ShowPages(options.pages);
   preview.Settle();
   if (!options.dump.empty()) {
     const std::string name = std::filesystem::path(file).stem().string();
-    WriteText(DumpText(preview, name, options.sizes), options.dump);
+    WriteText(DumpText(preview, name, options.sizes, options.hidden), options.dump);
   } else {
     for (const Wexa::Size& size : options.sizes) preview.Resize(size);
   }
-  if (!options.png.empty()) preview.SavePicture(options.png);
+  if (!options.png.empty()) WritePicture(preview, options.png);
 }
 
 // Where there is no screen, a picture beside the form takes the window's place.
 void ShowForm(const Options& options, const std::string& file) {
   if (!IsOffscreen()) {
     const auto& sizes = options.sizes;
-    return ShowInWindow(file, sizes.empty() ? std::nullopt : std::optional(sizes.back()));
+    return ShowInWindow(file, sizes.empty() ? std::nullopt : std::optional(sizes.back()),
+                        options.pages);
   }
   Options picture = options;
   picture.png = std::filesystem::path(file).replace_extension(".png").string();
   WriteFiles(picture, file);
   std::printf("The display is offscreen: wrote %s\n", picture.png.c_str());
+}
+
+// What was wrong with the language for the forms so far, told once.
+void PrintNewLanguageWarnings() {
+  static std::size_t told = 0;
+  const auto warnings = LanguageWarnings();
+  for (; told < warnings.size(); ++told) PrintError(warnings[told]);
 }
 
 bool ShowOrWrite(const Options& options, const std::string& file) {
@@ -66,8 +96,8 @@ bool ShowOrWrite(const Options& options, const std::string& file) {
 
 bool PrintReport(const Options& options, const std::string& file) {
   const Report report = ReportForm(options, file);
-  std::puts(report.json.c_str());
-  std::fflush(stdout);
+  if (std::puts(report.json.c_str()) == EOF || std::fflush(stdout) != 0)
+    throw std::runtime_error("cannot write the report");
   if (!report.ok) PrintError(report.error);
   return report.ok;
 }
@@ -79,11 +109,14 @@ int Run(const Options& options) {
     return kWrongOptions;
   }
   Apply(options);
-  for (const std::string& warning : LoadLanguage(options)) PrintError(warning);
+  if (const std::string missing = LoadLanguage(options); !missing.empty()) PrintError(missing);
+  PrintNewLanguageWarnings();
   OpenDisplay();
   bool ok = true;
-  for (const std::string& file : forms)
+  for (const std::string& file : forms) {
     ok &= options.report ? PrintReport(options, file) : ShowOrWrite(options, file);
+    PrintNewLanguageWarnings();
+  }
   return ok ? kSuccess : kFailure;
 }
 
