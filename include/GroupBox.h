@@ -24,6 +24,9 @@ class WEXA_API GroupBox : public BaseGUIObject {
 
   void SetTitle(const std::wstring& title);
   std::wstring GetTitle();
+  enum class TitleAlignment { Left = 0, Center = 1, Right = 2 };
+  // Where along the top edge the title stands; left unless told otherwise.
+  void SetTitleAlignment(TitleAlignment alignment);
 
   // A checkable box has a check box for its title; unchecked, what is in it is disabled. What the
   // host disabled itself stays disabled when the box is checked again.

@@ -31,6 +31,9 @@ class WEXA_API Label : public BaseGUIObject {
   void SetVerticallyCentered(bool centered);
   // A wrapped label's height depends on its width.
   void SetWordWrap(bool wrap);
+  // Space, in 96-DPI units, between the text and the edges that it is aligned to; none for less than
+  // 0, and none at an edge from which the text is centred.
+  void SetIndent(int units);
   void SetFont(const FontData& font);
   // Shows a picture, grey while the label is disabled. What fits or fills follows the label's size.
   // `iconSize` chooses among the icons of an icon file. False when there is no picture to read;

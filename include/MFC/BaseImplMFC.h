@@ -106,9 +106,11 @@ class BaseImplMFC : public BaseImpl {
   int GetTextWidth(const std::wstring& text, const FontData* font) override;
   void Release() override;
 
-  // The widget's own font; an empty record means the dialog's.
+  // The widget's own font; what is not set is its parent's, and at last the dialogs' default.
   const FontData& GetFontRecord() const { return fontRecord_; }
   void SetFont(const FontData& font);
+  // Takes over the font of a new parent, or what changed in the parent's; so do the children.
+  void ResolveFont();
   // The font the widget draws with.
   HFONT Font() const;
   // The font as the native window has it, as a record.
@@ -180,7 +182,8 @@ class BaseImplMFC : public BaseImpl {
   SizePolicy sizePolicy_;
   SkinManager skinManager_;
   FontData fontRecord_;
-  std::unique_ptr<CFont> font_;
+  FontData resolvedFont_;        // over the parent's
+  std::shared_ptr<CFont> font_;  // null for the default
   bool mouseTracked_ = false;
   bool acceptDrops_ = false;
   bool enabledState_ = true;

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "FontData.h"
 #include "FormError.h"
 #include "form/PropertyId.h"
 
@@ -73,6 +74,7 @@ class FormNode {
   std::wstring titleAttribute;
   std::wstring buttonGroup;
   StandardButtons standardButtons;
+  FontData font;  // with what the form sets of it
   std::vector<std::wstring> itemTexts;
   std::vector<std::unique_ptr<FormNode>> children;
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cwchar>
 #include <initializer_list>
 #include <iterator>
 #include <stdexcept>
@@ -10,6 +11,7 @@
 #include <utility>
 
 #include "form/FormModel.h"
+#include "form/FormText.h"
 #include "form/RefusedForm.h"
 
 namespace Wexa {
@@ -140,6 +142,38 @@ void ReadDate(const PropertyRule& rule, const XmlNode& property, FormNode& node)
   node.SetExtra(rule.name, std::move(text));
 }
 
+std::int32_t FlagIn(const XmlNode& font, const wchar_t* name) {
+  const auto* flag = font.first_node(name);
+  if (flag == nullptr) return -1;
+  return TextOf(*flag) == L"true" ? 1 : 0;
+}
+
+// Weights are numbers of 0 to 99 in older forms, and words in newer ones.
+std::int32_t BoldIn(const XmlNode& font) {
+  constexpr int kDemiBold = 63;
+  if (font.first_node(L"bold") != nullptr) return FlagIn(font, L"bold");
+  if (const auto* weight = font.first_node(L"weight"))
+    return std::wcstol(TextOf(*weight).c_str(), nullptr, 10) >= kDemiBold ? 1 : 0;
+  const auto* word = font.first_node(L"fontweight");
+  if (word == nullptr) return -1;
+  const std::wstring text = TextOf(*word);
+  return text.find(L"Bold") != text.npos || text == L"Black" ? 1 : 0;
+}
+
+void ReadFont(const PropertyRule& rule, const XmlNode& property, FormNode& node) {
+  const auto* font = property.first_node(L"font");
+  if (font == nullptr) return;
+  if (const auto* family = font->first_node(L"family")) node.font.faceName = TextOf(*family);
+  if (const auto* size = font->first_node(L"pointsize")) {
+    node.font.pointSize = ConvertOrRefuse(TextOf(*size), FormNumber, [&](std::wstring reason) {
+      return node.Diagnose(rule.name, std::move(reason));
+    });
+  }
+  node.font.bold = BoldIn(*font);
+  node.font.italic = FlagIn(*font, L"italic");
+  node.font.underline = FlagIn(*font, L"underline");
+}
+
 // In the order of their names.
 constexpr PropertyRule kRules[] = {
     {L"alignment", ReadText, L"set", PropertyId::Alignment},
@@ -157,6 +191,7 @@ constexpr PropertyRule kRules[] = {
     {L"enabled", ReadExtra, L"bool"},
     {L"flat", ReadExtra, L"bool"},
     {L"focusPolicy", ReadText, L"enum", PropertyId::FocusPolicy},
+    {L"font", ReadFont},
     {L"format", ReadExtra, L"string"},
     {L"frame", ReadText, L"bool", PropertyId::Frame},
     {L"frameShape", ReadText, L"enum", PropertyId::FrameShape},
@@ -165,6 +200,7 @@ constexpr PropertyRule kRules[] = {
     {L"horizontalScrollBarPolicy", ReadExtra, L"enum"},
     {L"horizontalSpacing", ReadText, L"number", PropertyId::HorizontalSpacing},
     {L"html", ReadExtra, L"string"},
+    {L"indent", ReadExtra, L"number"},
     {L"leftMargin", ReadText, L"number", PropertyId::LeftMargin},
     {L"margin", ReadExtra, L"number"},
     {L"maximum", ReadNumberOrDouble, nullptr, PropertyId::Maximum},
@@ -206,6 +242,7 @@ constexpr PropertyRule kRules[] = {
     {L"value", ReadNumberOrDouble, nullptr, PropertyId::Value},
     {L"verticalScrollBarPolicy", ReadExtra, L"enum"},
     {L"verticalSpacing", ReadText, L"number", PropertyId::VerticalSpacing},
+    {L"visible", ReadExtra, L"bool"},
     {L"widgetResizable", ReadExtra, L"bool"},
     {L"windowTitle", ReadText, L"string", PropertyId::Title},
     {L"wordWrap", ReadText, L"bool", PropertyId::WordWrap},

@@ -1,8 +1,8 @@
 // Runs the program as a person would.
 
-#include <filesystem>
-
 #include <sys/stat.h>
+
+#include <filesystem>
 
 #include "Encrypter.h"
 #include "Utf8.h"
@@ -68,12 +68,11 @@ TEST_F(PackTest, BadFilesAreNamedAndTheOthersPacked) {
 
 // Each of them would keep the program reading for ever.
 TEST_F(PackTest, PipesAndDevicesAreNoFiles) {
-  const auto pipe = Path("pipe.ts");
-  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  const auto result = Run(pipe + " /dev/zero -o " + Path("out"));
+  ASSERT_EQ(mkfifo(tool_.PathOf("pipe.ts").c_str(), 0600), 0);
+  const auto result = tool_.Run("-o out pipe.ts /dev/zero");
   EXPECT_EQ(result.status, 1);
-  EXPECT_EQ(result.errors, "wexa-pack: " + pipe + ": no file\nwexa-pack: /dev/zero: no file\n");
-  EXPECT_EQ(Run("--check " + pipe).status, 1);
+  EXPECT_EQ(result.errors, "wexa-pack: pipe.ts: no file\nwexa-pack: /dev/zero: no file\n");
+  EXPECT_EQ(tool_.Run("--check pipe.ts").status, 1);
 }
 
 TEST_F(PackTest, AnUnwritableOutputLeavesNothingBehind) {

@@ -86,7 +86,7 @@ TEST_F(PreviewTest, DumpLeavesOutWhatIsHiddenOrNameless) {
 TEST_F(PreviewTest, ShowsThePagesAskedFor) {
   tool_.Write("pages.ui", kPagesForm);
   const auto widgets = [this](const std::string& options) {
-    const Outcome outcome = tool_.Run("--dump - pages.ui " + options);
+    const auto outcome = tool_.Run("--dump - pages.ui " + options);
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     return json::parse(outcome.output)["sizes"][0]["widgets"];
   };

@@ -69,9 +69,9 @@ SIZE FieldPadding();
 int ArrowButtonWidth();
 void DrawDropDownArrow(Painter&, const RECT&, const ControlState&, const ControlPalette&);
 void DrawSpinArrows(Painter&, const RECT&, const ControlState&, const ControlPalette&);
-// Group boxes: the frame interrupted by its title.
+// Group boxes: the frame interrupted by its title, which stands left, centred or right: 0, 1, 2.
 void DrawGroupBox(Painter&, const RECT&, std::wstring_view title, HFONT, const ControlState&,
-                  const ControlPalette&);
+                  const ControlPalette&, int across = 0);
 // Space a group box's frame and title take on each side of its content.
 RECT GroupBoxMargins(HFONT, bool hasTitle);
 // One tab of a tab control, its text included. `outer` is the edge away from the pages.

@@ -48,7 +48,7 @@ void DrawTabSides(Painter& painter, const CRect& rect, TabEdge outer, COLORREF c
 }  // namespace
 
 void DrawGroupBox(Painter& painter, const RECT& rect, std::wstring_view title, HFONT font,
-                  const ControlState& state, const ControlPalette& palette) {
+                  const ControlState& state, const ControlPalette& palette, int across) {
   COLORREF border = state.enabled ? palette.border : palette.disabledBorder;
   if (title.empty()) return painter.FrameRect(rect, border, LineWidth());
   CRect frame(rect);
@@ -56,7 +56,8 @@ void DrawGroupBox(Painter& painter, const RECT& rect, std::wstring_view title, H
   int indent = ScaleUnits(kTitleIndent) + ScaleUnits(kTitleGap);
   int room = std::max(frame.Width() - 2 * indent, 0);
   SIZE text = GetTextExtent(font, title, room, format);
-  CRect place(frame.left + indent, frame.top, frame.left + indent + text.cx, frame.top + text.cy);
+  int left = frame.left + indent + std::max<int>(room - text.cx, 0) * across / 2;
+  CRect place(left, frame.top, left + text.cx, frame.top + text.cy);
   frame.top += text.cy / 2;
   int gap = ScaleUnits(kTitleGap);
   DrawOpenFrame(painter, frame, place.left - gap, place.right + gap, border);

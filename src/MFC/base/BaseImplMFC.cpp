@@ -95,6 +95,7 @@ CWnd& BaseImplMFC::Window() {
 
 bool BaseImplMFC::Create(HWND parent) {
   lastGeometry_ = Rect();
+  ResolveFont();
   if (!IsWindow(parent) || !CreateNative(CWnd::FromHandle(parent))) return false;
   AttachWindowProcedure(*owner_, GetHandle());
   Window().SetFont(Font(), false);
@@ -344,9 +345,24 @@ HFONT BaseImplMFC::Font() const {
 
 void BaseImplMFC::SetFont(const FontData& font) {
   fontRecord_ = font;
-  font_ = IsFontSet(font) ? MakeFont(font) : nullptr;
+  ResolveFont();
+}
+
+void BaseImplMFC::ResolveFont() {
+  if (!owner_) return;
+  const BaseImplMFC* parent = ImplOf(static_cast<BaseGUIObject*>(owner_->GetParent()));
+  const FontData inherited = parent ? parent->resolvedFont_ : FontData();
+  const FontData resolved = MergedFont(fontRecord_, inherited);
+  if (resolved == resolvedFont_) return;
+  resolvedFont_ = resolved;
+  if (parent && resolvedFont_ == inherited) {
+    font_ = parent->font_;
+  } else {
+    font_ = IsFontSet(resolvedFont_) ? MakeFont(resolvedFont_) : nullptr;
+  }
   if (GetHandle()) Window().SetFont(Font());
   InvalidateLayout();
+  for (const BaseGUIObject* child : children_) ImplOf(child)->ResolveFont();
 }
 
 FontData BaseImplMFC::NativeFont() {

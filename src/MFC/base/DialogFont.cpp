@@ -59,6 +59,16 @@ bool IsFontSet(const FontData& font) {
          font.underline >= 0;
 }
 
+FontData MergedFont(const FontData& font, const FontData& base) {
+  FontData merged = font;
+  if (font.faceName.empty()) merged.faceName = base.faceName;
+  if (font.pointSize <= 0) merged.pointSize = base.pointSize;
+  if (font.bold < 0) merged.bold = base.bold;
+  if (font.italic < 0) merged.italic = base.italic;
+  if (font.underline < 0) merged.underline = base.underline;
+  return merged;
+}
+
 std::unique_ptr<CFont> MakeFont(const FontData& font) {
   LOGFONTW description = DefaultDescription();
   if (!font.faceName.empty()) SetFace(description, font.faceName);

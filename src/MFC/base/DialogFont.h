@@ -12,6 +12,8 @@ struct FontData;
 HFONT DialogFont();
 // Whether the record names a face, a size or a style.
 bool IsFontSet(const FontData& font);
+// The record with what it does not set taken from another.
+FontData MergedFont(const FontData& font, const FontData& base);
 // The described font; what is not set is taken from the default font.
 std::unique_ptr<CFont> MakeFont(const FontData& font);
 FontData FontRecordOf(HFONT font);

@@ -92,6 +92,7 @@ std::shared_ptr<Button> ButtonBox::impl::MakeButton(const wchar_t* text) {
   record.text = TranslatedText(text);
   record.controlId = NextControlId();
   Children().push_back(button.get());
+  ImplOf(button.get())->ResolveFont();
   return button;
 }
 

@@ -60,6 +60,12 @@ class GroupBox::impl : public ContainerImpl {
   }
   const std::wstring& Title() const { return Creation().title; }
 
+  void SetTitleAlignment(TitleAlignment alignment) {
+    across_ = static_cast<int>(alignment);
+    PlaceCheck();
+    if (GetHandle()) GetCWnd()->Invalidate();
+  }
+
   void SetCheckable(bool checkable) {
     isCheckable_ = checkable;
     UpdateMargins();
@@ -89,16 +95,18 @@ class GroupBox::impl : public ContainerImpl {
     CRect frame = client;
     if (isCheckable_) frame.top += TitleHeight() / 2;
     Theme::DrawGroupBox(painter, frame, isCheckable_ ? L"" : Title(), Font(), Shown().State(),
-                        palette);
+                        palette, across_);
     if (isCheckable_)
       painter.FillRect(CheckRect().Shrunk(-Scale(kCheckGap), 0), palette.background);
   }
 
   bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&) override {
-    if (message == WM_SETFONT && check_->GetSafeHwnd()) {
-      check_->SendMessage(message, wParam, lParam);
+    if (message == WM_SETFONT) {
+      UpdateMargins();
+      if (check_->GetSafeHwnd()) check_->SendMessage(message, wParam, lParam);
       PlaceCheck();
     }
+    if (message == WM_SIZE) PlaceCheck();
     return false;
   }
 
@@ -148,14 +156,18 @@ class GroupBox::impl : public ContainerImpl {
     if (check_->GetSafeHwnd()) check_->MoveWindow(CheckRect());
   }
 
-  CRect CheckRect() const {
-    Size size = CheckSizeFor(Font(), Title());
-    int left = Scale(kCheckIndent);
+  Size CheckSize() const { return CheckSizeFor(Font(), Title()); }
+
+  CRect CheckRect() {
+    Size size = CheckSize();
+    int indent = Scale(kCheckIndent);
+    int room = GetCWnd()->GetClientRect().Width() - 2 * indent - size.Width();
+    int left = indent + std::max(room, 0) * across_ / 2;
     return {left, 0, left + size.Width(), size.Height()};
   }
 
   int TitleHeight() const {
-    return isCheckable_ ? CheckRect().Height() : Theme::GroupBoxMargins(Font(), true).top;
+    return isCheckable_ ? CheckSize().Height() : Theme::GroupBoxMargins(Font(), true).top;
   }
 
   RECT Margins() const {
@@ -175,7 +187,7 @@ class GroupBox::impl : public ContainerImpl {
   }
 
   Size WithTitle(const Size& content) const {
-    int text = isCheckable_ ? CheckRect().Width() : GetTextExtent(Font(), Title()).cx;
+    int text = isCheckable_ ? CheckSize().Width() : GetTextExtent(Font(), Title()).cx;
     RECT margins = Margins();
     return {std::max(content.Width(), text + Scale(kTitleInset)),
             std::max(content.Height(), static_cast<int>(margins.top + margins.bottom))};
@@ -185,6 +197,7 @@ class GroupBox::impl : public ContainerImpl {
   int checkRadius_ = GetCheckboxRadius();
   bool isCheckable_ = false;
   bool isChecked_ = true;
+  int across_ = 0;
 };
 
 GroupBox::GroupBox() : BaseGUIObject(GuiType::GroupBox), impl_(std::make_shared<impl>(this)) {}
@@ -203,6 +216,9 @@ Size GroupBox::IdealSize() {
 }
 void GroupBox::SetTitle(const std::wstring& title) {
   impl_->SetTitle(title);
+}
+void GroupBox::SetTitleAlignment(TitleAlignment alignment) {
+  impl_->SetTitleAlignment(alignment);
 }
 std::wstring GroupBox::GetTitle() {
   return impl_->Title();

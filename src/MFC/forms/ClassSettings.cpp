@@ -86,13 +86,14 @@ void Apply(Label& label, const FormNode& node) {
   bool isPlain = format && HasEnumWord(*format, L"Qt::PlainText");
   std::wstring& text = ImplOf(&label)->Creation().text;
   if (!isPlain && IsRichText(text)) {
-    FontData font;
+    FontData font = node.font;
     text = PlainTextOf(text, font.bold);
-    if (font.bold == 1) label.SetFont(font);
+    if (font != node.font) label.SetFont(font);
   }
   label.SetAlignment(static_cast<Label::Alignment>(AlignmentOf(node)));
   if (Has(node, PropertyId::Alignment, L"Qt::AlignTop")) label.SetVerticallyCentered(false);
   if (Has(node, PropertyId::WordWrap, L"true")) label.SetWordWrap(true);
+  if (const auto indent = node.Integer(L"indent")) label.SetIndent(*indent);
   if (const std::wstring* picture = node.Extra(L"pixmap"))
     LoadPicture(
         label, *picture,
@@ -179,6 +180,7 @@ void Apply(ProgressBar& bar, const FormNode& node) {
 }
 
 void Apply(GroupBox& box, const FormNode& node) {
+  box.SetTitleAlignment(static_cast<GroupBox::TitleAlignment>(AlignmentOf(node)));
   if (!IsExtraTrue(node, L"checkable")) return;
   box.SetCheckable(true);
   const std::wstring* checked = node.Extra(L"checked");

@@ -71,6 +71,7 @@ void DialogBuilder::ConfigureDialog(const FormNode& root) {
   ApplySizeLimits(dialog_, root);
   if (const std::wstring* title = root.Text(PropertyId::Title)) impl_.title = *title;
   dialog_.SetName(root.name);
+  impl_.SetFont(root.font);
   impl_.clientSize = ScaledSize(root, PropertyId::Width, PropertyId::Height);
 }
 
@@ -185,13 +186,12 @@ void DialogBuilder::AddToolTip(const FormNode& node, const std::shared_ptr<BaseG
 }
 
 void DialogBuilder::PlaceWidget(const FormNode& node, BaseGUIObject& widget, const Place& place) {
-  if (!place.layout) return AddToContainer(node, widget, *place.widget);
+  if (!place.layout) return AddToContainer(widget, *place.widget);
   const FormNode& cell = place.cellNode ? *place.cellNode : node;
   AddToLayout(cell, new WidgetItemV2(place.layout, &widget), place);
 }
 
-void DialogBuilder::AddToContainer(const FormNode& node, BaseGUIObject& widget,
-                                   BaseGUIObject& parent) {
+void DialogBuilder::AddToContainer(BaseGUIObject& widget, BaseGUIObject& parent) {
   bool isPage = widget.Type() == GuiType::ChildDialog;
   switch (parent.Type()) {
     case GuiType::Splitter: static_cast<Splitter&>(parent).AddView(&widget); break;
@@ -201,11 +201,9 @@ void DialogBuilder::AddToContainer(const FormNode& node, BaseGUIObject& widget,
         static_cast<StackedDialog&>(parent).AddChildDialog(static_cast<ChildDialog*>(&widget));
       break;
     case GuiType::TabView:
-      if (isPage) {
-        const std::wstring* text = node.Text(PropertyId::Text);
+      if (isPage)
         static_cast<TabView&>(parent).AddPage(static_cast<ChildDialog*>(&widget),
-                                              text ? *text : node.titleAttribute);
-      }
+                                              ImplOf(&widget)->Creation().text);
       break;
     default: break;
   }

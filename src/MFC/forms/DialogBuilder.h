@@ -42,7 +42,7 @@ class DialogBuilder {
   std::shared_ptr<BaseGUIObject> MakeWidget(const FormNode& node, std::wstring& className);
   void AddToolTip(const FormNode& node, const std::shared_ptr<BaseGUIObject>& widget);
   void PlaceWidget(const FormNode& node, BaseGUIObject& widget, const Place& place);
-  void AddToContainer(const FormNode& node, BaseGUIObject& widget, BaseGUIObject& parent);
+  void AddToContainer(BaseGUIObject& widget, BaseGUIObject& parent);
   void AddToLayout(const FormNode& node, LayoutItem* item, const Place& place);
   void NoteUnknown(const std::wstring& className);
   void ResolveBuddies();

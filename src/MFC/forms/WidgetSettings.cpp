@@ -100,8 +100,11 @@ void ApplyWidgetSettings(BaseGUIObject& widget, const FormNode& node,
   record.text = text && !text->empty() ? *text : node.titleAttribute;
   if (const std::wstring* title = node.Text(PropertyId::Title)) record.title = *title;
   if (const std::wstring* enabled = node.Extra(L"enabled")) record.enabled = *enabled != L"false";
+  ImplOf(&widget)->SetFont(node.font);
   record.rect = RectOf(node);
   record.controlId = NextControlId();
+  if (const std::wstring* visible = node.Extra(L"visible"); visible && *visible == L"false")
+    record.style &= ~WS_VISIBLE;
   ApplyStyle(record, node, className);
   ApplySizeLimits(widget, node);
   ApplySizePolicy(widget, node, className);

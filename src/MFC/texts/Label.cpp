@@ -18,18 +18,38 @@ namespace {
 
 // A wrapped text asks for lines of about this width.
 constexpr int kWrappedWidth = 320;
+constexpr int kUnlimited = 1 << 24;
 
 // The native text, or what is painted in its place.
 class LabelWnd : public CStatic {
  public:
   std::function<void()> paint;  // null for the text
+  RECT indent{};                // around the text, in pixels
 
  protected:
+  MoveInterest Moves() const override {
+    const bool isIndented = indent.left > 0 || indent.top > 0 || indent.right > 0;
+    return isIndented ? MoveInterest::Steps : CStatic::Moves();
+  }
+
   LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message == WM_NCCALCSIZE) return Indent(message, wParam, lParam);
     if (message != WM_PAINT || lParam == kPostPaint || !paint)
       return CStatic::WindowProc(message, wParam, lParam);
     paint();
     return 0;
+  }
+
+ private:
+  // The rectangle is the first in the record of either form.
+  LRESULT Indent(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
+    if (lParam == 0) return result;
+    auto& client = *reinterpret_cast<RECT*>(lParam);
+    client.left = std::min(client.left + indent.left, client.right);
+    client.top = std::min(client.top + indent.top, client.bottom);
+    client.right = std::max(client.right - indent.right, client.left);
+    return result;
   }
 };
 
@@ -45,7 +65,7 @@ class Label::impl : public BaseImplMFC {
 
   Size IdealSize() override {
     if (picture_) return {picture_.IdealSize().cx, picture_.IdealSize().cy};
-    SIZE line = Extent(INT32_MAX);
+    SIZE line = Extent(kUnlimited);
     if (!wraps_ || line.cx <= Scale(kWrappedWidth)) return {line.cx, line.cy};
     SIZE block = Extent(Scale(kWrappedWidth));
     return {block.cx, block.cy};
@@ -55,7 +75,12 @@ class Label::impl : public BaseImplMFC {
     if (picture_) return picture_.IsFitted() ? Size(0, 0) : IdealSize();
     if (!wraps_) return IdealSize();
     SIZE block = Extent(1);
-    return {std::min(static_cast<int>(block.cx), Scale(kWrappedWidth)), Extent(INT32_MAX).cy};
+    return {std::min(static_cast<int>(block.cx), Scale(kWrappedWidth)), Extent(kUnlimited).cy};
+  }
+
+  void SetIndent(int units) {
+    indent_ = Scale(std::max(units, 0));
+    UpdateIndent();
   }
 
   bool HasHeightForWidth() override { return wraps_ && !picture_; }
@@ -86,6 +111,7 @@ class Label::impl : public BaseImplMFC {
 
   void ChangeStyle(DWORD remove, DWORD add) {
     Creation().style = (Creation().style & ~remove) | add;
+    UpdateIndent();
     if (GetHandle()) {
       window_.ModifyStyle(remove, add);
       window_.Invalidate();
@@ -105,7 +131,20 @@ class Label::impl : public BaseImplMFC {
   SIZE Extent(int width) {
     UINT format = wraps_ ? DT_WORDBREAK : 0;
     if (Creation().style & SS_NOPREFIX) format |= DT_NOPREFIX;
-    return GetTextExtent(Font(), Text(), width, format);
+    const RECT& indent = window_.indent;
+    const LONG across = indent.left + indent.right;
+    SIZE text = GetTextExtent(Font(), Text(), std::max<int>(width - across, 1), format);
+    return {text.cx + across, text.cy + indent.top};
+  }
+
+  void UpdateIndent() {
+    const bool isTop = (Creation().style & SS_CENTERIMAGE) == 0;
+    window_.indent = {alignment_ == Alignment::Left ? indent_ : 0, isTop ? indent_ : 0,
+                      alignment_ == Alignment::Right ? indent_ : 0, 0};
+    if (GetHandle())
+      window_.SetWindowPos(
+          nullptr, 0, 0, 0, 0,
+          SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   }
 
   // Unwrapped left-aligned texts have a style of their own.
@@ -131,6 +170,7 @@ class Label::impl : public BaseImplMFC {
   LabelWnd window_;
   LabelPicture picture_;
   Alignment alignment_ = Alignment::Left;
+  int indent_ = 0;
   bool wraps_ = false;
 };
 
@@ -159,6 +199,9 @@ void Label::SetAlignment(Alignment alignment) {
 }
 void Label::SetVerticallyCentered(bool centered) {
   impl_->ChangeStyle(SS_CENTERIMAGE, centered ? SS_CENTERIMAGE : 0);
+}
+void Label::SetIndent(int units) {
+  impl_->SetIndent(units);
 }
 void Label::SetWordWrap(bool wrap) {
   impl_->SetWordWrap(wrap);

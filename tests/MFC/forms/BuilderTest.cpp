@@ -11,6 +11,7 @@
 #include "KvDateTime.h"
 #include "Label.h"
 #include "MFC/DialogImplMFC.h"
+#include "MFC/base/DialogFont.h"
 #include "MultiLineEdit.h"
 #include "RadioButton.h"
 #include "RichEdit.h"
@@ -187,7 +188,7 @@ TEST_F(BuilderTest, ChildrenOfContainersAreTheirsAndCountFromThem) {
 
 TEST_F(BuilderTest, PagesAndPanesAreAddedInTheirOrder) {
   const auto page = [](const std::string& name) {
-    return WidgetXml("QWidget", name, AttributeXml("title", "of " + name));
+    return WidgetXml("QWidget", name, PropertyXml("text", "string", "") + AttributeXml("title", "of " + name));
   };
   Open(ColumnForm(
       WidgetItem("QTabWidget", "tabs", NumberXml("currentIndex", 1) + page("a") + page("b")) +
@@ -267,6 +268,69 @@ TEST_F(BuilderTest, CustomClassesStandForTheirBase) {
   EXPECT_EQ(Find<BaseGUIObject>(L"b").GetSizePolicy(),
             SizePolicy(SizePolicy::Expanding, SizePolicy::Fixed));
   EXPECT_EQ(dialog_->GetElementByName(L"c"), nullptr);
+}
+
+std::string FontXml(const std::string& content) {
+  return "<property name='font'><font>" + content + "</font></property>";
+}
+
+TEST_F(BuilderTest, FontsOfContainersCountForWhatIsInThem) {
+  const auto label = [](const std::string& name, const std::string& font) {
+    return ItemXml(WidgetXml("QLabel", name, font + PropertyXml("text", "string", "Some text")));
+  };
+  const auto large = FontXml("<pointsize>20</pointsize><weight>75</weight>");
+  Open(ColumnForm(
+      label("plain", "") + label("rich", FontXml("<italic>true</italic>")) +
+      ItemXml(WidgetXml(
+          "QGroupBox", "box",
+          large + ColumnXml(label("inner", "") +
+                         label("own", FontXml("<bold>false</bold><underline>true</underline>")) +
+                         ItemXml(WidgetXml("QDialogButtonBox", "buttons",
+                                           PropertyXml("standardButtons", "set", "Ok"))))))));
+  const auto fontOf = [&](const wchar_t* name) { return ImplNamed(name).NativeFont(); };
+  EXPECT_EQ(fontOf(L"rich").italic, 1);
+  EXPECT_EQ(fontOf(L"inner").pointSize, 20);
+  EXPECT_EQ(fontOf(L"inner").bold, 1);
+  const FontData own = FontRecordOf(ImplNamed(L"own").Font());
+  EXPECT_EQ(std::tuple(own.pointSize, own.bold, own.underline), std::tuple(20, 0, 1));
+  const auto& button = *ImplNamed(L"buttons").Children().front();
+  EXPECT_EQ(FontRecordOf(ImplOf(&button)->Font()).pointSize, 20);
+  EXPECT_GT(PlaceOf(L"inner").Height(), 3 * PlaceOf(L"plain").Height() / 2);
+  EXPECT_THROW(Make(FormXml(FontXml("<pointsize>x</pointsize>"), 9, 9)), std::invalid_argument);
+}
+
+TEST_F(BuilderTest, WhatAFormHidesTakesNoPlace) {
+  const auto hidden = PropertyXml("visible", "bool", "false");
+  Open(ColumnForm(
+      ItemXml(WidgetXml("QGroupBox", "box", hidden + ColumnXml(ItemXml(WidgetXml("QLabel", "in"))))) +
+      ItemXml(WidgetXml("QLineEdit", "edit", hidden)) + ItemXml(WidgetXml("QTextEdit", "text"))));
+  EXPECT_FALSE(Find<GroupBox>(L"box").IsVisible());
+  EXPECT_FALSE(Find<Edit>(L"edit").IsVisible());
+  EXPECT_LT(PlaceOf(L"text").Top(), 15);
+  Find<Edit>(L"edit").Show(true, true);
+  Robot::PumpAll();
+  EXPECT_GT(PlaceOf(L"text").Top(), 25);
+}
+
+TEST_F(BuilderTest, TextsAreIndentedFromTheirEdge) {
+  const auto text = PropertyXml("text", "string", "i");
+  const auto right = PropertyXml("alignment", "set", "Qt::AlignRight");
+  const auto indent = PropertyXml("indent", "number", "40");
+  const auto place = GeometryXml(0, 0, 100, 20);
+  const auto inkOf = [&](const std::string& className, const std::string& settings) {
+    Open(FormXml(WidgetXml(className, "w", place + settings), 100, 20));
+    std::string ink;
+    for (int x = 0; x < 100; x += 20)
+      ink += Robot::HasInk(dialog_->GetHandle(), {x, 3, x + 20, 9}) ? 'x' : '-';
+    return ink;
+  };
+  EXPECT_EQ(inkOf("QLabel", text), "x----");
+  EXPECT_EQ(inkOf("QLabel", text + indent), "--x--");
+  EXPECT_EQ(inkOf("QLabel", text + indent + right), "--x--");
+  auto& label = Build<Label>(WidgetXml("QLabel", "w", text + indent));
+  EXPECT_EQ(
+      label.IdealSize().Width() - Build<Label>(WidgetXml("QLabel", "w", text)).IdealSize().Width(),
+      Scale(40));
 }
 
 TEST_F(BuilderTest, FailuresSayWhatIsWrongAndWhere) {
