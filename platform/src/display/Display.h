@@ -151,7 +151,9 @@ class Display {
 // set, else offscreen. Throws std::runtime_error naming an unknown value, or the server that does
 // not answer or whose screen cannot be used. WEXA_DPI overrides the resolution.
 Display& Current();
-// Replaces the process's display; for tests.
+// Replaces the process's display; for tests. What was shown on it goes first.
 void SetCurrent(std::unique_ptr<Display> display);
+// Sets what is told before a display is replaced.
+void BeforeExchange(void (*told)());
 
 }  // namespace display

@@ -36,6 +36,8 @@ std::unique_ptr<Display>& Instance() {
   return instance;
 }
 
+void (*exchangeTold)() = nullptr;
+
 // Whoever asks for the resolution or the colours first opens the display.
 [[maybe_unused]] const bool probes = [] {
   SetScreenProbe([] { Current(); });
@@ -49,7 +51,12 @@ Display& Current() {
   return *Instance();
 }
 
+void BeforeExchange(void (*told)()) {
+  exchangeTold = told;
+}
+
 void SetCurrent(std::unique_ptr<Display> display) {
+  if (Instance() && exchangeTold) exchangeTold();
   Instance() = std::move(display);
   if (!Instance()) return;
   SetScreenDpi(Instance()->Dpi());

@@ -4,13 +4,13 @@
 #include "window/DisplayFocus.h"
 #include "window/Focus.h"
 #include "window/Position.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
 
 HWND& Active() {
-  static HWND active = nullptr;
-  return active;
+  return CurrentSession().active;
 }
 
 void Deactivate(Window& root, Window* next) {

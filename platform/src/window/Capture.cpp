@@ -2,13 +2,13 @@
 
 #include "window/Dispatch.h"
 #include "window/FrameTracking.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
 
 HWND& Captured() {
-  static HWND captured = nullptr;
-  return captured;
+  return CurrentSession().captured;
 }
 
 void TellDisplay(Window* window) {

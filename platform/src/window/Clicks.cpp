@@ -1,18 +1,12 @@
 #include "window/Clicks.h"
 
+#include "window/Session.h"
+
 namespace core {
 namespace {
 
-struct Click {
-  HWND window = nullptr;
-  display::MouseButton button{};
-  CPoint place;
-  std::uint32_t time = 0;
-};
-
-Click& LatestClick() {
-  static Click click;
-  return click;
+Click& Latest() {
+  return CurrentSession().latestClick;
 }
 
 bool IsNear(const POINT& a, const POINT& b) {

@@ -2,19 +2,16 @@
 
 #include <utility>
 
+#include "window/Session.h"
+
 namespace core {
-namespace {
-
-CreationHook currentHook = nullptr;
-
-}  // namespace
 
 CreationHook SetCreationHook(CreationHook hook) {
-  return std::exchange(currentHook, hook);
+  return std::exchange(CurrentSession().creationHook, hook);
 }
 
 void RunCreationHook(HWND window) {
-  if (currentHook) currentHook(window);
+  if (const CreationHook hook = CurrentSession().creationHook) hook(window);
 }
 
 }  // namespace core

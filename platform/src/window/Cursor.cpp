@@ -2,6 +2,7 @@
 
 #include "window/CursorPicture.h"
 #include "window/Dispatch.h"
+#include "window/Session.h"
 #include "window/WindowClass.h"
 
 namespace core {
@@ -9,15 +10,8 @@ namespace {
 
 using display::CursorShape;
 
-struct CursorState {
-  const wchar_t* shown = IDC_ARROW;
-  HCURSOR picture = nullptr;  // shown instead
-  HWND root = nullptr;        // under the pointer
-};
-
 CursorState& State() {
-  static CursorState state;
-  return state;
+  return CurrentSession().cursor;
 }
 
 CursorShape ShapeOf(const wchar_t* cursor) {

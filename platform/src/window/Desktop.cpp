@@ -1,5 +1,6 @@
 #include "window/Desktop.h"
 
+#include "window/Session.h"
 #include "window/WindowClass.h"
 
 namespace core {
@@ -14,7 +15,8 @@ LRESULT DesktopProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam
 }
 
 Window& MakeDesktop() {
-  static const WindowClass desktopClass{L"#32769", DesktopProcedure, 0, IDC_ARROW};
+  static const auto& desktopClass =
+      *new WindowClass{L"#32769", DesktopProcedure, 0, IDC_ARROW};  // outlives static objects
   auto made = std::make_unique<Window>();
   made->windowClass = &desktopClass;
   made->top = std::make_unique<TopLevel>();
@@ -26,7 +28,10 @@ Window& MakeDesktop() {
 }  // namespace
 
 Window& Desktop() {
-  static Window& desktop = MakeDesktop();
+  Session& session = CurrentSession();
+  Window* known = Find(session.desktop);
+  Window& desktop = known ? *known : MakeDesktop();
+  session.desktop = desktop.handle;
   desktop.rect = display::Current().WorkArea();
   desktop.client = desktop.Bounds();
   return desktop;

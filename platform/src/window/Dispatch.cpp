@@ -1,27 +1,30 @@
 #include "window/Dispatch.h"
 
+#include "window/Session.h"
 #include "window/WindowClass.h"
 
 namespace core {
-namespace {
 
 // One message on its way through a window's chain.
 class Passage {
  public:
   explicit Passage(Window& window)
-      : window_(window), hold_(&window), position_(window.subclasses.size()), outer_(innermost_) {
-    innermost_ = this;
+      : window_(window),
+        hold_(&window),
+        position_(window.subclasses.size()),
+        outer_(CurrentSession().innermost) {
+    CurrentSession().innermost = this;
     ++window_.running;
   }
   ~Passage() {
-    innermost_ = outer_;
+    CurrentSession().innermost = outer_;
     if (--window_.running == 0) DropRemoved();
   }
   Passage(const Passage&) = delete;
   Passage& operator=(const Passage&) = delete;
 
   static Passage* Of(HWND window) {
-    Passage* passage = innermost_;
+    Passage* passage = CurrentSession().innermost;
     while (passage && passage->window_.handle != window) passage = passage->outer_;
     return passage;
   }
@@ -50,12 +53,13 @@ class Passage {
     window_.chainChanged = false;
   }
 
-  static inline Passage* innermost_ = nullptr;
   Window& window_;
   Hold hold_;
   std::size_t position_;
   Passage* outer_;
 };
+
+namespace {
 
 Subclass* FindSubclass(Window& window, SUBCLASSPROC procedure, UINT_PTR id) {
   for (Subclass& s : window.subclasses)

@@ -1,53 +1,40 @@
 #include "window/DisplayFocus.h"
 
-#include <algorithm>
+#include "window/Session.h"
 
 namespace core {
-namespace {
 
 using display::SurfaceId;
-
-struct State {
-  SurfaceId reported = 0;
-  std::vector<SurfaceId> requested;  // and not yet reported, the latest last
-};
-
-State& Focus() {
-  static State state;
-  return state;
-}
-
-}  // namespace
-
 void RequestDisplayFocus(SurfaceId id) {
-  State& focus = Focus();
-  const SurfaceId coming = focus.requested.empty() ? focus.reported : focus.requested.back();
+  Session& session = CurrentSession();
+  const SurfaceId coming =
+      session.focusRequested.empty() ? session.focusReported : session.focusRequested.back();
   if (id == 0 || coming == id) return;
-  focus.requested.push_back(id);
+  session.focusRequested.push_back(id);
   display::Current().FocusSurface(id);
 }
 
 bool NoteFocused(SurfaceId id) {
-  State& focus = Focus();
-  focus.reported = id;
-  auto request = std::find(focus.requested.begin(), focus.requested.end(), id);
-  if (request == focus.requested.end()) {
-    focus.requested.clear();
+  Session& session = CurrentSession();
+  session.focusReported = id;
+  auto request = std::find(session.focusRequested.begin(), session.focusRequested.end(), id);
+  if (request == session.focusRequested.end()) {
+    session.focusRequested.clear();
     return true;
   }
-  focus.requested.erase(focus.requested.begin(), request + 1);
-  return focus.requested.empty();
+  session.focusRequested.erase(session.focusRequested.begin(), request + 1);
+  return session.focusRequested.empty();
 }
 
 bool NoteUnfocused(SurfaceId id) {
-  State& focus = Focus();
-  if (focus.reported == id) focus.reported = 0;
-  return focus.requested.empty();
+  Session& session = CurrentSession();
+  if (session.focusReported == id) session.focusReported = 0;
+  return session.focusRequested.empty();
 }
 
 void ForgetDisplayFocus(SurfaceId id) {
-  std::erase(Focus().requested, id);
-  if (Focus().reported == id) Focus().reported = 0;
+  std::erase(CurrentSession().focusRequested, id);
+  if (CurrentSession().focusReported == id) CurrentSession().focusReported = 0;
 }
 
 }  // namespace core

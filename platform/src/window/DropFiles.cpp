@@ -1,26 +1,18 @@
 #include "window/DropFiles.h"
 
-#include "graphics/HandleTable.h"
 #include "window/Coordinates.h"
 #include "window/HitTest.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
 
-struct Drop {
-  HWND window;
-  POINT point;
-  std::vector<std::wstring> files;
-};
-
 HandleTable<HDROP, Drop>& Drops() {
-  static HandleTable<HDROP, Drop> drops;
-  return drops;
+  return CurrentSession().drops;
 }
 
 std::vector<HDROP>& Untaken() {
-  static std::vector<HDROP> drops;
-  return drops;
+  return CurrentSession().untakenDrops;
 }
 
 // The window at the place that accepts files; null where none does.

@@ -2,13 +2,13 @@
 
 #include "window/Activation.h"
 #include "window/Dispatch.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
 
 HWND& Focused() {
-  static HWND focused = nullptr;
-  return focused;
+  return CurrentSession().focused;
 }
 
 WPARAM AsWord(HWND window) {

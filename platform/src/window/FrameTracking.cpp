@@ -6,22 +6,14 @@
 #include "window/Dispatch.h"
 #include "window/Frame.h"
 #include "window/Position.h"
+#include "window/Session.h"
 #include "window/SizeLimits.h"
 
 namespace core {
 namespace {
 
-struct Session {
-  HWND root = nullptr;
-  int part = HTNOWHERE;
-  CPoint start;
-  CRect place;
-  SizeLimits limits{};
-};
-
-Session& Current() {
-  static Session session;
-  return session;
+FrameGrab& Current() {
+  return CurrentSession().frameGrab;
 }
 
 bool HasSide(int part, std::initializer_list<int> sides) {
@@ -29,29 +21,29 @@ bool HasSide(int part, std::initializer_list<int> sides) {
 }
 
 // The rectangle with the grabbed edges moved by the pointer's travel, within the limits.
-CRect Sized(const Session& session, int dx, int dy) {
-  const bool left = HasSide(session.part, {HTLEFT, HTTOPLEFT, HTBOTTOMLEFT});
-  const bool right = HasSide(session.part, {HTRIGHT, HTTOPRIGHT, HTBOTTOMRIGHT});
-  const bool top = HasSide(session.part, {HTTOP, HTTOPLEFT, HTTOPRIGHT});
-  const bool bottom = HasSide(session.part, {HTBOTTOM, HTBOTTOMLEFT, HTBOTTOMRIGHT});
-  CRect rect = session.place;
-  const SIZE size = session.limits.Clamp({rect.Width() + (right  ? dx
-                                                          : left ? -dx
-                                                                 : 0),
-                                          rect.Height() + (bottom ? dy
-                                                           : top  ? -dy
-                                                                  : 0)});
+CRect Sized(const FrameGrab& grab, int dx, int dy) {
+  const bool left = HasSide(grab.part, {HTLEFT, HTTOPLEFT, HTBOTTOMLEFT});
+  const bool right = HasSide(grab.part, {HTRIGHT, HTTOPRIGHT, HTBOTTOMRIGHT});
+  const bool top = HasSide(grab.part, {HTTOP, HTTOPLEFT, HTTOPRIGHT});
+  const bool bottom = HasSide(grab.part, {HTBOTTOM, HTBOTTOMLEFT, HTBOTTOMRIGHT});
+  CRect rect = grab.place;
+  const SIZE size = grab.limits.Clamp({rect.Width() + (right  ? dx
+                                                       : left ? -dx
+                                                              : 0),
+                                       rect.Height() + (bottom ? dy
+                                                        : top  ? -dy
+                                                               : 0)});
   (left ? rect.left : rect.right) = left ? rect.right - size.cx : rect.left + size.cx;
   (top ? rect.top : rect.bottom) = top ? rect.bottom - size.cy : rect.top + size.cy;
   return rect;
 }
 
-void Drag(Window& root, const Session& session, POINT screen) {
-  const int dx = screen.x - session.start.x;
-  const int dy = screen.y - session.start.y;
-  const bool moving = session.part == HTCAPTION;
+void Drag(Window& root, const FrameGrab& grab, POINT screen) {
+  const int dx = screen.x - grab.start.x;
+  const int dy = screen.y - grab.start.y;
+  const bool moving = grab.part == HTCAPTION;
   Hold hold(&root);
-  CRect rect = moving ? session.place.Moved(dx, dy) : Sized(session, dx, dy);
+  CRect rect = moving ? grab.place.Moved(dx, dy) : Sized(grab, dx, dy);
   if (rect == root.rect) return;
   if (moving) Send(root, WM_MOVING, 0, AsParam(static_cast<RECT*>(&rect)));
   if (!hold.Alive()) return;
@@ -64,9 +56,9 @@ void HoldClose(Window& root, POINT screen) {
   SetPressedPart(root, over ? FramePart::Close : FramePart::None);
 }
 
-void Release(Window& root, const Session& session, POINT screen) {
+void Release(Window& root, const FrameGrab& grab, POINT screen) {
   Hold hold(&root);
-  const bool closes = session.part == HTCLOSE && FramePartAt(root, screen) == HTCLOSE;
+  const bool closes = grab.part == HTCLOSE && FramePartAt(root, screen) == HTCLOSE;
   ReleaseCapture();
   if (closes && hold.Alive()) Send(root, WM_SYSCOMMAND, SC_CLOSE, MAKELPARAM(screen.x, screen.y));
 }
@@ -91,25 +83,25 @@ bool IsFrameTracked() {
 }
 
 void TrackFrame(const display::Input& input) {
-  const Session session = Current();
-  Window* root = Find(session.root);
+  const FrameGrab grab = Current();
+  Window* root = Find(grab.root);
   if (!root) return;
   const bool released =
       input.kind == display::Input::Kind::ButtonUp && input.button == display::MouseButton::Left;
   Hold hold(root);
-  if (session.part == HTCLOSE)
+  if (grab.part == HTCLOSE)
     HoldClose(*root, input.position);
   else
-    Drag(*root, session, input.position);
-  if (released && hold.Alive()) Release(*root, session, input.position);
+    Drag(*root, grab, input.position);
+  if (released && hold.Alive()) Release(*root, grab, input.position);
 }
 
 void EndFrameTracking() {
-  const Session session = std::exchange(Current(), {});
-  Window* root = Find(session.root);
+  const FrameGrab grab = std::exchange(Current(), {});
+  Window* root = Find(grab.root);
   if (!root) return;
   SetPressedPart(*root, FramePart::None);
-  if (session.part != HTCLOSE) Send(*root, WM_EXITSIZEMOVE);
+  if (grab.part != HTCLOSE) Send(*root, WM_EXITSIZEMOVE);
 }
 
 }  // namespace core

@@ -11,6 +11,7 @@
 #include "window/Pointer.h"
 #include "window/Position.h"
 #include "window/Queue.h"
+#include "window/Session.h"
 #include "window/TopLevelSurface.h"
 #include "window/Updates.h"
 
@@ -20,25 +21,19 @@ namespace {
 using display::Input;
 using Kind = display::Input::Kind;
 
-// A record that was read ahead while moves of the pointer were drawn together.
-std::optional<Input>& ReadAhead() {
-  static std::optional<Input> input;
-  return input;
-}
-
 bool IsSameMove(const Input& a, const Input& b) {
   return a.kind == Kind::PointerMoved && b.kind == Kind::PointerMoved && a.surface == b.surface;
 }
 
 // Of several moves in a row only the last counts.
 std::optional<Input> NextInput() {
-  std::optional<Input> input = std::exchange(ReadAhead(), std::nullopt);
+  std::optional<Input> input = std::exchange(CurrentSession().readAhead, std::nullopt);
   if (!input) input = display::Current().Poll();
   while (input && input->kind == Kind::PointerMoved) {
     std::optional<Input> next = display::Current().Poll();
     if (!next) break;
     if (!IsSameMove(*input, *next)) {
-      ReadAhead() = std::move(next);
+      CurrentSession().readAhead = std::move(next);
       break;
     }
     input = std::move(next);
@@ -155,8 +150,9 @@ std::optional<MSG> TakeInput() {
 }
 
 void BroadcastSchemeChange() {
-  static SystemScheme known = GetSystemScheme();
-  if (std::exchange(known, GetSystemScheme()) != GetSystemScheme()) ChangeColors();
+  const SystemScheme now = GetSystemScheme();
+  const auto known = std::exchange(CurrentSession().scheme, now);
+  if (known && known != now) ChangeColors();
 }
 
 }  // namespace core

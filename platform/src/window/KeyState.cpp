@@ -1,33 +1,22 @@
 #include "window/KeyState.h"
 
-#include <array>
-
 #include "display/Display.h"
 #include "platform/VirtualKeys.h"
 #include "platform/Window.h"
 #include "window/ScanCodes.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
 
-struct Key {
-  bool down = false;
-  bool toggled = false;
-};
-
-constexpr int kKeyCount = 256;
-
-std::array<Key, kKeyCount>& Keys() {
-  static std::array<Key, kKeyCount> keys;
-  return keys;
-}
+constexpr int kKeyCount = Session::kKeyCount;
 
 bool IsKey(int virtualKey) {
   return virtualKey > 0 && virtualKey < kKeyCount;
 }
 
 Key& KeyAt(int virtualKey) {
-  return Keys()[static_cast<std::size_t>(virtualKey)];
+  return CurrentSession().keys[static_cast<std::size_t>(virtualKey)];
 }
 
 void Press(int virtualKey, bool down) {
@@ -68,7 +57,7 @@ void ReadKeyState() {
 }
 
 void ReleaseAllKeys() {
-  for (Key& key : Keys()) key.down = false;
+  for (Key& key : CurrentSession().keys) key.down = false;
 }
 
 WPARAM MouseKeys() {

@@ -7,26 +7,15 @@
 #include "window/Focus.h"
 #include "window/KeyState.h"
 #include "window/ScanCodes.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
 
 using display::Input;
 
-// The latest key message and the characters that it gives.
-struct KeyStroke {
-  MSG message{};
-  std::u32string text;
-};
-
-KeyStroke& LatestKey() {
-  static KeyStroke latest;
-  return latest;
-}
-
-bool& KeyboardUsedLast() {
-  static bool used = false;
-  return used;
+LatestKey& Latest() {
+  return CurrentSession().latestKey;
 }
 
 constexpr std::uint32_t kExtended = 1U << 24;
@@ -67,7 +56,7 @@ std::optional<MSG> KeyMessage(const Input& input) {
   const bool wasDown = IsKeyDown(input.virtualKey);
   const int key = EitherSide(input.virtualKey);
   SetKeyDown(input.virtualKey, down);
-  KeyboardUsedLast() = true;
+  CurrentSession().keyboardUsedLast = true;
   const Window* focused = FocusedWindow();
   const Window* target = focused ? focused : ActiveWindow();
   if (!target) return std::nullopt;
@@ -82,11 +71,11 @@ std::optional<MSG> KeyMessage(const Input& input) {
 }
 
 bool WasKeyboardUsedLast() {
-  return KeyboardUsedLast();
+  return CurrentSession().keyboardUsedLast;
 }
 
 void NoteMouseUsed() {
-  KeyboardUsedLast() = false;
+  CurrentSession().keyboardUsedLast = false;
 }
 
 }  // namespace core

@@ -4,36 +4,17 @@
 
 #include "window/Coordinates.h"
 #include "window/KeyState.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
 
-struct Tracking {
-  HWND window = nullptr;
-  bool leave = false;
-  bool hover = false;
-  UINT hoverTime = 0;
-  CPoint restingPlace;
-  std::uint64_t hoverDue = 0;
-};
-
-struct Pointer {
-  HWND over = nullptr;
-  CPoint place;
-};
-
 Tracking& Request() {
-  static Tracking request;
-  return request;
-}
-
-Pointer& LatestPointer() {
-  static Pointer pointer;
-  return pointer;
+  return CurrentSession().tracking;
 }
 
 void StartHover(Tracking& request) {
-  request.restingPlace = LatestPointer().place;
+  request.restingPlace = CurrentSession().pointerPlace;
   request.hoverDue = display::Current().Now() + request.hoverTime;
 }
 
@@ -51,10 +32,11 @@ void Leave() {
 }  // namespace
 
 void NotePointerOver(const Window* window, POINT screen) {
-  LatestPointer() = {window ? window->handle : nullptr, screen};
+  CurrentSession().pointerOver = window ? window->handle : nullptr;
+  CurrentSession().pointerPlace = screen;
   Tracking& request = Request();
   if (!request.window) return;
-  if (request.window != LatestPointer().over)
+  if (request.window != CurrentSession().pointerOver)
     Leave();
   else if (request.hover && HasMovedAway(request, screen))
     StartHover(request);
@@ -70,7 +52,7 @@ void PostDueHover() {
   if (!due || *due > display::Current().Now()) return;
   Tracking& request = Request();
   request.hover = false;
-  const POINT p = ToClient(*Find(request.window), LatestPointer().place);
+  const POINT p = ToClient(*Find(request.window), CurrentSession().pointerPlace);
   PostMessageW(request.window, WM_MOUSEHOVER, MouseKeys(), MAKELPARAM(p.x, p.y));
   if (!request.leave) request = {};
 }
@@ -91,6 +73,6 @@ BOOL TrackMouseEvent(TRACKMOUSEEVENT* request) {
     tracking.hoverTime = ownTime ? request->dwHoverTime : kHoverTime;
     core::StartHover(tracking);
   }
-  if (core::LatestPointer().over != request->hwndTrack) core::Leave();
+  if (core::CurrentSession().pointerOver != request->hwndTrack) core::Leave();
   return TRUE;
 }

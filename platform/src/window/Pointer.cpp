@@ -14,6 +14,7 @@
 #include "window/KeyState.h"
 #include "window/Keyboard.h"
 #include "window/MouseTracking.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
@@ -22,8 +23,7 @@ using display::Input;
 using display::MouseButton;
 
 HWND& HoveredRoot() {
-  static HWND root = nullptr;
-  return root;
+  return CurrentSession().hoveredRoot;
 }
 
 int KeyOf(MouseButton button) {

@@ -13,6 +13,7 @@
 #include "window/InputRouting.h"
 #include "window/MouseTracking.h"
 #include "window/PaintPass.h"
+#include "window/Session.h"
 #include "window/Timers.h"
 
 namespace core {
@@ -32,17 +33,6 @@ PostedMessages& Posted() {
   return posted;
 }
 
-struct PumpState {
-  std::optional<MSG> peeked;  // looked at and left in the queue
-  std::optional<int> quit;
-  std::exception_ptr postponed;
-};
-
-PumpState& Pump() {
-  static PumpState state;
-  return state;
-}
-
 std::optional<MSG> TakePosted() {
   PostedMessages& posted = Posted();
   std::lock_guard lock(posted.mutex);
@@ -58,14 +48,14 @@ std::optional<MSG> TakePosted() {
 }
 
 std::optional<MSG> TakePeeked() {
-  std::optional<MSG> message = std::exchange(Pump().peeked, std::nullopt);
+  std::optional<MSG> message = std::exchange(CurrentSession().peeked, std::nullopt);
   const bool stale = message && message->hwnd && !IsWindow(message->hwnd);
   return stale ? std::nullopt : message;
 }
 
 std::optional<MSG> TakeQuit() {
-  if (!Pump().quit || HasPosted()) return std::nullopt;
-  const int code = *std::exchange(Pump().quit, std::nullopt);
+  if (!CurrentSession().quit || HasPosted()) return std::nullopt;
+  const int code = *std::exchange(CurrentSession().quit, std::nullopt);
   return MSG{nullptr, WM_QUIT, static_cast<WPARAM>(code), 0, GetTickCount(), {}};
 }
 
@@ -136,7 +126,13 @@ void ExpectMore(int change) {
 }  // namespace
 
 void ThrowPostponed() {
-  if (Pump().postponed) std::rethrow_exception(std::exchange(Pump().postponed, nullptr));
+  if (CurrentSession().postponed)
+    std::rethrow_exception(std::exchange(CurrentSession().postponed, nullptr));
+}
+
+void DropPosted() {
+  std::lock_guard lock(Posted().mutex);
+  Posted().messages.clear();
 }
 
 bool HasPosted() {
@@ -166,12 +162,12 @@ void ExpectNoMorePosts() {
 
 // The message wakes a pump that waits.
 void PostponeException(std::exception_ptr exception) {
-  if (!core::Pump().postponed) core::Pump().postponed = std::move(exception);
+  if (!core::CurrentSession().postponed) core::CurrentSession().postponed = std::move(exception);
   PostMessageW(nullptr, WM_NULL, 0, 0);
 }
 
 void PostQuitMessage(int exitCode) {
-  core::Pump().quit = exitCode;
+  core::CurrentSession().quit = exitCode;
 }
 
 BOOL GetMessageW(MSG* message) {
@@ -190,6 +186,6 @@ BOOL PeekMessageW(MSG* message, UINT flags) {
   auto taken = core::TakeMessage();
   if (!taken) return FALSE;
   *message = *taken;
-  if (!(flags & PM_REMOVE)) core::Pump().peeked = taken;
+  if (!(flags & PM_REMOVE)) core::CurrentSession().peeked = taken;
   return TRUE;
 }

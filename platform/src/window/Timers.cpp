@@ -1,22 +1,12 @@
 #include "window/Timers.h"
 
-#include <algorithm>
-
-#include "window/WindowObject.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
 
-struct Timer {
-  HWND window;
-  UINT_PTR id;
-  UINT period;
-  std::uint64_t due;
-};
-
 std::vector<Timer>& Timers() {
-  static std::vector<Timer> timers;
-  return timers;
+  return CurrentSession().timers;
 }
 
 std::vector<Timer>::iterator FindTimer(HWND window, UINT_PTR id) {

@@ -1,6 +1,7 @@
 #include "window/TopLevelSurface.h"
 
 #include "window/DisplayFocus.h"
+#include "window/Session.h"
 #include "window/SizeLimits.h"
 
 namespace core {
@@ -14,11 +15,6 @@ SurfaceKind KindOf(const Window& root) {
   if (root.exStyle & WS_EX_NOACTIVATE)
     return root.exStyle & WS_EX_TOPMOST ? SurfaceKind::ToolTip : SurfaceKind::PopUp;
   return root.exStyle & WS_EX_TOOLWINDOW ? SurfaceKind::PopUp : SurfaceKind::Dialog;
-}
-
-display::SurfaceId NewId() {
-  static display::SurfaceId last = 0;
-  return ++last;
 }
 
 display::SurfaceId OwnerSurface(const Window& root) {
@@ -37,7 +33,7 @@ void EnsureSurface(Window& root) {
   TopLevel& top = *root.top;
   if (top.surfaceId != 0) return;
   Display& display = display::Current();
-  top.surfaceId = NewId();
+  top.surfaceId = ++CurrentSession().lastSurface;
   top.place = root.rect;
   display.CreateSurface(top.surfaceId, KindOf(root), OwnerSurface(root), root.rect);
   UpdateTitle(root);

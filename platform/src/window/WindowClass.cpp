@@ -11,7 +11,7 @@ namespace {
 using ClassMap = std::unordered_map<std::wstring, std::unique_ptr<WindowClass>>;
 
 ClassMap& Classes() {
-  static ClassMap classes;
+  static auto& classes = *new ClassMap;  // outlives static objects
   return classes;
 }
 

@@ -1,13 +1,7 @@
-#include "graphics/HandleTable.h"
-#include "window/WindowObject.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {
-
-HandleTable<HWND, Window>& Table() {
-  static HandleTable<HWND, Window> table;
-  return table;
-}
 
 thread_local bool makesWindows = false;
 
@@ -18,7 +12,7 @@ Hold::~Hold() {
 }
 
 Window* Find(HWND window) {
-  return Table().Find(window);
+  return CurrentSession().windows.Find(window);
 }
 
 bool OnWindowThread() {
@@ -28,21 +22,20 @@ bool OnWindowThread() {
 Window& AddWindow(std::unique_ptr<Window> window) {
   makesWindows = true;
   Window& added = *window;
-  added.handle = Table().Add(std::move(window));
+  added.handle = CurrentSession().windows.Add(std::move(window));
   return added;
 }
 
 void RemoveWindow(Window& window) {
   std::erase(Siblings(window), &window);
   if (window.parent) window.parent->overlapsKnown = false;
-  std::unique_ptr<Window> owned = Table().Remove(window.handle);
+  std::unique_ptr<Window> owned = CurrentSession().windows.Remove(window.handle);
   window.alive = false;
   if (window.holds > 0) static_cast<void>(owned.release());
 }
 
 std::vector<Window*>& TopLevels() {
-  static std::vector<Window*> windows;
-  return windows;
+  return CurrentSession().topLevels;
 }
 
 std::vector<Window*>& Siblings(Window& window) {
