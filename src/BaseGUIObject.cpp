@@ -10,7 +10,8 @@ namespace Wexa {
 namespace {
 
 const std::shared_ptr<const BaseGUIObject::EventHandler>& NoProcedure() {
-  static const auto none = std::make_shared<const BaseGUIObject::EventHandler>();
+  static const auto& none =
+      *new std::shared_ptr<const BaseGUIObject::EventHandler>(new BaseGUIObject::EventHandler);
   return none;
 }
 

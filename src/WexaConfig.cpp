@@ -46,7 +46,7 @@ WexaConfig::WexaConfig() {
 }
 
 WexaConfig& WexaConfig::Instance() {
-  static WexaConfig config;
+  static WexaConfig& config = *new WexaConfig;  // outlives the host's static objects
   return config;
 }
 

@@ -29,7 +29,7 @@ WexaLogger::WexaLogger() = default;
 WexaLogger::~WexaLogger() = default;
 
 WexaLogger& WexaLogger::GetInstance() {
-  static WexaLogger logger;
+  static WexaLogger& logger = *new WexaLogger;  // outlives the host's static objects
   return logger;
 }
 

@@ -8,7 +8,7 @@ WexaObjectFactory::WexaObjectFactory() = default;
 WexaObjectFactory::~WexaObjectFactory() = default;
 
 WexaObjectFactory& WexaObjectFactory::Instance() {
-  static WexaObjectFactory factory;
+  static auto& factory = *new WexaObjectFactory;  // outlives the host's static objects
   return factory;
 }
 

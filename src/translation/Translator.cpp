@@ -52,7 +52,7 @@ Translator::Translator() = default;
 Translator::~Translator() = default;
 
 Translator& Translator::GetInstance() {
-  static Translator translator;
+  static Translator& translator = *new Translator;  // outlives the host's static objects
   return translator;
 }
 

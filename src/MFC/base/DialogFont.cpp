@@ -41,7 +41,7 @@ int Flag(bool set) {
 }  // namespace
 
 HFONT DialogFont() {
-  static CFont font;
+  static CFont& font = *new CFont;  // outlives the host's static objects
   static LOGFONTW made{};
   static int madeFor = 0;
   LOGFONTW wanted = DefaultDescription();

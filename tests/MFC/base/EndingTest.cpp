@@ -1,6 +1,7 @@
 // What a host may do in the middle of things: end the dialog in any notice that it gets, or throw
 // while a widget ends.
 
+#include <cstdlib>
 #include <functional>
 
 #include "Button.h"
@@ -35,6 +36,8 @@ std::string PageXml(const std::string& name, const std::string& title, const std
 const std::string kPages = PageXml("page", "A", kEdit) +
                            PageXml("second", "A title &amp;long enough", WidgetXml("QLabel", "l"));
 const std::string kViews = WidgetXml("QTextEdit", "a") + WidgetXml("QTextEdit", "b");
+
+std::unique_ptr<Dialog> g_last;  // goes after all that is made while main runs
 
 class EndingTest : public FormTest {
  protected:
@@ -210,6 +213,16 @@ TEST_F(ReactingTest, AHostMayEndTheDialogOrThrowWhileAWidgetOrTheDialogEnds) {
           OpenOne(className, inner);
           Try(*dialog_, notice, way, reaction);
         }
+}
+
+TEST_F(EndingTest, ADialogMayOutliveMain) {
+  const auto leave = [this] {
+    g_last = Make(ColumnForm(ItemXml(WidgetXml("QPushButton", "widget"))));
+    g_last->DoModeless(true);
+    Robot::PumpAll();
+    std::exit(0);
+  };
+  EXPECT_EXIT(leave(), testing::ExitedWithCode(0), "");
 }
 
 // The loop may not wait for input that would not concern it.
