@@ -134,6 +134,25 @@ TEST_F(LifeTest, DestroyedByItsOwnHandlerAtAnyMessage) {
   }
 }
 
+TEST_F(LifeTest, AllGoesWithTheDisplayAndNothingOfItComesBack) {
+  const HWND window = ShowWindowAt({0, 0, 100, 100});
+  SetTimer(window, 1, 10);
+  SetCapture(window);
+  robot_.KeyDown(VK_SHIFT);
+  PostQuitMessage(3);
+  Watch({WM_DESTROY});
+  display::SetCurrent(std::make_unique<display::OffscreenDisplay>(96));
+  EXPECT_THAT(TakeNotes(), ElementsAre("DESTROY"));
+  const HWND next = ShowWindowAt({0, 0, 100, 100});
+  EXPECT_NE(next, window);
+  EXPECT_FALSE(IsWindow(window));
+  EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_GE(GetKeyState(VK_SHIFT), 0);
+  robot_.AdvanceTime(20);
+  MSG message{};
+  EXPECT_FALSE(PeekMessageW(&message, PM_REMOVE));
+}
+
 TEST_F(LifeTest, ExceptionInDestroyIsThrownAfterAllIsGone) {
   const HWND window = ShowWindowAt({0, 0, 100, 100});
   const HWND child = MakeChild(window, {0, 0, 10, 10});
