@@ -203,10 +203,14 @@ TEST_F(PointerTest, DroppedFilesReachTheAcceptingParent) {
 
 TEST_F(PointerTest, MovesInARowComeAsOne) {
   Watch({WM_MOUSEMOVE, WM_LBUTTONDOWN});
-  for (int x = 110; x < 150; ++x) Robot::Screen().MovePointer({x, 110});
+  const auto sweep = [] {
+    for (int x = 110; x < 150; ++x) Robot::Screen().MovePointer({x, 110});
+  };
+  sweep();
   Robot::Screen().PressButton(display::MouseButton::Left);
+  sweep();
   robot_.PumpAll();
-  EXPECT_THAT(TakeNotes(), ElementsAre("MOVE", "LDOWN"));
+  EXPECT_THAT(TakeNotes(), ElementsAre("MOVE", "LDOWN", "MOVE"));
 }
 
 // -- Frames --------------------------------------------------------------------------------------

@@ -1,3 +1,5 @@
+#include "display/x11/Records.h"
+
 #include "platform/VirtualKeys.h"
 #include "x11/X11Test.h"
 
@@ -28,6 +30,15 @@ TEST_F(X11PointerTest, MotionsInARowAreOne) {
   const auto moves = All(Kind::PointerMoved);
   ASSERT_EQ(moves.size(), 1u);
   EXPECT_EQ(moves[0].position.x, 170);
+}
+
+TEST(X11Records, AMoveWithOtherButtonsOrModifiersIsNotDrawnIntoTheLast) {
+  x11::Records records;
+  for (const std::uint16_t held : std::initializer_list<std::uint16_t>{0, 1, 1, 256})
+    records.Push({{Kind::PointerMoved}, held});
+  std::vector<int> taken;
+  while (const auto record = records.Pop()) taken.push_back(*record->held);
+  EXPECT_EQ(taken, (std::vector{0, 1, 256}));
 }
 
 TEST_F(X11PointerTest, PointerElsewhereIsAskedFor) {

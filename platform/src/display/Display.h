@@ -122,7 +122,8 @@ class Display {
   virtual Pixels LockPixels(SurfaceId id) = 0;
   virtual void Present(SurfaceId id, const RECT* damaged, std::size_t count) = 0;
 
-  // The next record, or none at once. Throws std::runtime_error when the server is lost.
+  // The next record, or none at once. Moves of the pointer in a row, with the same buttons and
+  // modifiers held, come as one. Throws std::runtime_error when the server is lost.
   virtual std::optional<Input> Poll() = 0;
   // Returns when there may be input, when Wake was called, or at `deadline` (clock milliseconds).
   // Offscreen there is no one to wait for: time jumps to the deadline; without one it returns

@@ -21,26 +21,6 @@ namespace {
 using display::Input;
 using Kind = display::Input::Kind;
 
-bool IsSameMove(const Input& a, const Input& b) {
-  return a.kind == Kind::PointerMoved && b.kind == Kind::PointerMoved && a.surface == b.surface;
-}
-
-// Of several moves in a row only the last counts.
-std::optional<Input> NextInput() {
-  std::optional<Input> input = std::exchange(CurrentSession().readAhead, std::nullopt);
-  if (!input) input = display::Current().Poll();
-  while (input && input->kind == Kind::PointerMoved) {
-    std::optional<Input> next = display::Current().Poll();
-    if (!next) break;
-    if (!IsSameMove(*input, *next)) {
-      CurrentSession().readAhead = std::move(next);
-      break;
-    }
-    input = std::move(next);
-  }
-  return input;
-}
-
 void SendToAll(UINT message, WPARAM wParam, LPARAM lParam) {
   for (const HWND handle : GetTopLevelWindows()) SendMessageW(handle, message, wParam, lParam);
 }
@@ -142,7 +122,7 @@ std::optional<MSG> Route(const Input& input) {
 
 std::optional<MSG> TakeInput() {
   while (!HasPosted()) {
-    const std::optional<Input> input = NextInput();
+    const std::optional<Input> input = display::Current().Poll();
     if (!input) return std::nullopt;
     if (auto message = Route(*input)) return message;
   }

@@ -102,8 +102,7 @@ struct Session {
   CursorState cursor;
   FrameGrab frameGrab;
 
-  std::optional<display::Input> readAhead;  // while moves of the pointer were drawn together
-  std::optional<MSG> peeked;                // looked at and left in the queue
+  std::optional<MSG> peeked;  // looked at and left in the queue
   std::optional<int> quit;
   std::exception_ptr postponed;
   std::vector<Timer> timers;

@@ -24,6 +24,9 @@ bool IsExtended(int key) {
 
 void OffscreenDisplay::Report(Input input) {
   input.time = static_cast<std::uint32_t>(now_);
+  const bool follows = !records_.empty() && records_.back().surface == input.surface &&
+                       records_.back().kind == Kind::PointerMoved;
+  if (follows && input.kind == Kind::PointerMoved) records_.pop_back();
   records_.push_back(std::move(input));
 }
 

@@ -7,16 +7,17 @@ bool IsPlace(const Input& input) {
   return input.kind == Input::Kind::Moved || input.kind == Input::Kind::Resized;
 }
 
-bool Replaces(const Input& later, const Input& earlier) {
-  return later.kind == earlier.kind && later.surface == earlier.surface &&
-         (IsPlace(later) || later.kind == Input::Kind::PointerMoved ||
-          later.kind == Input::Kind::FilesDragged);
+bool Replaces(const Record& later, const Record& earlier) {
+  const Input::Kind kind = later.input.kind;
+  if (kind != earlier.input.kind || later.input.surface != earlier.input.surface) return false;
+  if (kind == Input::Kind::PointerMoved) return later.held == earlier.held;
+  return IsPlace(later.input) || kind == Input::Kind::FilesDragged;
 }
 
 }  // namespace
 
 void Records::Push(Record record) {
-  if (!records_.empty() && Replaces(record.input, records_.back().input)) {
+  if (!records_.empty() && Replaces(record, records_.back())) {
     records_.back().input = std::move(record.input);
   } else {
     records_.push_back(std::move(record));

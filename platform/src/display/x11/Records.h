@@ -18,7 +18,8 @@ struct Record {
 
 class Records {
  public:
-  // A new position or size takes the place of the one before it, when nothing came in between.
+  // A new position or size takes the place of the one before it, when nothing came in between; that
+  // of the pointer only while the same is held.
   void Push(Record record);
   std::optional<Record> Pop();
   bool IsEmpty() const { return records_.empty(); }
