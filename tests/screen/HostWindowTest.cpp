@@ -8,6 +8,7 @@ namespace {
 
 constexpr SIZE kClient{320, 240};
 const std::string kForm = testdata::InProject("tests/screen/Guest.ui");
+const std::string kAsk = testdata::InProject("tests/screen/Ask.ui");
 
 class HostWindowTest : public ScreenTest {
  protected:
@@ -82,6 +83,19 @@ TEST_F(HostWindowTest, FilesGoToTheWidgetThatTakesThem) {
   ASSERT_TRUE(Eventually([&] { return source.Give("file:///a%20b\r\nfile:///c\r\n"); }));
   ASSERT_TRUE(Eventually([&] { return source.Take("XdndFinished").has_value(); }));
   ExpectEnd("/a b\n/c\n");
+}
+
+TEST_F(HostWindowTest, AModalDialogTakesTextUntilItsButtonIsClicked) {
+  OpenInHost(kAsk, "Ask", kClient, "ask");
+  ClickAt(MiddleOf(At("name")));
+  person_.TypeText(U"Ada");
+  ClickAt(MiddleOf(At("ok")));
+  EXPECT_TRUE(person_.WaitForClose(window_));
+  EXPECT_EQ(program_->WaitForEnd().errors, "1 Ada\n");
+}
+
+TEST_F(HostWindowTest, AModalDialogThatVanishesInItsFirstPaintReturns) {
+  EXPECT_EQ(Program({WEXA_SCREEN_HOST, kAsk, "vanish"}).WaitForEnd().errors, "-1 \n");
 }
 
 TEST_F(HostWindowTest, HighContrastComesAndGoesWithTheTheme) {

@@ -45,9 +45,10 @@ void ScreenTest::Open(const std::string& form, const std::string& title, SIZE cl
   Start({WEXA_PREVIEW, "--size", SizeText(client), form}, title, client);
 }
 
-void ScreenTest::OpenInHost(const std::string& form, const std::string& title, SIZE client) {
+void ScreenTest::OpenInHost(const std::string& form, const std::string& title, SIZE client,
+                            const std::string& manner) {
   form_ = form;
-  Start({WEXA_SCREEN_HOST, form}, title, client);
+  Start({WEXA_SCREEN_HOST, form, manner}, title, client);
 }
 
 void ScreenTest::Start(const std::vector<std::string>& command, const std::string& title,

@@ -31,7 +31,8 @@ class ScreenTest : public testing::Test {
   // has the keyboard.
   void Open(const std::string& form, const std::string& title, SIZE client);
   // The same with a host program that does what `host/main.cpp` says; the form has its own size.
-  void OpenInHost(const std::string& form, const std::string& title, SIZE client);
+  void OpenInHost(const std::string& form, const std::string& title, SIZE client,
+                  const std::string& manner = "");
   // Resizes the window from outside, so that its client area gets this size.
   void ResizeClient(SIZE client);
 

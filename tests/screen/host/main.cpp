@@ -1,5 +1,6 @@
 // A host for tests: shows a form, takes files on its "name" and names them as errors, and shows a
-// balloon there when "twin" is clicked.
+// balloon there when "twin" is clicked. With "ask" as second argument the form's "ok" ends the
+// dialog, with "vanish" the first paint of its "name" destroys it; both tell what DoModal returned.
 
 #include <wexa/Wexa.h>
 
@@ -41,11 +42,43 @@ class Host : public Wexa::Dialog {
   const std::shared_ptr<Wexa::BaseGUIObject> name_ = GetElementByName(L"name");
 };
 
+using DialogPointer = std::unique_ptr<Wexa::Dialog>;
+
+void EndByButton(DialogPointer& dialog) {
+  const auto ok = std::dynamic_pointer_cast<Wexa::Button>(dialog->GetElementByName(L"ok"));
+  ok->Clicked.Connect([&dialog] { dialog->Done(Wexa::Dialog::Accepted); });
+}
+
+void EndByPaint(DialogPointer& dialog) {
+  dialog->GetElementByName(L"name")->SetEventProcedure(
+      [&dialog](Wexa::BaseGUIObject*, Wexa::Event* event) {
+        if (event->GetType() == Wexa::Event::Paint) dialog.reset();
+        return false;
+      });
+}
+
+void TellResult(const std::string& form, void (*end)(DialogPointer&)) {
+  auto dialog =
+      std::make_unique<Wexa::Dialog>(std::wstring(form.begin(), form.end()), nullptr, 0, 1.0);
+  const auto name = std::dynamic_pointer_cast<Wexa::Edit>(dialog->GetElementByName(L"name"));
+  end(dialog);
+  const int result = dialog->DoModal();
+  std::fprintf(stderr, "%d %ls\n", result, name->GetText().c_str());
+}
+
 }  // namespace
 
-int main(int, char** arguments) try {
+int main(int count, char** arguments) try {
   std::setlocale(LC_ALL, "");
-  Host(arguments[1]).DoModal();
+  const std::string form = arguments[1];
+  const std::string manner = count > 2 ? arguments[2] : "";
+  if (manner == "ask") {
+    TellResult(form, EndByButton);
+  } else if (manner == "vanish") {
+    TellResult(form, EndByPaint);
+  } else {
+    Host(form).DoModal();
+  }
   return 0;
 } catch (const std::exception& error) {
   std::fprintf(stderr, "%s\n", error.what());
