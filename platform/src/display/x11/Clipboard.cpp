@@ -3,6 +3,7 @@
 #include "Connection.h"
 #include "Text.h"
 #include "Waker.h"
+#include "graphics/Utf8.h"
 
 namespace display::x11 {
 namespace {

@@ -5,27 +5,9 @@
 #include <iterator>
 
 namespace display::x11 {
-namespace {
-
-constexpr std::uint32_t kReplacement = 0xFFFD;
-
-bool IsCharacter(std::uint32_t c) {
-  return c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF);
-}
-
-}  // namespace
-
-std::string ToUtf8(std::wstring_view text) {
-  std::string bytes;
-  bytes.reserve(text.size());
-  for (const wchar_t unit : text) {
-    const auto c = static_cast<std::uint32_t>(unit);
-    utf8::append(IsCharacter(c) ? c : kReplacement, std::back_inserter(bytes));
-  }
-  return bytes;
-}
 
 std::u32string FromUtf8(std::string_view bytes) {
+  constexpr std::uint32_t kReplacement = 0xFFFD;
   std::string valid;
   utf8::replace_invalid(bytes.begin(), bytes.end(), std::back_inserter(valid), kReplacement);
   std::u32string text;

@@ -11,6 +11,7 @@
 
 #include "Connection.h"
 #include "Text.h"
+#include "graphics/Utf8.h"
 
 namespace display::x11 {
 namespace {
