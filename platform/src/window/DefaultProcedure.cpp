@@ -7,7 +7,6 @@
 #include "window/Frame.h"
 #include "window/FrameTracking.h"
 #include "window/Position.h"
-#include "window/SizeLimits.h"
 #include "window/UiState.h"
 #include "window/Updates.h"
 #include "window/WindowClass.h"

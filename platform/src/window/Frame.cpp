@@ -4,6 +4,7 @@
 
 #include "platform/SystemColors.h"
 #include "window/Coordinates.h"
+#include "window/Dispatch.h"
 #include "window/PaintContext.h"
 #include "window/Updates.h"
 #include "window/WindowClass.h"
@@ -126,6 +127,21 @@ void SetHoveredPart(Window& root, FramePart part) {
 
 void SetPressedPart(Window& root, FramePart part) {
   if (std::exchange(root.top->pressed, part) != part) InvalidateCaption(root);
+}
+
+SizeLimits LimitsOf(Window& window) {
+  constexpr LONG kLargest = 32767;
+  const RECT frame = FrameInsets(window.style, window.exStyle);
+  const int caption = window.Is(WS_CAPTION) ? 2 * Theme::CaptionHeight() : 0;
+  const CRect work = display::Current().WorkArea();
+  MINMAXINFO info{};
+  info.ptMaxSize = {work.Width(), work.Height()};
+  info.ptMaxPosition = work.TopLeft();
+  info.ptMinTrackSize = {frame.left + frame.right + caption, frame.top + frame.bottom};
+  info.ptMaxTrackSize = {kLargest, kLargest};
+  Send(window, WM_GETMINMAXINFO, 0, AsParam(&info));
+  return {{info.ptMinTrackSize.x, info.ptMinTrackSize.y},
+          {info.ptMaxTrackSize.x, info.ptMaxTrackSize.y}};
 }
 
 void InvalidateCaption(Window& root) {

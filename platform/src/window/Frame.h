@@ -19,4 +19,18 @@ void SetHoveredPart(Window& root, FramePart part);
 void SetPressedPart(Window& root, FramePart part);
 void InvalidateCaption(Window& root);
 
+struct SizeLimits {
+  SIZE minimum;
+  SIZE maximum;
+
+  // The minimum wins over a smaller maximum.
+  SIZE Clamp(SIZE size) const {
+    return {std::max(std::min(size.cx, maximum.cx), minimum.cx),
+            std::max(std::min(size.cy, maximum.cy), minimum.cy)};
+  }
+};
+
+// What the window answers to WM_GETMINMAXINFO; at least its frame with a close button.
+SizeLimits LimitsOf(Window& window);
+
 }  // namespace core

@@ -7,7 +7,6 @@
 #include "window/Frame.h"
 #include "window/Position.h"
 #include "window/Session.h"
-#include "window/SizeLimits.h"
 
 namespace core {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "graphics/HandleTable.h"
 #include "window/CreationHook.h"
-#include "window/SizeLimits.h"
+#include "window/Frame.h"
 #include "window/WindowObject.h"
 
 namespace core {

@@ -2,7 +2,7 @@
 
 #include "window/DisplayFocus.h"
 #include "window/Session.h"
-#include "window/SizeLimits.h"
+#include "window/Frame.h"
 
 namespace core {
 namespace {
