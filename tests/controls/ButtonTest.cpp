@@ -1,121 +1,119 @@
+#include <functional>
+
 #include "controls/ControlsTest.h"
 
 class ButtonTest : public ControlsTest {};
 
-TEST_F(ButtonTest, ClickTellsTheParentOnce) {
+// Each way of using a button, and how often it clicks. Nothing of it stays behind.
+TEST_F(ButtonTest, ClicksWhenItIsPressedAndLetGoInside) {
   const HWND button = AddRow(WC_BUTTON, WS_TABSTOP, 10, L"Go");
-  robot_.ClickCentreOf(button);
-  EXPECT_EQ(dialog_.TakeClicks(), std::vector{10});
-  EXPECT_FALSE(IsPushed(button));
-  EXPECT_EQ(GetFocus(), button);
-}
-
-TEST_F(ButtonTest, ReleaseOutsideDoesNotClick) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  const POINT inside = CentreOf(button);
-  robot_.Press(inside);
-  EXPECT_TRUE(IsPushed(button));
-  robot_.MoveTo({inside.x, inside.y + 60});
-  EXPECT_FALSE(IsPushed(button));
-  robot_.Release();
-  EXPECT_TRUE(dialog_.TakeClicks().empty());
-  EXPECT_EQ(GetCapture(), nullptr);
-}
-
-// The pointer may get there without a move in between.
-TEST_F(ButtonTest, WhereItIsReleasedCounts) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  for (const auto& [pressed, released] : {std::pair{5, 500}, std::pair{500, 5}}) {
-    SendMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(pressed, 5));
-    SendMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(released, 5));
-    EXPECT_EQ(dialog_.TakeClicks().size(), released == 5 ? 1U : 0U);
-  }
-}
-
-TEST_F(ButtonTest, DraggingBackInsideClicks) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  const POINT inside = CentreOf(button);
-  robot_.Press(inside);
-  robot_.MoveTo({inside.x, inside.y + 60});
-  robot_.MoveTo(inside);
-  EXPECT_TRUE(IsPushed(button));
-  robot_.Release();
-  EXPECT_EQ(dialog_.TakeClicks(), std::vector{10});
-}
-
-TEST_F(ButtonTest, PressingElsewhereAndReleasingInsideDoesNotClick) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  const POINT inside = CentreOf(button);
-  robot_.Press({inside.x, inside.y + 60});
-  robot_.MoveTo(inside);
-  robot_.Release();
-  EXPECT_TRUE(dialog_.TakeClicks().empty());
-}
-
-TEST_F(ButtonTest, LosingTheCaptureCancelsThePress) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  robot_.Press(CentreOf(button));
-  ReleaseCapture();
-  EXPECT_FALSE(IsPushed(button));
-  robot_.Release();
-  EXPECT_TRUE(dialog_.TakeClicks().empty());
-}
-
-TEST_F(ButtonTest, DisablingDuringThePressCancelsIt) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  robot_.Press(CentreOf(button));
-  EnableWindow(button, FALSE);
-  robot_.Release();
-  SendMessageW(button, BM_CLICK, 0, 0);
-  EXPECT_TRUE(dialog_.TakeClicks().empty());
-  EXPECT_FALSE(IsPushed(button));
-}
-
-TEST_F(ButtonTest, EveryPressOfAFastSeriesClicks) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  for (int i = 0; i < 3; ++i) robot_.ClickCentreOf(button);
-  EXPECT_EQ(dialog_.TakeClicks(), (std::vector{10, 10, 10}));
-}
-
-TEST_F(ButtonTest, SpaceClicksWhenItIsReleased) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  SetFocus(button);
-  robot_.KeyDown(VK_SPACE);
-  EXPECT_TRUE(IsPushed(button));
-  EXPECT_TRUE(dialog_.TakeClicks().empty());
-  robot_.KeyUp(VK_SPACE);
-  EXPECT_EQ(dialog_.TakeClicks(), std::vector{10});
-}
-
-TEST_F(ButtonTest, LosingTheFocusCancelsTheSpaceKey) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
   const HWND other = AddRow(WC_BUTTON, 0, 11);
-  SetFocus(button);
-  robot_.KeyDown(VK_SPACE);
-  SetFocus(other);
-  robot_.KeyUp(VK_SPACE);
-  EXPECT_TRUE(dialog_.TakeClicks().empty());
-  EXPECT_FALSE(IsPushed(button));
+  const POINT inside = CentreOf(button);
+  const POINT outside{inside.x, inside.y + 60};
+  const auto send = [&](UINT message, int x) {
+    SendMessageW(button, message, 0, MAKELPARAM(x, 5));
+  };
+  const auto holdSpace = [&] {
+    SetFocus(button);
+    robot_.KeyDown(VK_SPACE);
+    EXPECT_TRUE(IsPushed(button));
+    EXPECT_TRUE(dialog_.TakeClicks().empty());
+  };
+  const auto hold = [&] {
+    robot_.Press(inside);
+    EXPECT_TRUE(IsPushed(button));
+  };
+  struct Case {
+    const char* what;
+    std::size_t clicks;
+    std::function<void()> use;
+  } cases[] = {
+      {"click", 1, [&] { robot_.Click(inside); }},
+      {"three quick clicks", 3,
+       [&] {
+         robot_.DoubleClick(inside);
+         robot_.Press(inside);
+         robot_.Release();
+       }},
+      {"dragged out", 0,
+       [&] {
+         hold();
+         robot_.MoveTo(outside);
+         EXPECT_FALSE(IsPushed(button));
+         robot_.Release();
+       }},
+      {"dragged out and back", 1,
+       [&] {
+         hold();
+         robot_.MoveTo(outside);
+         robot_.MoveTo(inside);
+         EXPECT_TRUE(IsPushed(button));
+         robot_.Release();
+       }},
+      {"pressed elsewhere", 0,
+       [&] {
+         robot_.Press(outside);
+         robot_.MoveTo(inside);
+         robot_.Release();
+       }},
+      {"let go outside without a move", 0,
+       [&] {
+         send(WM_LBUTTONDOWN, 5);
+         send(WM_LBUTTONUP, 500);
+       }},
+      {"let go inside without a move", 1,
+       [&] {
+         send(WM_LBUTTONDOWN, 500);
+         send(WM_LBUTTONUP, 5);
+       }},
+      {"capture lost", 0,
+       [&] {
+         hold();
+         ReleaseCapture();
+         EXPECT_FALSE(IsPushed(button));
+         robot_.Release();
+       }},
+      {"space", 1,
+       [&] {
+         holdSpace();
+         robot_.KeyUp(VK_SPACE);
+       }},
+      {"focus lost with space held", 0,
+       [&] {
+         holdSpace();
+         SetFocus(other);
+         robot_.KeyUp(VK_SPACE);
+       }},
+      {"disabled while pressed", 0,
+       [&] {
+         hold();
+         EnableWindow(button, FALSE);
+         robot_.Release();
+         SendMessageW(button, BM_CLICK, 0, 0);
+       }},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    c.use();
+    EXPECT_EQ(dialog_.TakeClicks(), std::vector(c.clicks, 10));
+    EXPECT_FALSE(IsPushed(button));
+    EXPECT_EQ(GetCapture(), nullptr);
+  }
 }
 
 TEST_F(ButtonTest, CheckBoxesToggleAndGoRound) {
-  const HWND two = AddRow(WC_BUTTON, BS_AUTOCHECKBOX, 10);
-  const HWND three = AddRow(WC_BUTTON, BS_AUTO3STATE, 11);
-  std::vector<LRESULT> states;
-  for (int i = 0; i < 3; ++i) {
-    robot_.ClickCentreOf(two);
-    states.push_back(SendMessageW(two, BM_GETCHECK, 0, 0));
-    robot_.ClickCentreOf(three);
-    states.push_back(SendMessageW(three, BM_GETCHECK, 0, 0));
+  struct Case {
+    DWORD type;
+    std::vector<LRESULT> states;
+  } cases[] = {{BS_AUTOCHECKBOX, {1, 0, 1}}, {BS_AUTO3STATE, {1, 2, 0}}, {BS_CHECKBOX, {0, 0, 0}}};
+  for (const Case& c : cases) {
+    const HWND box = AddRow(WC_BUTTON, c.type, 10);
+    for (const LRESULT state : c.states) {
+      robot_.ClickCentreOf(box);
+      EXPECT_EQ(SendMessageW(box, BM_GETCHECK, 0, 0), state) << c.type;
+    }
+    EXPECT_EQ(dialog_.TakeClicks().size(), 3U);
   }
-  EXPECT_EQ(states, (std::vector<LRESULT>{1, 1, 0, 2, 1, 0}));
-}
-
-TEST_F(ButtonTest, APlainCheckBoxLeavesItsStateToTheOwner) {
-  const HWND box = AddRow(WC_BUTTON, BS_CHECKBOX, 10);
-  robot_.ClickCentreOf(box);
-  EXPECT_FALSE(IsChecked(box));
-  EXPECT_EQ(dialog_.TakeClicks(), std::vector{10});
 }
 
 TEST_F(ButtonTest, ARadioButtonUnchecksItsGroupOnly) {
@@ -124,20 +122,12 @@ TEST_F(ButtonTest, ARadioButtonUnchecksItsGroupOnly) {
   const HWND other = AddRow(WC_BUTTON, BS_AUTORADIOBUTTON | WS_GROUP, 12);
   robot_.ClickCentreOf(other);
   robot_.ClickCentreOf(first);
+  ShowWindow(first, SW_HIDE);
+  EnableWindow(first, FALSE);
   robot_.ClickCentreOf(second);
-  EXPECT_FALSE(IsChecked(first));
+  EXPECT_FALSE(IsChecked(first)) << "hidden and disabled as it is";
   EXPECT_TRUE(IsChecked(second));
   EXPECT_TRUE(IsChecked(other));
-}
-
-TEST_F(ButtonTest, AHiddenOrDisabledRadioButtonIsUncheckedToo) {
-  const HWND hidden = AddRow(WC_BUTTON, BS_AUTORADIOBUTTON | WS_GROUP, 10);
-  const HWND shown = AddRow(WC_BUTTON, BS_AUTORADIOBUTTON, 11);
-  SendMessageW(hidden, BM_SETCHECK, BST_CHECKED, 0);
-  ShowWindow(hidden, SW_HIDE);
-  EnableWindow(hidden, FALSE);
-  robot_.ClickCentreOf(shown);
-  EXPECT_FALSE(IsChecked(hidden));
 }
 
 TEST_F(ButtonTest, CheckRadioButtonChecksOneOfTheRange) {
@@ -159,23 +149,16 @@ TEST_F(ButtonTest, AGroupBoxLetsClicksThrough) {
   EXPECT_EQ(dialog_.TakeClicks(), std::vector{10});
 }
 
-TEST_F(ButtonTest, ClickHandlerMayDestroyTheButton) {
-  const HWND button = AddRow(WC_BUTTON, BS_AUTOCHECKBOX, 10);
-  dialog_.onCommand = [&](int, int code) {
-    if (code == BN_CLICKED) DestroyWindow(button);
-  };
-  robot_.ClickCentreOf(button);
-  EXPECT_FALSE(IsWindow(button));
-}
-
-TEST_F(ButtonTest, FocusHandlerMayDestroyTheButton) {
-  const HWND button = AddRow(WC_BUTTON, 0, 10);
-  dialog_.onCommand = [&](int, int code) {
-    if (code == BN_SETFOCUS) DestroyWindow(button);
-  };
-  robot_.ClickCentreOf(button);
-  EXPECT_FALSE(IsWindow(button));
-  EXPECT_EQ(GetCapture(), nullptr);
+TEST_F(ButtonTest, AHandlerMayDestroyTheButton) {
+  for (const int fatal : {BN_SETFOCUS, BN_CLICKED}) {
+    const HWND button = AddRow(WC_BUTTON, BS_AUTOCHECKBOX, 10);
+    dialog_.onCommand = [=](int, int code) {
+      if (code == fatal) DestroyWindow(button);
+    };
+    robot_.ClickCentreOf(button);
+    EXPECT_FALSE(IsWindow(button));
+    EXPECT_EQ(GetCapture(), nullptr);
+  }
 }
 
 TEST_F(ButtonTest, IdealSizeFollowsTextFontAndLook) {

@@ -11,20 +11,16 @@ using testing::IsEmpty;
 
 class LifeTest : public WindowTest {};
 
-TEST_F(LifeTest, CreationSendsItsMessagesInOrder) {
-  Watch({WM_NCCREATE, WM_NCCALCSIZE, WM_CREATE, WM_SIZE, WM_MOVE, WM_SHOWWINDOW,
-         WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED});
-  MakeWindow(kBare, {10, 20, 110, 70});
-  EXPECT_THAT(TakeNotes(), ElementsAre("NCCREATE", "NCCALCSIZE", "CREATE", "SIZE", "MOVE"));
-}
-
-TEST_F(LifeTest, CreateStructTellsWhatWasAskedFor) {
+TEST_F(LifeTest, CreationSendsItsMessagesInOrderAndTellsWhatWasAskedFor) {
   CREATESTRUCTW seen{};
   handler = [&](HWND, UINT message, WPARAM, LPARAM lParam) -> std::optional<LRESULT> {
     if (message == WM_CREATE) seen = *reinterpret_cast<CREATESTRUCTW*>(lParam);
     return std::nullopt;
   };
+  Watch({WM_NCCREATE, WM_NCCALCSIZE, WM_CREATE, WM_SIZE, WM_MOVE, WM_SHOWWINDOW,
+         WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED});
   MakeWindow(kBare, {10, 20, 110, 70});
+  EXPECT_THAT(TakeNotes(), ElementsAre("NCCREATE", "NCCALCSIZE", "CREATE", "SIZE", "MOVE"));
   EXPECT_EQ(CRect(seen.x, seen.y, seen.cx, seen.cy), CRect(10, 20, 100, 50));
   EXPECT_STREQ(seen.lpszName, L"window");
 }
@@ -36,17 +32,13 @@ TEST_F(LifeTest, RefusedCreationLeavesNoWindow) {
       return message == WM_CREATE ? -1 : 0;
     };
     EXPECT_EQ(MakeWindow(kBare, {0, 0, 10, 10}), nullptr);
+    handler = [&](HWND, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+      if (message == refused) throw std::runtime_error("no");
+      return std::nullopt;
+    };
+    EXPECT_THROW(MakeWindow(kBare, {0, 0, 10, 10}), std::runtime_error);
     EXPECT_THAT(GetTopLevelWindows(), IsEmpty());
   }
-}
-
-TEST_F(LifeTest, ExceptionInCreateLeavesNoWindow) {
-  handler = [](HWND, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-    if (message == WM_CREATE) throw std::runtime_error("no");
-    return std::nullopt;
-  };
-  EXPECT_THROW(MakeWindow(kBare, {0, 0, 10, 10}), std::runtime_error);
-  EXPECT_THAT(GetTopLevelWindows(), IsEmpty());
 }
 
 TEST_F(LifeTest, ChildNeedsALivingParentAndAKnownClass) {
@@ -58,34 +50,19 @@ TEST_F(LifeTest, ChildNeedsALivingParentAndAKnownClass) {
             nullptr);
 }
 
-TEST_F(LifeTest, DestroyTellsParentsFirstAndEndsChildrenFirst) {
+TEST_F(LifeTest, DestroyTellsOwnedWindowsAndParentsFirstAndEndsChildrenFirst) {
   const HWND parent = ShowWindowAt({0, 0, 100, 100});
   const HWND child = MakeChild(parent, {0, 0, 50, 50});
-  const HWND grandchild = MakeChild(child, {0, 0, 20, 20});
+  const HWND owned = MakeWindow(kBare, {10, 10, 50, 50}, child);
+  EXPECT_EQ(GetParent(owned), parent);
   Name(parent, "p");
   Name(child, "c");
-  Name(grandchild, "g");
+  Name(MakeChild(child, {0, 0, 20, 20}), "g");
+  Name(owned, "o");
   Watch({WM_DESTROY, WM_NCDESTROY});
   DestroyWindow(parent);
-  EXPECT_THAT(TakeNotes(), ElementsAre("DESTROY@p", "DESTROY@c", "DESTROY@g", "NCDESTROY@g",
-                                       "NCDESTROY@c", "NCDESTROY@p"));
-}
-
-TEST_F(LifeTest, OwnedWindowsGoWithTheirOwner) {
-  const HWND owner = ShowWindowAt({0, 0, 100, 100});
-  const HWND owned = MakeWindow(kBare, {10, 10, 50, 50}, owner);
-  EXPECT_EQ(GetParent(owned), owner);
-  DestroyWindow(owner);
-  EXPECT_FALSE(IsWindow(owned));
-}
-
-TEST_F(LifeTest, ReusedPlaceDoesNotReviveTheOldHandle) {
-  const HWND old = MakeWindow(kBare, {0, 0, 10, 10});
-  DestroyWindow(old);
-  const HWND next = MakeWindow(kBare, {0, 0, 10, 10});
-  EXPECT_NE(next, old);
-  EXPECT_TRUE(IsWindow(next));
-  EXPECT_FALSE(IsWindow(old));
+  EXPECT_THAT(TakeNotes(), ElementsAre("DESTROY@o", "NCDESTROY@o", "DESTROY@p", "DESTROY@c",
+                                       "DESTROY@g", "NCDESTROY@g", "NCDESTROY@c", "NCDESTROY@p"));
 }
 
 TEST_F(LifeTest, CallsOnAStaleHandleFail) {

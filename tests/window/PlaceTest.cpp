@@ -68,12 +68,9 @@ TEST_F(PlaceTest, HandlerMayChangeWhatIsAskedFor) {
   };
   MoveWindow(window, 0, 0, 200, 200, TRUE);
   EXPECT_EQ(PlaceOf(window), CRect(0, 0, 50, 200));
-}
-
-TEST_F(PlaceTest, NegativeSizesAreEmpty) {
-  const HWND window = ShowWindowAt({10, 10, 110, 110});
+  handler = nullptr;
   MoveWindow(window, 10, 10, -5, -5, TRUE);
-  EXPECT_EQ(PlaceOf(window), CRect(10, 10, 10, 10));
+  EXPECT_EQ(PlaceOf(window), CRect(10, 10, 10, 10)) << "negative sizes are empty";
   robot_.PumpAll();
 }
 
@@ -142,14 +139,7 @@ TEST_F(PlaceTest, RightToLeftWindowsMirrorWhatIsInside) {
   EXPECT_EQ(Mapped(window, nullptr, {0, 5}).x, 299);
 }
 
-TEST_F(PlaceTest, MirroredChildrenKeepTheirDistanceFromTheRight) {
-  const HWND window = MakeWindow(kBare, {0, 0, 200, 100}, nullptr, WS_EX_LAYOUTRTL);
-  const HWND child = MakeChild(window, {10, 0, 60, 20});
-  MoveWindow(window, 0, 0, 300, 100, TRUE);
-  EXPECT_EQ(PlaceOf(child), CRect(240, 0, 290, 20));
-}
-
-TEST_F(PlaceTest, MouseIsMirroredToo) {
+TEST_F(PlaceTest, MirroredChildrenKeepTheirDistanceFromTheRightAlsoForTheMouse) {
   const HWND window = MakeWindow(kBare, {0, 0, 200, 100}, nullptr, WS_EX_LAYOUTRTL);
   const HWND child = MakeChild(window, {10, 0, 60, 20});
   ShowWindow(window, SW_SHOW);
@@ -161,6 +151,8 @@ TEST_F(PlaceTest, MouseIsMirroredToo) {
   robot_.Click({189, 5});
   robot_.Click({140, 5});
   EXPECT_THAT(xs, ElementsAre(0, 49));
+  MoveWindow(window, 0, 0, 300, 100, TRUE);
+  EXPECT_EQ(PlaceOf(child), CRect(240, 0, 290, 20));
 }
 
 TEST_F(PlaceTest, CenteredInItsOwner) {
@@ -170,7 +162,7 @@ TEST_F(PlaceTest, CenteredInItsOwner) {
   EXPECT_EQ(PlaceOf(window), CRect(250, 225, 350, 275));
 }
 
-TEST_F(PlaceTest, StyleChangesAreToldAndApplied) {
+TEST_F(PlaceTest, StyleAndTextChangesReachTheDisplay) {
   const HWND window = ShowWindowAt({0, 0, 200, 200}, kDialog);
   SetWindowLongPtrW(window, GWL_STYLE, GetWindowLongPtrW(window, GWL_STYLE) | WS_THICKFRAME);
   SetWindowPos(window, nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_FRAMECHANGED);
@@ -178,10 +170,6 @@ TEST_F(PlaceTest, StyleChangesAreToldAndApplied) {
   GetClientRect(window, &client);
   EXPECT_EQ(client.Width(), 200 - 2 * GetSystemMetrics(SM_CXSIZEFRAME));
   EXPECT_TRUE(Robot::Screen().IsResizable(SurfaceOf(window)));
-}
-
-TEST_F(PlaceTest, TextIsKeptAndShownByTheDisplay) {
-  const HWND window = ShowWindowAt({0, 0, 200, 200}, kDialog);
   SetWindowTextW(window, L"New title");
   EXPECT_EQ(GetWindowTextString(window), L"New title");
   EXPECT_EQ(Robot::Screen().TitleOf(SurfaceOf(window)), L"New title");

@@ -55,71 +55,45 @@ TEST_F(PointerTest, PositionAndKeysOfAPress) {
   EXPECT_EQ(GET_Y_LPARAM(place), 7);
 }
 
-TEST_F(PointerTest, TwoQuickClicksAreADoubleClickThreeAreNotTwo) {
+TEST_F(PointerTest, TwoQuickClicksNearEachOtherAreADoubleClickThreeAreNotTwo) {
+  const auto clickAt = [this](POINT place) {
+    robot_.Press(place);
+    robot_.Release();
+  };
   Watch({WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK});
-  robot_.DoubleClick({150, 150});
-  robot_.Press({150, 150});
-  robot_.Release();
+  for (int i = 0; i < 3; ++i) clickAt({150, 150});
   EXPECT_THAT(TakeNotes(), ElementsAre("LDOWN", "LUP", "LDBL", "LUP", "LDOWN", "LUP"));
-}
-
-TEST_F(PointerTest, SlowOrFarClicksAreSingle) {
-  Watch({WM_LBUTTONDOWN, WM_LBUTTONDBLCLK});
-  robot_.Click({150, 150});
   robot_.Screen().AdvanceTime(GetDoubleClickTime() + 1);
-  robot_.Press({150, 150});
-  robot_.Release();
-  robot_.Press({160, 150});
-  robot_.Release();
-  EXPECT_THAT(TakeNotes(), ElementsAre("LDOWN", "LDOWN", "LDOWN"));
+  clickAt({150, 150});
+  clickAt({160, 150});
+  EXPECT_THAT(TakeNotes(), ElementsAre("LDOWN", "LUP", "LDOWN", "LUP"));
 }
 
 TEST_F(PointerTest, LeaveAndHoverComeOnceWhenAskedFor) {
   const HWND child = MakeChild(window_, {0, 0, 50, 50});
+  const auto track = [&](DWORD what) {
+    TRACKMOUSEEVENT request{sizeof(request), what, child, 100};
+    TrackMouseEvent(&request);
+    robot_.PumpAll();
+  };
   robot_.MoveTo({110, 110});
   Watch({WM_MOUSELEAVE, WM_MOUSEHOVER});
-  TRACKMOUSEEVENT request{sizeof(request), TME_LEAVE | TME_HOVER, child, 100};
-  TrackMouseEvent(&request);
+  track(TME_LEAVE | TME_HOVER);
+  robot_.AdvanceTime(60);
+  robot_.MoveTo({130, 110});
   robot_.AdvanceTime(99);
-  EXPECT_THAT(TakeNotes(), IsEmpty());
+  EXPECT_THAT(TakeNotes(), IsEmpty()) << "a move starts it anew";
   robot_.AdvanceTime(200);
   EXPECT_THAT(TakeNotes(), ElementsAre("HOVER"));
-  robot_.MoveTo({180, 180});
-  robot_.MoveTo({110, 110});
-  robot_.MoveTo({180, 180});
+  for (const POINT place : {POINT{180, 180}, POINT{110, 110}, POINT{180, 180}})
+    robot_.MoveTo(place);
   EXPECT_THAT(TakeNotes(), ElementsAre("LEAVE"));
-}
-
-TEST_F(PointerTest, MovingStartsHoveringAnew) {
+  track(TME_LEAVE);
+  EXPECT_THAT(TakeNotes(), ElementsAre("LEAVE")) << "the pointer is not there";
   robot_.MoveTo({110, 110});
-  Watch({WM_MOUSEHOVER});
-  TRACKMOUSEEVENT request{sizeof(request), TME_HOVER, window_, 100};
-  TrackMouseEvent(&request);
-  robot_.AdvanceTime(60);
-  robot_.MoveTo({150, 150});
-  robot_.AdvanceTime(60);
-  EXPECT_THAT(TakeNotes(), IsEmpty());
-  robot_.AdvanceTime(60);
-  EXPECT_THAT(TakeNotes(), ElementsAre("HOVER"));
-}
-
-TEST_F(PointerTest, LeavingTheScreensSurfaceIsLeaving) {
-  robot_.MoveTo({110, 110});
-  TRACKMOUSEEVENT request{sizeof(request), TME_LEAVE, window_, 0};
-  TrackMouseEvent(&request);
-  Watch({WM_MOUSELEAVE});
+  track(TME_LEAVE);
   robot_.MoveTo({10, 10});
-  EXPECT_THAT(TakeNotes(), ElementsAre("LEAVE"));
-}
-
-TEST_F(PointerTest, TrackingAWindowThePointerIsNotOverLeavesAtOnce) {
-  const HWND child = MakeChild(window_, {0, 0, 50, 50});
-  robot_.MoveTo({250, 250});
-  Watch({WM_MOUSELEAVE});
-  TRACKMOUSEEVENT request{sizeof(request), TME_LEAVE, child, 0};
-  TrackMouseEvent(&request);
-  robot_.PumpAll();
-  EXPECT_THAT(TakeNotes(), ElementsAre("LEAVE"));
+  EXPECT_THAT(TakeNotes(), ElementsAre("LEAVE")) << "from the screen's surface";
 }
 
 TEST_F(PointerTest, WheelGoesToTheFocusAndUpTheParents) {
