@@ -1,6 +1,7 @@
 #include "window/Session.h"
 
 #include "platform/Postponed.h"
+#include "platform/SessionState.h"
 #include "window/Queue.h"
 
 namespace core {
@@ -34,3 +35,7 @@ Session& CurrentSession() {
 }
 
 }  // namespace core
+
+std::shared_ptr<void>& SessionStateOf(std::type_index type) {
+  return core::CurrentSession().others[type];
+}

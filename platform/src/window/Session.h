@@ -7,6 +7,8 @@
 #include <exception>
 #include <optional>
 #include <string>
+#include <typeindex>
+#include <unordered_map>
 #include <vector>
 
 #include "graphics/HandleTable.h"
@@ -109,6 +111,8 @@ struct Session {
   HandleTable<HDROP, Drop> drops;
   std::vector<HDROP> untakenDrops;
   std::optional<SystemScheme> scheme;  // that all windows know of
+
+  std::unordered_map<std::type_index, std::shared_ptr<void>> others;  // what SessionState keeps
 };
 
 Session& CurrentSession();

@@ -11,6 +11,7 @@
 #include "MFC/base/InputWatch.h"
 #include "WexaUtils.h"
 #include "layout/Layout.h"
+#include "platform/SessionState.h"
 #include "platform/Theme.h"
 #include "platform/VirtualKeys.h"
 
@@ -21,7 +22,9 @@ namespace {
 constexpr LRESULT kHandled = 1;
 
 // Shared by all widgets: a resize event reports the size of the event before it.
-Size g_lastResize;
+struct LastResize {
+  Size size;
+};
 
 // Keys that are events by themselves; all others arrive as characters.
 bool IsReportedKey(int virtualKey) {
@@ -174,8 +177,8 @@ class EventDispatch {
       layout->WidgetEvent(&event);
     }
     if (!IsAlive() || !HasProcedure()) return false;
-    const bool handled = Offer(ResizeEvent(g_lastResize, size));
-    g_lastResize = size;
+    const bool handled = Offer(ResizeEvent(SessionState<LastResize>().size, size));
+    SessionState<LastResize>().size = size;
     return handled;
   }
 
