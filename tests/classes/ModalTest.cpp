@@ -20,29 +20,24 @@ class ModalTest : public ControlsTest {
   static constexpr int kStep = 777;
 };
 
-TEST_F(ModalTest, ReturnsWhatItWasEndedWith) {
+TEST_F(ModalTest, ReturnsWhatItWasEndedWithAndRunsAgain) {
   TestDialog modal;
+  int result = 0;
   Inside(modal, [&] {
     EXPECT_TRUE(modal.IsModal());
     EXPECT_TRUE(modal.IsWindowVisible());
     EXPECT_FALSE(OwnerIsEnabled());
-    modal.EndDialog(42);
+    modal.EndDialog(++result);
     EXPECT_FALSE(modal.IsWindowVisible());
     EXPECT_EQ(GetActiveWindow(), dialog_.m_hWnd);
     modal.EndDialog(43);
   });
-  EXPECT_EQ(modal.RunModal(&dialog_), 42);
-  EXPECT_FALSE(modal.IsModal());
-  EXPECT_EQ(modal.m_hWnd, nullptr);
-  EXPECT_TRUE(OwnerIsEnabled());
-}
-
-TEST_F(ModalTest, CanRunAgain) {
-  TestDialog modal;
-  int round = 0;
-  Inside(modal, [&] { modal.EndDialog(++round); });
-  EXPECT_EQ(modal.RunModal(&dialog_), 1);
-  EXPECT_EQ(modal.RunModal(&dialog_), 2);
+  for (const int round : {1, 2}) {
+    EXPECT_EQ(modal.RunModal(&dialog_), round);
+    EXPECT_FALSE(modal.IsModal());
+    EXPECT_EQ(modal.m_hWnd, nullptr);
+    EXPECT_TRUE(OwnerIsEnabled());
+  }
 }
 
 TEST_F(ModalTest, ReturnAndEscapeEndIt) {
@@ -101,98 +96,68 @@ TEST_F(ModalTest, AnExceptionLeavesEverythingAsItWas) {
   const HWND edit = AddRow(WC_EDIT, WS_TABSTOP, 10);
   SetFocus(edit);
   TestDialog modal;
-  HWND window = nullptr;
-  Inside(modal, [&] {
-    window = modal.m_hWnd;
-    SetCapture(window);
+  const auto fail = [&]() -> BOOL {
+    SetCapture(modal.m_hWnd);
     throw std::runtime_error("handler");
-  });
-  EXPECT_THROW(modal.RunModal(&dialog_), std::runtime_error);
-  EXPECT_FALSE(IsWindow(window));
-  EXPECT_FALSE(modal.IsModal());
-  EXPECT_TRUE(OwnerIsEnabled());
-  EXPECT_EQ(GetActiveWindow(), dialog_.m_hWnd);
-  EXPECT_EQ(GetFocus(), edit);
-  EXPECT_EQ(GetCapture(), nullptr);
-}
-
-TEST_F(ModalTest, AnExceptionDuringInitialisationToo) {
-  TestDialog modal;
-  modal.onInit = []() -> BOOL { throw std::runtime_error("init"); };
-  EXPECT_THROW(modal.RunModal(&dialog_), std::runtime_error);
-  EXPECT_EQ(modal.m_hWnd, nullptr);
-  EXPECT_TRUE(OwnerIsEnabled());
-  EXPECT_EQ(GetTopLevelWindows().size(), 1u);
+  };
+  const std::function<void()> stages[] = {[&] { Inside(modal, fail); },
+                                          [&] { modal.onInit = fail; }};
+  for (const auto& prepare : stages) {
+    prepare();
+    EXPECT_THROW(modal.RunModal(&dialog_), std::runtime_error);
+    EXPECT_EQ(GetTopLevelWindows().size(), 1u);
+    EXPECT_FALSE(modal.IsModal());
+    EXPECT_TRUE(OwnerIsEnabled());
+    EXPECT_EQ(GetActiveWindow(), dialog_.m_hWnd);
+    EXPECT_EQ(GetFocus(), edit);
+    EXPECT_EQ(GetCapture(), nullptr);
+  }
 }
 
 TEST_F(ModalTest, NestedDialogsEndOneByOne) {
-  TestDialog outer;
-  TestDialog inner;
-  std::intptr_t innerResult = 0;
-  Inside(inner, [&] {
-    EXPECT_FALSE(outer.IsWindowEnabled());
-    inner.EndDialog(2);
-  });
-  Inside(outer, [&] {
-    innerResult = inner.RunModal(&outer);
-    EXPECT_TRUE(outer.IsWindowEnabled());
-    EXPECT_FALSE(OwnerIsEnabled());
-    EXPECT_EQ(GetActiveWindow(), outer.m_hWnd);
-    outer.EndDialog(1);
-  });
-  EXPECT_EQ(outer.RunModal(&dialog_), 1);
-  EXPECT_EQ(innerResult, 2);
-  EXPECT_TRUE(OwnerIsEnabled());
+  for (const bool outerFirst : {false, true}) {
+    TestDialog outer;
+    TestDialog inner;
+    Inside(inner, [&] {
+      EXPECT_FALSE(outer.IsWindowEnabled());
+      if (outerFirst) outer.EndDialog(1);
+      inner.EndDialog(2);
+    });
+    Inside(outer, [&] {
+      EXPECT_EQ(inner.RunModal(&outer), 2);
+      if (outerFirst) return;
+      EXPECT_TRUE(outer.IsWindowEnabled());
+      EXPECT_FALSE(OwnerIsEnabled());
+      EXPECT_EQ(GetActiveWindow(), outer.m_hWnd);
+      outer.EndDialog(1);
+    });
+    EXPECT_EQ(outer.RunModal(&dialog_), 1);
+    EXPECT_TRUE(OwnerIsEnabled());
+  }
 }
 
-TEST_F(ModalTest, EndingTheOuterOneFirstEndsBoth) {
-  TestDialog outer;
-  TestDialog inner;
-  Inside(inner, [&] {
-    outer.EndDialog(1);
-    inner.EndDialog(2);
-  });
-  Inside(outer, [&] { EXPECT_EQ(inner.RunModal(&outer), 2); });
-  EXPECT_EQ(outer.RunModal(&dialog_), 1);
-  EXPECT_TRUE(OwnerIsEnabled());
+TEST_F(ModalTest, DestroyingItOrItsOwnerEndsIt) {
+  auto modal = std::make_unique<TestDialog>();
+  const std::function<void()> ways[] = {[&] { modal->DestroyWindow(); }, [&] { modal.reset(); },
+                                        [&] { dialog_.DestroyWindow(); }};
+  for (const auto& way : ways) {
+    if (!modal) modal = std::make_unique<TestDialog>();
+    Inside(*modal, way);
+    EXPECT_EQ(modal->RunModal(&dialog_), -1);
+    EXPECT_EQ(OwnerIsEnabled(), IsWindow(dialog_.m_hWnd));
+    EXPECT_EQ(GetTopLevelWindows().size(), IsWindow(dialog_.m_hWnd) ? 1u : 0u);
+  }
 }
 
-TEST_F(ModalTest, DestroyingItsWindowEndsIt) {
-  TestDialog modal;
-  Inside(modal, [&] { modal.DestroyWindow(); });
-  EXPECT_EQ(modal.RunModal(&dialog_), -1);
-  EXPECT_TRUE(OwnerIsEnabled());
-}
-
-TEST_F(ModalTest, DeletingTheObjectEndsIt) {
-  auto* modal = new TestDialog;
-  Inside(*modal, [&] { delete modal; });
-  EXPECT_EQ(modal->RunModal(&dialog_), -1);
-  EXPECT_TRUE(OwnerIsEnabled());
-  EXPECT_EQ(GetTopLevelWindows().size(), 1u);
-}
-
-TEST_F(ModalTest, DestroyingTheOwnerEndsIt) {
-  TestDialog modal;
-  Inside(modal, [&] { dialog_.DestroyWindow(); });
-  EXPECT_EQ(modal.RunModal(&dialog_), -1);
-  EXPECT_EQ(modal.m_hWnd, nullptr);
-  EXPECT_TRUE(GetTopLevelWindows().empty());
-}
-
-TEST_F(ModalTest, WhereNothingCanHappenItIsCancelled) {
+TEST_F(ModalTest, WhereNothingCanHappenItIsCancelledEvenWithABlinkingCaret) {
   TestDialog modal;
   EXPECT_EQ(modal.RunModal(&dialog_), IDCANCEL);
-  EXPECT_TRUE(OwnerIsEnabled());
-}
-
-TEST_F(ModalTest, ABlinkingCaretIsNothingToWaitFor) {
-  TestDialog modal;
   modal.onInit = [&] {
     SetFocus(Add(WC_EDIT, 0, CRect(0, 0, 50, 20), 10, L"", modal.m_hWnd));
     return FALSE;
   };
   EXPECT_EQ(modal.RunModal(&dialog_), IDCANCEL);
+  EXPECT_TRUE(OwnerIsEnabled());
 }
 
 TEST_F(ModalTest, QuittingLeavesAllLoops) {
