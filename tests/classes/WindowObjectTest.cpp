@@ -80,24 +80,20 @@ TEST_F(WindowObjectTest, DestructionOfTheObjectDestroysItsOwnWindowOnly) {
   EXPECT_TRUE(IsWindow(foreign));
 }
 
-TEST_F(WindowObjectTest, TemporaryObjectsLiveAsLongAsTheirWindow) {
+TEST_F(WindowObjectTest, TemporaryObjectsLiveUntilTheirWindowEndsOrGetsAPermanentOne) {
   const HWND window = AddRow(WC_BUTTON, 0, 10);
   CWnd* temporary = CWnd::FromHandle(window);
   ASSERT_NE(temporary, nullptr);
   EXPECT_EQ(CWnd::FromHandle(window), temporary);
   EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
-  DestroyWindow(window);
-  EXPECT_EQ(CWnd::FromHandle(window), nullptr);
-}
-
-TEST_F(WindowObjectTest, APermanentObjectTakesTheTemporaryOnesPlace) {
-  const HWND window = AddRow(WC_BUTTON, 0, 10);
-  CWnd::FromHandle(window);
   Recorder object;
   ASSERT_TRUE(object.Attach(window));
   EXPECT_EQ(CWnd::FromHandle(window), &object);
   EXPECT_EQ(object.Detach(), window);
   EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
+  CWnd::FromHandle(window);
+  DestroyWindow(window);
+  EXPECT_EQ(CWnd::FromHandle(window), nullptr);
 }
 
 TEST_F(WindowObjectTest, MayBeDeletedInItsOwnHandler) {

@@ -202,56 +202,42 @@ class FrameTest : public WindowTest {
   HWND window_ = ShowWindowAt({100, 100, 400, 300}, kDialog | WS_THICKFRAME);
 };
 
-TEST_F(FrameTest, CloseButtonClosesWhenReleasedOnIt) {
-  robot_.Press(CloseButton(window_));
-  robot_.MoveTo({200, 200});
-  robot_.Release();
-  EXPECT_TRUE(IsWindow(window_));
-  EXPECT_EQ(GetCapture(), nullptr);
-  robot_.Click(CloseButton(window_));
-  EXPECT_FALSE(IsWindow(window_));
-}
-
-TEST_F(FrameTest, CloseButtonLightsUpUnderThePointer) {
+TEST_F(FrameTest, CloseButtonLightsUpUnderThePointerAndClosesWhenReleasedOnIt) {
   const CPoint close = CloseButton(window_);
   CPoint inside = close;
   ScreenToClient(window_, &inside);
-  const auto before = robot_.PixelAt(window_, inside.x, inside.y);
-  robot_.MoveTo(close);
-  const auto hovered = robot_.PixelAt(window_, inside.x, inside.y);
+  const auto look = [&] { return robot_.PixelAt(window_, inside.x, inside.y); };
+  const auto before = look();
+  robot_.Press(close);
+  EXPECT_NE(look(), before);
   robot_.MoveTo({200, 200});
-  EXPECT_NE(before, hovered);
-  EXPECT_EQ(robot_.PixelAt(window_, inside.x, inside.y), before);
+  EXPECT_EQ(look(), before);
+  robot_.Release();
+  EXPECT_TRUE(IsWindow(window_));
+  EXPECT_EQ(GetCapture(), nullptr);
+  robot_.MoveTo(close);
+  EXPECT_NE(look(), before);
+  robot_.Click(close);
+  EXPECT_FALSE(IsWindow(window_));
 }
 
-TEST_F(FrameTest, WithoutSystemMenuThereIsNoCloseButton) {
-  const HWND plain = ShowWindowAt({500, 100, 700, 300}, WS_POPUP | WS_CAPTION);
-  EXPECT_EQ(CloseButton(plain).x, 0);
-}
-
-TEST_F(FrameTest, CaptionDragMovesTheWindow) {
+TEST_F(FrameTest, DragsMoveByTheCaptionAndSizeByTheBordersWithinLimits) {
   Watch({WM_ENTERSIZEMOVE, WM_MOVING, WM_EXITSIZEMOVE, WM_SIZE});
   robot_.Drag({200, 115}, {250, 135});
   EXPECT_EQ(PlaceOf(window_), CRect(150, 120, 450, 320));
   EXPECT_THAT(TakeNotes(), ElementsAre("ENTERSIZEMOVE", "MOVING", "MOVING", "EXITSIZEMOVE"));
-}
-
-TEST_F(FrameTest, BorderDragSizesFromThatSide) {
-  robot_.Drag({399, 200}, {449, 250});
-  EXPECT_EQ(PlaceOf(window_), CRect(100, 100, 450, 300));
-  robot_.Drag({100, 101}, {80, 61});
-  EXPECT_EQ(PlaceOf(window_), CRect(80, 60, 450, 300));
+  robot_.Drag({449, 200}, {499, 250});
+  EXPECT_EQ(PlaceOf(window_), CRect(150, 120, 500, 320));
+  robot_.Drag({150, 121}, {130, 81});
+  EXPECT_EQ(PlaceOf(window_), CRect(130, 80, 500, 320));
   EXPECT_EQ(GetCapture(), nullptr);
-}
-
-TEST_F(FrameTest, LimitsHoldWhileSizing) {
   handler = [](HWND, UINT message, WPARAM, LPARAM lParam) -> std::optional<LRESULT> {
     if (message != WM_GETMINMAXINFO) return std::nullopt;
     reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {250, 150};
     return 0;
   };
-  robot_.Drag({100, 200}, {390, 200});
-  EXPECT_EQ(PlaceOf(window_), CRect(150, 100, 400, 300));
+  robot_.Drag({130, 200}, {490, 200});
+  EXPECT_EQ(PlaceOf(window_), CRect(250, 80, 500, 320));
   MoveWindow(window_, 0, 0, 10, 10, TRUE);
   EXPECT_EQ(PlaceOf(window_), CRect(0, 0, 250, 150));
 }
@@ -264,6 +250,8 @@ TEST_F(FrameTest, BordersShowSizingCursors) {
 }
 
 TEST_F(FrameTest, MirroredCaptionHasItsCloseButtonOnTheLeft) {
+  EXPECT_EQ(CloseButton(ShowWindowAt({500, 100, 700, 300}, WS_POPUP | WS_CAPTION)).x, 0)
+      << "without a system menu there is none";
   const HWND mirrored = MakeWindow(kDialog, {500, 100, 700, 300}, nullptr, WS_EX_LAYOUTRTL);
   ShowWindow(mirrored, SW_SHOW);
   const CPoint close = CloseButton(mirrored);
