@@ -132,8 +132,8 @@ TEST_F(PaintTest, WindowThatClipsItsChildrenLeavesThemAlone) {
   const HWND inner = Colored(MakeChild(child, {10, 10, 20, 20}), kBlue);
   const std::pair own(window_, CRect(0, 0, 200, 200)), below(child, CRect(0, 0, 50, 50)),
       inmost(inner, CRect(0, 0, 10, 10));
-  setClipping(true);
   Settle();
+  setClipping(true);
   InvalidateRect(window_, nullptr, TRUE);
   EXPECT_THAT(TakePainted(), ElementsAre(own));
   EXPECT_EQ(robot_.PixelAt(window_, 55, 55), kGreenPixel);
