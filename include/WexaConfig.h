@@ -66,8 +66,9 @@ WEXA_API void SetContextMenuRadius(int radius);
 // --------------------------------------------------------------------------
 
 WEXA_API SkinMode GetGlobalSkinMode();
-// Loads the global skin, its slots locked; open dialogs that follow it show it. False for modes
-// other than Default to HCMDark.
+// Loads the global skin, its slots locked; open dialogs that follow it show it, captions and frames
+// of all windows as well. Until it is called, the skin is dark on a dark desktop and light on
+// others. False for modes other than Default to HCMDark.
 WEXA_API bool SetGlobalSkinMode(SkinMode mode);
 WEXA_API bool SetGlobalCustomSkin(const SkinManager& skin);
 // Colours by key for the skin that dialogs in the mode XML take over, those that are open too.

@@ -15,7 +15,8 @@ class WexaConfig {
   // Made on first use; throws WexaException when the host's executable cannot be found.
   static WexaConfig& Instance();
 
-  // Loads the palettes of the two skins again when the desktop's scheme is another than before.
+  // Loads the palettes of the two skins again when the scheme in force is another than before. A
+  // global skin that no host has chosen is dark in a dark scheme.
   void FollowSystemColors();
   // Dialogs below one of the two skins show its colours: all that are open are painted again.
   // Defined beside the dialogs.
@@ -27,6 +28,7 @@ class WexaConfig {
   char decimalChar = '.';
   bool layoutRTL = false;
   SkinManager globalSkin{SkinMode::Default};
+  bool isGlobalSkinChosen = false;
   SkinManager keyMapSkin{SkinMode::Default};
   bool expectsEncryptedLanguageFiles = true;
   std::wstring localeName;
@@ -40,7 +42,7 @@ class WexaConfig {
   // Fills the factory with the library's widgets; defined beside them.
   void RegisterWexaControls();
 
-  SystemScheme scheme_ = GetSystemScheme();
+  SystemScheme scheme_ = SystemScheme::Light;
 };
 
 }  // namespace Wexa

@@ -38,11 +38,18 @@ std::wstring ResourceDirectory(const std::wstring& name, const wchar_t* kind) {
   return GetWorkingDirPath() + L"wexaresources\\" + name + kind + L"\\";
 }
 
+// Captions and frames go with the skin.
+std::optional<SystemScheme> FrameFor(SkinMode mode) {
+  if (mode == SkinMode::Dark) return SystemScheme::Dark;
+  return mode == SkinMode::Default ? std::optional(SystemScheme::Light) : std::nullopt;
+}
+
 }  // namespace
 
 WexaConfig::WexaConfig() {
   RegisterWexaControls();
   workingDirPath = ExecutableDirectory();
+  FollowSystemColors();
 }
 
 WexaConfig& WexaConfig::Instance() {
@@ -53,7 +60,12 @@ WexaConfig& WexaConfig::Instance() {
 void WexaConfig::FollowSystemColors() {
   const SystemScheme scheme = GetSystemScheme();
   if (std::exchange(scheme_, scheme) == scheme) return;
-  globalSkin.ReloadPalette();
+  if (isGlobalSkinChosen) {
+    globalSkin.ReloadPalette();
+  } else {
+    globalSkin.LoadSkin(scheme == SystemScheme::Dark ? SkinMode::Dark : SkinMode::Default, false,
+                        false);
+  }
   keyMapSkin.ReloadPalette();
 }
 
@@ -116,13 +128,20 @@ SkinMode GetGlobalSkinMode() {
 }
 
 bool SetGlobalSkinMode(SkinMode mode) {
-  if (!WexaConfig::Instance().globalSkin.LoadSkin(mode, true, false)) return false;
+  WexaConfig& config = WexaConfig::Instance();
+  if (!config.globalSkin.LoadSkin(mode, true, false)) return false;
+  config.isGlobalSkinChosen = true;
+  PreferSystemScheme(FrameFor(mode));
+  config.FollowSystemColors();
   WexaConfig::RepaintDialogs();
   return true;
 }
 
 bool SetGlobalCustomSkin(const SkinManager& skin) {
-  WexaConfig::Instance().globalSkin.SetCustomSkin(skin);
+  WexaConfig& config = WexaConfig::Instance();
+  config.globalSkin.SetCustomSkin(skin);
+  config.isGlobalSkinChosen = true;
+  PreferSystemScheme(std::nullopt);
   WexaConfig::RepaintDialogs();
   return true;
 }

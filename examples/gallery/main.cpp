@@ -3,7 +3,6 @@
 //   gallery                                  shows it
 //   gallery --pictures PREFIX [dark] [rtl]   writes a picture of each page
 
-#include <wexa/platform/SystemColors.h>
 
 #include <algorithm>
 #include <clocale>
@@ -25,9 +24,7 @@ bool Has(const Arguments& arguments, std::string_view word) {
 void SetLook(const Arguments& arguments) {
   Wexa::SetWorkingDirPath(L"./");  // where its pictures are
   Wexa::SetLayoutRTL(Has(arguments, "rtl"));
-  if (!Has(arguments, "dark")) return;
-  SetSystemScheme(SystemScheme::Dark);  // for the frame
-  Wexa::SetGlobalSkinMode(Wexa::SkinMode::Dark);
+  if (Has(arguments, "dark")) Wexa::SetGlobalSkinMode(Wexa::SkinMode::Dark);
 }
 
 void Show() {

@@ -21,7 +21,9 @@ TEST_F(X11SettingsTest, ThemeOfTheDesktopChoosesTheColours) {
       {"HighContrast", SystemScheme::HighContrast},
       {"some high-CONTRAST dark", SystemScheme::HighContrast},
       {"ContrastHighInverse", SystemScheme::HighContrast},
-      {"Plain-Dark", SystemScheme::Light},
+      {"Plain-Dark", SystemScheme::Dark},
+      {"plain-dark-blue", SystemScheme::Dark},
+      {"Plain-Darker", SystemScheme::Light},
   };
   for (const auto& [theme, scheme] : themes) {
     const SettingsManager manager(person_, DesktopSettings(theme, 250));

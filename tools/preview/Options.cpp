@@ -7,7 +7,6 @@
 #include <cstdlib>
 
 #include "WexaConfig.h"
-#include "platform/SystemColors.h"
 #include "preview/ExitStatus.h"
 #include "preview/KeyMapFile.h"
 
@@ -171,10 +170,7 @@ void Apply(const Options& options) {
   ApplyDisplay(options);
   if (!options.skin.empty())
     SetEnvironment("WEXA_HIGH_CONTRAST", options.skin == "contrast" ? "1" : "0");
-  if (options.skin == "dark") {
-    SetSystemScheme(SystemScheme::Dark);  // for what skins leave to the desktop: the frame
-    Wexa::SetGlobalSkinMode(Wexa::SkinMode::Dark);
-  }
+  if (options.skin == "dark") Wexa::SetGlobalSkinMode(Wexa::SkinMode::Dark);
   if (!options.keyMap.empty())
     Wexa::InitSkinColorByMap(Wexa::SkinMap::Inputs, ReadKeyMap(options.keyMap));
   if (options.rightToLeft) Wexa::SetLayoutRTL(true);

@@ -34,12 +34,15 @@ enum class SystemScheme { Light, Dark, HighContrast };
 DWORD GetSysColor(int index);
 // All of them by index, valid for good: those of the scheme now in force.
 std::span<const COLORREF> GetSysColors();
-// The scheme in force: what was chosen with SetSystemScheme, or at start by the environment's
-// WEXA_HIGH_CONTRAST (1: high contrast, 0: light); else what the desktop asks for.
+// The scheme in force: what was chosen with SetSystemScheme; else what the desktop asks for, or in
+// its place the environment's WEXA_HIGH_CONTRAST (1: high contrast, 0: light), but that a light or a
+// dark one gives way to the preferred one.
 SystemScheme GetSystemScheme();
 // Chooses the scheme whatever the desktop asks for; none leaves it to the desktop. Open windows
 // learn of a change by WM_SYSCOLORCHANGE.
 void SetSystemScheme(std::optional<SystemScheme> scheme);
+// Light or dark, whichever of them the desktop is; none leaves it to the desktop.
+void PreferSystemScheme(std::optional<SystemScheme> scheme);
 // What the desktop asks for from now on.
 void SetDesktopScheme(SystemScheme scheme);
 

@@ -109,12 +109,23 @@ constexpr Tones kHighContrast{.window = kBlack,
 
 constexpr std::array kSchemes{MakeColors(kLight), MakeColors(kDark), MakeColors(kHighContrast)};
 
-std::optional<SystemScheme>& Chosen() {
-  static std::optional<SystemScheme> chosen = SchemeOfEnvironment();
-  return chosen;
+struct Wishes {
+  const std::optional<SystemScheme> environment = SchemeOfEnvironment();
+  std::optional<SystemScheme> chosen;
+  std::optional<SystemScheme> preferred;
+  SystemScheme desktop = SystemScheme::Light;
+};
+
+Wishes& Wished() {
+  static auto& wishes = *new Wishes;
+  return wishes;
 }
 
-constinit SystemScheme desktopScheme = SystemScheme::Light;
+SystemScheme DesktopScheme() {
+  if (Wished().environment) return *Wished().environment;
+  ProbeScreen();
+  return Wished().desktop;
+}
 
 }  // namespace
 
@@ -127,15 +138,19 @@ std::span<const COLORREF> GetSysColors() {
 }
 
 SystemScheme GetSystemScheme() {
-  if (Chosen()) return *Chosen();
-  ProbeScreen();
-  return desktopScheme;
+  if (Wished().chosen) return *Wished().chosen;
+  const SystemScheme desktop = DesktopScheme();
+  return desktop == SystemScheme::HighContrast ? desktop : Wished().preferred.value_or(desktop);
 }
 
 void SetSystemScheme(std::optional<SystemScheme> scheme) {
-  Chosen() = scheme;
+  Wished().chosen = scheme;
+}
+
+void PreferSystemScheme(std::optional<SystemScheme> scheme) {
+  Wished().preferred = scheme;
 }
 
 void SetDesktopScheme(SystemScheme scheme) {
-  desktopScheme = scheme;
+  Wished().desktop = scheme;
 }

@@ -189,6 +189,37 @@ TEST_F(SkinInUseTest, HighContrastComesAndGoesWhileADialogIsOpen) {
   EXPECT_EQ(FaceOf(L"a"), 0x333333u) << "the dark skin is back";
 }
 
+TEST_F(SkinInUseTest, TheDesktopMakesThemDarkUntilTheHostChooses) {
+  SetSystemScheme(std::nullopt);
+  PreferSystemScheme(std::nullopt);
+  WexaConfig::Instance().isGlobalSkinChosen = false;
+  using Look = std::pair<std::uint32_t, std::uint32_t>;  // of the face and of the caption
+  const Look light{0xF0F0F0, 0xFFFFFF};
+  const Look dark{0x4A4A4A, 0x202020};
+  std::unique_ptr<Dialog> later;
+  const auto look = [&] {
+    Robot::PumpAll();
+    later = Make(ColumnForm(EditXml("a")));
+    later->DoModeless(true);
+    Robot::PumpAll();
+    const HWND window = later->GetHandle();
+    EXPECT_EQ(DialogFace(), Robot::PixelAt(window, 2, 2)) << "an older one looks like a new one";
+    return Look(DialogFace(), Robot::PixelAt(window, 100, -4));
+  };
+  Open(ColumnForm(EditXml("a")));
+  EXPECT_EQ(look(), light);
+  Robot::Screen().ChangeScheme(SystemScheme::Dark);
+  EXPECT_EQ(look(), dark);
+  SetGlobalSkinMode(SkinMode::Default);
+  EXPECT_EQ(look(), light) << "on a dark desktop, too";
+  Robot::Screen().ChangeScheme(SystemScheme::Light);
+  SetGlobalSkinMode(SkinMode::Dark);
+  EXPECT_EQ(look(), dark);
+  Robot::Screen().ChangeScheme(SystemScheme::HighContrast);
+  EXPECT_EQ(look(), Look(0, 0)) << "stands above all";
+  Robot::Screen().ChangeScheme(SystemScheme::Light);
+}
+
 TEST_F(SkinInUseTest, ADialogMadeAfterTheChangeHasTheNewColors) {
   SetSystemScheme(SystemScheme::HighContrast);
   Open(ColumnForm(WidgetItem("QLineEdit", "a")));

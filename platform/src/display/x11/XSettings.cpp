@@ -2,27 +2,33 @@
 
 #include <algorithm>
 #include <cctype>
+#include <numeric>
+#include <vector>
 
 #include "Connection.h"
 
 namespace display::x11 {
 namespace {
 
-// Small letters only.
-std::string Plain(const std::string& name) {
-  std::string plain;
-  for (const char letter : name) {
-    const auto c = static_cast<unsigned char>(letter);
-    if (std::isalpha(c)) plain.push_back(static_cast<char>(std::tolower(c)));
+// The words of a name, in small letters.
+std::vector<std::string> WordsOf(const std::string& name) {
+  std::vector<std::string> words(1);
+  for (const unsigned char c : name) {
+    if (std::isalpha(c)) {
+      words.back().push_back(static_cast<char>(std::tolower(c)));
+    } else if (!words.back().empty()) {
+      words.emplace_back();
+    }
   }
-  return plain;
+  return words;
 }
 
 SystemScheme SchemeOf(const std::string& theme) {
-  const std::string name = Plain(theme);
-  const auto has = [&name](const char* part) { return name.find(part) != std::string::npos; };
-  const bool contrast = has("highcontrast") || has("contrasthigh");
-  return contrast ? SystemScheme::HighContrast : SystemScheme::Light;
+  const auto words = WordsOf(theme);
+  const std::string all = std::accumulate(words.begin(), words.end(), std::string());
+  const auto has = [&all](const char* part) { return all.find(part) != std::string::npos; };
+  if (has("highcontrast") || has("contrasthigh")) return SystemScheme::HighContrast;
+  return std::ranges::count(words, "dark") ? SystemScheme::Dark : SystemScheme::Light;
 }
 
 }  // namespace

@@ -17,9 +17,9 @@ class XSettings {
  public:
   explicit XSettings(Connection& connection) : connection_(connection) {}
 
-  // High contrast when the name of the desktop's theme ("Net/ThemeName") contains "high contrast"
-  // or "contrast high", whatever separates the words and in any case; else light, as where no
-  // manager runs. A dark theme changes nothing: whether dialogs are dark is their skin's business.
+  // By the name of the desktop's theme ("Net/ThemeName"): high contrast when it contains "high
+  // contrast" or "contrast high", whatever separates the words and in any case; dark when "dark" is
+  // one of its words; else light, as where no manager runs.
   SystemScheme Scheme();
   // Milliseconds ("Net/DoubleClickTime"); none where nobody has set them.
   std::optional<std::uint32_t> DoubleClickTime();
