@@ -6,7 +6,6 @@
 #include <memory>
 #include <stdexcept>
 
-#include "ScaleFactor.h"
 #include "bench/Bench.h"
 #include "bench/MadeForm.h"
 #include "data/TestData.h"
@@ -42,7 +41,6 @@ class Folder {
 void UseOffscreen(int scale) {
   constexpr int kUnscaledDpi = 96;
   display::SetCurrent(std::make_unique<display::OffscreenDisplay>(kUnscaledDpi * scale));
-  Wexa::ResetScaleFactor();
 }
 
 std::string GeneratedForm(int widgets) {

@@ -57,7 +57,7 @@ class WEXA_API WexaUtils {
     unsigned int minor;
   };
 
-  // The screen's resolution over 96 DPI, at least 1. Measured once.
+  // The screen's resolution over 96 DPI, at least 1.
   static double GetScaleFactor();
 
   // What the frame of a window of that style adds, in pixels.

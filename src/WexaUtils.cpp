@@ -12,7 +12,6 @@
 #include <utility>
 
 #include "Event.h"
-#include "ScaleFactor.h"
 #include "platform/Font.h"
 #include "platform/SystemColors.h"
 
@@ -26,18 +25,11 @@ using Wexa::SizePolicy;
 namespace {
 
 constexpr double kUnscaledDpi = 96.0;
-constexpr double kNotMeasured = 0.0;
-double scaleFactor = kNotMeasured;
 
 }  // namespace
 
-void Wexa::ResetScaleFactor() {
-  scaleFactor = kNotMeasured;
-}
-
 double WexaUtils::GetScaleFactor() {
-  if (scaleFactor == kNotMeasured) scaleFactor = std::max(1.0, GetScreenDpi() / kUnscaledDpi);
-  return scaleFactor;
+  return std::max(1.0, GetScreenDpi() / kUnscaledDpi);
 }
 
 // -- Conversions

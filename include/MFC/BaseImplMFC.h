@@ -16,6 +16,7 @@ namespace Wexa {
 
 class BalloonTip;
 class BaseGUIObject;
+class Rescaling;
 struct TipContent;
 
 // What a widget was told before its native window exists; sizes in 96-DPI units, on the dialog.
@@ -129,6 +130,11 @@ class BaseImplMFC : public BaseImpl {
   void DeleteLayout();
   // The dialog is going. The skin of a widget that others still hold stands on its own from now on.
   void LeaveDialog(bool survives);
+  // The resolution changed: sizes, layouts, fonts and pictures follow, here and in the child
+  // widgets. Windows keep their places until they are arranged.
+  virtual void Rescale(const Rescaling& rescale);
+  // The dialog's window has been told of another resolution.
+  virtual void OnResolutionChanged() {}
   // The desktop's colours or its contrast changed.
   virtual void OnSystemColorsChanged() {}
   // The native window is going: what the user entered stays readable.

@@ -22,6 +22,7 @@ class Button::impl : public BaseImplMFC {
   Size MinimumIdealSize() override { return IdealSize(); }
   void Show(bool show, bool updateLayout) override;
   void RefineState(ControlState& state) override;
+  void Rescale(const Rescaling& rescale) override;
 
   void SetText(const std::wstring& text);
   std::wstring GetText() { return Text(); }

@@ -37,6 +37,7 @@ class Dialog::impl : public BaseImplMFC {
   void MoveWindow(int x, int y, int width, int height, bool repaint) override;
   COLORREF BackgroundColor() override;
   void OnSystemColorsChanged() override;
+  void OnResolutionChanged() override;
   bool SetSkinMode(SkinMode mode, bool repaint) override;
   void SetCustomSkin(const SkinManager& skin, bool update);
 
@@ -87,8 +88,12 @@ class Dialog::impl : public BaseImplMFC {
   void Centre();
   void ShowFirstTime();
   void ApplyTabOrder();
-  void ArrangeFirstTime();
-  void ArrangeLayout(Layout& layout);
+  void ArrangeFirstTime() { Arrange(clientSize); }
+  void Arrange(Size client);
+  void ArrangeLayout(Layout& layout, Size client);
+  void FollowResolution();
+  void ArrangeRescaled(const Rescaling& rescale, Size client);
+  void PlaceUnplaced(const Rescaling& rescale);
   DLGTEMPLATE& Template();
   void ChooseDefaultButton();
   void SettleFrame();
@@ -106,6 +111,8 @@ class Dialog::impl : public BaseImplMFC {
   std::unordered_map<std::wstring, std::size_t> elementsByName_;
   std::vector<std::uint32_t> dialogTemplate_;  // keeps the records aligned
   int defaultButtonId_ = -1;
+  double scaleFactor_ = WexaUtils::GetScaleFactor();  // of all sizes in pixels
+  Size sizeAsArranged_;  // of the client area, before its user changed it
   bool wasInitialized_ = false;
   std::unique_ptr<ToolTips> toolTips_;
   EmbeddedPages pages_{*this};

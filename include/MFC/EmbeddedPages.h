@@ -17,6 +17,8 @@ class EmbeddedPages {
   bool Embed(HWND window, bool show);
   // After the dialog's size has changed.
   void Fit();
+  // After the resolution has changed: only top-level windows hear of it by themselves.
+  void TellResolution();
 
  private:
   BaseImpl& dialog_;

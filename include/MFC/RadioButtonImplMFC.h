@@ -24,6 +24,7 @@ class RadioButton::impl : public BaseImplMFC {
   void SetCheck();
   bool IsChecked();
   void LoadPicture(const PictureRequest& request);
+  void Rescale(const Rescaling& rescale) override;
 
   std::shared_ptr<GroupInfo> group;
   std::wstring groupName;  // of the form

@@ -11,6 +11,8 @@ class CWnd;
 
 namespace Wexa {
 
+class Rescaling;
+
 // A picture file's bytes and what the file's name says they are.
 struct PictureFile {
   explicit PictureFile(const std::wstring& path);
@@ -37,6 +39,7 @@ struct WidgetPictures {
   // The normal one stands in for one that is missing.
   HBITMAP For(bool enabled) const { return !enabled && disabled ? disabled.get() : normal.get(); }
   CSize Size() const;  // of the normal one
+  void Rescale(const Rescaling& rescale);
 };
 
 // Null when the bytes are no picture or its size is refused.

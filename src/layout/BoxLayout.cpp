@@ -6,6 +6,7 @@
 
 #include "layout/Axis.h"
 #include "layout/ItemSizes.h"
+#include "layout/Rescaling.h"
 #include "layout/SizeLimits.h"
 
 namespace Wexa {
@@ -70,6 +71,11 @@ void BoxLayout::MarkDirty() {
   chain_.clear();
   dirty_ = true;
   relayout_ = true;
+}
+
+void BoxLayout::Rescale(const Rescaling& rescale) {
+  Layout::Rescale(rescale);
+  spacing_ = rescale.Length(spacing_);
 }
 
 void BoxLayout::Invalidate(bool update) {

@@ -35,6 +35,7 @@ class BoxLayout : public Layout {
   Orientation ExpandingDirections() override;
   void SetGeometry(const Rect& rect) override;
   void Invalidate(bool update) override;
+  void Rescale(const Rescaling& rescale) override;
   bool HasHeightForWidth() override;
   int HeightForWidth(int width) override;
   int MinimumHeightForWidth(int width) override;

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "layout/Rescaling.h"
+
 namespace Wexa {
 
 namespace {
@@ -137,6 +139,14 @@ void GridLayout::SetVerticalSpacing(int spacing) {
 void GridLayout::MarkDirty() {
   needsSetUp_ = true;
   rowsWidth_ = -1;
+}
+
+void GridLayout::Rescale(const Rescaling& rescale) {
+  Layout::Rescale(rescale);
+  horizontalSpacing_ = rescale.Length(horizontalSpacing_);
+  verticalSpacing_ = rescale.Length(verticalSpacing_);
+  rows_.Rescale(rescale);
+  columns_.Rescale(rescale);
 }
 
 void GridLayout::Invalidate(bool update) {

@@ -47,6 +47,7 @@ class GridLayout : public Layout {
   Orientation ExpandingDirections() override;
   void SetGeometry(const Rect& rect) override;
   void Invalidate(bool update) override;
+  void Rescale(const Rescaling& rescale) override;
   bool HasHeightForWidth() override;
   int HeightForWidth(int width) override;
   int MinimumHeightForWidth(int width) override;

@@ -6,6 +6,7 @@
 
 #include "layout/Axis.h"
 #include "layout/ItemSizes.h"
+#include "layout/Rescaling.h"
 #include "layout/SizeLimits.h"
 
 namespace Wexa {
@@ -14,6 +15,10 @@ void GridLines::GrowTo(int count) {
   if (count <= Count()) return;
   stretches_.resize(Index(count), 0);
   minimums_.resize(Index(count), 0);
+}
+
+void GridLines::Rescale(const Rescaling& rescale) {
+  for (int& minimum : minimums_) minimum = rescale.Length(minimum);
 }
 
 void GridLines::Reset() {

@@ -7,6 +7,8 @@
 
 namespace Wexa {
 
+class Rescaling;
+
 struct ItemSizes;
 
 // The lines that a grid item covers along one axis, both ends included.
@@ -27,6 +29,7 @@ class GridLines {
   void GrowTo(int count);
   void SetStretch(int line, int stretch) { stretches_[Index(line)] = stretch; }
   void SetMinimum(int line, int minimum) { minimums_[Index(line)] = minimum; }
+  void Rescale(const Rescaling& rescale);
 
   const std::vector<ChainSlot>& Chain() const { return chain_; }
   const ChainSlot& Slot(int line) const { return chain_[Index(line)]; }

@@ -9,6 +9,7 @@
 #include "MFC/BaseImpl.h"
 #include "layout/Axis.h"
 #include "layout/CellAlignment.h"
+#include "layout/Rescaling.h"
 #include "layout/SizeLimits.h"
 #include "layout/WidgetItem.h"
 #include "layout/WidgetTree.h"
@@ -145,6 +146,13 @@ void Layout::Invalidate(bool update) {
 }
 
 // -- Margins and spacing --------------------------------------------------------------------------
+
+void Layout::Rescale(const Rescaling& rescale) {
+  for (int* side : {&margins_.left, &margins_.top, &margins_.right, &margins_.bottom})
+    *side = rescale.Length(*side);
+  insideSpacing_ = rescale.Length(insideSpacing_);
+  for (int i = 0; LayoutItem* item = ItemAt(i); ++i) item->Rescale(rescale);
+}
 
 void Layout::SetContentsMargins(int left, int top, int right, int bottom) {
   const Margins margins{left, top, right, bottom};

@@ -71,6 +71,8 @@ class Layout : public WexaObject, public LayoutItem {
   Rect Geometry() override { return geometry_; }
   bool IsEmpty() override;
   void Invalidate(bool update) override;
+  // Margins and spacings, and those of all nested layouts.
+  void Rescale(const Rescaling& rescale) override;
   Layout* AsLayout() override { return this; }
 
   // -- Margins, spacing, constraint ---------------------------------------------------------------

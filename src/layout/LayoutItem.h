@@ -10,6 +10,7 @@ namespace Wexa {
 
 class BaseGUIObject;
 class Layout;
+class Rescaling;
 class SpacerItem;
 
 // What a layout places: a widget, a spacer or a nested layout. All values are device pixels.
@@ -41,6 +42,8 @@ class LayoutItem {
   virtual bool IsEmpty() = 0;
   // Forgets what was computed. With update, the layouts are asked for a new pass.
   virtual void Invalidate(bool) {}
+  // The resolution changed: what was set in pixels counts the same number of units.
+  virtual void Rescale(const Rescaling&) {}
   // The item as what it is; null when it is something else.
   virtual BaseGUIObject* Widget() { return nullptr; }
   virtual Layout* AsLayout() { return nullptr; }

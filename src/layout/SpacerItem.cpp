@@ -1,5 +1,6 @@
 #include "layout/SpacerItem.h"
 
+#include "layout/Rescaling.h"
 #include "layout/SizeLimits.h"
 
 namespace Wexa {
@@ -14,6 +15,10 @@ Size SpacerItem::MaximumSize() {
   const bool growsX = (policy_.GetHorizontalPolicy() & SizePolicy::GrowBit) != 0;
   const bool growsY = (policy_.GetVerticalPolicy() & SizePolicy::GrowBit) != 0;
   return {growsX ? LayoutSizeLimit() : size_.Width(), growsY ? LayoutSizeLimit() : size_.Height()};
+}
+
+void SpacerItem::Rescale(const Rescaling& rescale) {
+  size_ = rescale(size_);
 }
 
 }  // namespace Wexa

@@ -19,6 +19,7 @@ class SpacerItem : public LayoutItem {
   void SetGeometry(const Rect& rect) override { geometry_ = rect; }
   Rect Geometry() override { return geometry_; }
   bool IsEmpty() override { return true; }
+  void Rescale(const Rescaling& rescale) override;
   SpacerItem* AsSpacerItem() override { return this; }
 
  private:

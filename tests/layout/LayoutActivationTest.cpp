@@ -1,4 +1,3 @@
-#include "ScaleFactor.h"
 #include "layout/LayoutTest.h"
 #include "platform/Font.h"
 
@@ -31,14 +30,8 @@ Margins MarginsOf(const Layout& layout) {
 
 class Scale {
  public:
-  explicit Scale(int dpi) {
-    SetScreenDpi(dpi);
-    ResetScaleFactor();
-  }
-  ~Scale() {
-    SetScreenDpi(96);
-    ResetScaleFactor();
-  }
+  explicit Scale(int dpi) { SetScreenDpi(dpi); }
+  ~Scale() { SetScreenDpi(96); }
 };
 
 // -- Defaults -------------------------------------------------------------------------------------

@@ -7,7 +7,6 @@
 #include <fstream>
 
 #include "MFC/DialogImplMFC.h"
-#include "ScaleFactor.h"
 
 namespace Wexa {
 
@@ -21,7 +20,6 @@ void FormTest::UseResolution(int dpi) {
   dialog_.reset();
   Robot::PumpAll();
   display::SetCurrent(std::make_unique<display::OffscreenDisplay>(dpi));
-  ResetScaleFactor();
 }
 
 std::wstring FormTest::FileOf(const std::string& form) {

@@ -4,7 +4,6 @@
 
 #include <limits>
 
-#include "ScaleFactor.h"
 #include "platform/Font.h"
 #include "platform/SystemColors.h"
 
@@ -16,22 +15,11 @@ void ExpectPica(PicaPoint value, std::int64_t pica, double point) {
   EXPECT_DOUBLE_EQ(value.point, point);
 }
 
-double ScaleAt(int dpi) {
-  const int before = GetScreenDpi();
-  SetScreenDpi(dpi);
-  ResetScaleFactor();
-  const double scale = WexaUtils::GetScaleFactor();
-  SetScreenDpi(before);
-  const double cached = WexaUtils::GetScaleFactor();
-  ResetScaleFactor();
-  EXPECT_EQ(cached, scale);
-  return scale;
-}
-
-TEST(WexaUtils, ScaleIsMeasuredOnceAndAtLeastOne) {
-  EXPECT_DOUBLE_EQ(ScaleAt(120), 1.25);
-  EXPECT_DOUBLE_EQ(ScaleAt(96), 1.0);
-  EXPECT_DOUBLE_EQ(ScaleAt(72), 1.0);
+TEST(WexaUtils, ScaleFollowsTheScreenAndIsAtLeastOne) {
+  for (const auto& [dpi, scale] : {std::pair{120, 1.25}, {72, 1.0}, {96, 1.0}}) {
+    SetScreenDpi(dpi);
+    EXPECT_DOUBLE_EQ(WexaUtils::GetScaleFactor(), scale);
+  }
 }
 
 TEST(WexaUtils, MouseKeysAreAdded) {

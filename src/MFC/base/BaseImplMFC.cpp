@@ -11,7 +11,9 @@
 #include "WexaException.h"
 #include "WexaUtils.h"
 #include "layout/Layout.h"
+#include "layout/Rescaling.h"
 #include "layout/SizeLimits.h"
+#include "layout/WidgetItem.h"
 #include "layout/WidgetTree.h"
 #include "platform/Postponed.h"
 #include "platform/Theme.h"
@@ -335,6 +337,21 @@ void BaseImplMFC::AddChild(BaseGUIObject& child) {
 
 void BaseImplMFC::ForgetChild(BaseGUIObject& child) {
   std::erase(children_, &child);
+}
+
+// -- Another resolution -------------------------------------------------------
+
+void BaseImplMFC::Rescale(const Rescaling& rescale) {
+  minimumSize_ = rescale(minimumSize_);
+  maximumSize_ = rescale(maximumSize_);
+  for (std::int16_t& margin : Links().contentsMargins)
+    margin = static_cast<std::int16_t>(rescale.Length(margin));
+  if (Links().layout) Links().layout->Rescale(rescale);
+  lastGeometry_ = Rect();
+  if (font_) font_ = MakeFont(fontRecord_);
+  if (GetHandle()) Window().SetFont(Font());
+  if (Links().layoutItem) Links().layoutItem->InvalidateSizeCache();
+  for (BaseGUIObject* child : children_) ImplOf(child)->Rescale(rescale);
 }
 
 // -- Fonts and colours --------------------------------------------------------

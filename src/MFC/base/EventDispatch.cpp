@@ -99,7 +99,7 @@ class EventDispatch {
       case WM_MOUSEWHEEL: return Finish(message, OnWheel());
       case WM_MOVING: return Finish(message, Offer(MovingEvent()));
       case WM_DROPFILES: return Finish(message, OnDropFiles());
-      case WM_DPICHANGED: return Finish(message, Offer(DpiChangeEvent(HIWORD(wParam_))));
+      case WM_DPICHANGED: return Finish(message, OnResolution());
       case WM_SYSCOLORCHANGE: return Finish(message, OnSystemColors());
       case WM_PAINT: return OnPaint();
       case kUpdateLayoutsMessage: return OnUpdateLayouts();
@@ -259,6 +259,11 @@ class EventDispatch {
     if (auto* watch = IsAlive() ? Watch() : nullptr)
       watch->OnUntakenInputWithin(widget_, window_, message);
     return false;
+  }
+
+  bool OnResolution() {
+    impl_.OnResolutionChanged();
+    return !IsAlive() || Offer(DpiChangeEvent(HIWORD(wParam_)));
   }
 
   bool OnSystemColors() {

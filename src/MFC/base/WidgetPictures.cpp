@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "MFC/BaseImplMFC.h"
+#include "layout/Rescaling.h"
 
 namespace Wexa {
 
@@ -20,6 +21,12 @@ WexaUtils::ImageTypes TypeOf(const std::wstring& path) {
   const std::size_t dot = path.rfind(L'.');
   return dot == std::wstring::npos ? WexaUtils::Unknown
                                    : WexaUtils::WstrToImageType(path.substr(dot));
+}
+
+CSize SizeOf(HBITMAP picture) {
+  BITMAP description{};
+  GetBitmapDescription(picture, &description);
+  return {description.bmWidth, description.bmHeight};
 }
 
 int Clamped(std::int64_t value) {
@@ -49,9 +56,16 @@ PictureFile::PictureFile(const std::wstring& path)
     : bytes(WexaUtils::LoadImageBuffer(path, &size)), type(TypeOf(path)) {}
 
 CSize WidgetPictures::Size() const {
-  BITMAP description{};
-  GetBitmapDescription(normal.get(), &description);
-  return {description.bmWidth, description.bmHeight};
+  return SizeOf(normal.get());
+}
+
+void WidgetPictures::Rescale(const Rescaling& rescale) {
+  for (UniqueBitmap* picture : {&normal, &disabled}) {
+    const CSize size = SizeOf(picture->get());
+    const HBITMAP scaled =
+        StretchBitmap(picture->get(), rescale.Length(size.cx), rescale.Length(size.cy));
+    if (scaled) picture->reset(scaled);
+  }
 }
 
 UniqueBitmap LoadPictureInto(const CRect& area, CWnd* window, const PictureRequest& request) {

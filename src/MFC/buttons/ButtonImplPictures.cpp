@@ -39,6 +39,11 @@ void Button::impl::ReplacePicture(UniqueBitmap& picture, const PictureRequest& r
   if (redraw && window) window->Invalidate();
 }
 
+void Button::impl::Rescale(const Rescaling& rescale) {
+  pictures_.Rescale(rescale);
+  BaseImplMFC::Rescale(rescale);
+}
+
 void Button::impl::GeneratePictureDisabled(bool redraw) {
   if (!pictures_.normal) return;
   UniqueBitmap copy(CopyBitmap(pictures_.normal.get()));

@@ -122,6 +122,11 @@ void RadioButton::impl::KeepState() {
 
 // -- Pictures
 
+void RadioButton::impl::Rescale(const Rescaling& rescale) {
+  pictures_.Rescale(rescale);
+  BaseImplMFC::Rescale(rescale);
+}
+
 void RadioButton::impl::LoadPicture(const PictureRequest& request) {
   CRect area = GetHandle() ? window_.GetClientRect() : ScaledRect();
   area.left = std::min<int>(area.left + MarkWidth(), area.right);

@@ -145,6 +145,7 @@ bool Dialog::impl::CreateNative(CWnd* parent) {
 
 void Dialog::impl::MakeWindow() {
   if (GetHandle()) window_->DestroyWindow();
+  FollowResolution();
   BuildTemplate();
 }
 

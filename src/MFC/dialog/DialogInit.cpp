@@ -88,6 +88,7 @@ void Dialog::impl::ShowFirstTime() {
   Update();
   ChooseDefaultButton();
   SettleFrame();
+  if (GetHandle()) sizeAsArranged_ = GetClientRect().GetSize();
   RefreshSkinColors();
 }
 
@@ -152,13 +153,13 @@ void Dialog::impl::ApplyTabOrder() {
 // Sizes and places from before all windows were there mean nothing. What no layout places, the form
 // does; it shares out its place by itself. A handler of a widget that moves may destroy the dialog
 // with its elements.
-void Dialog::impl::ArrangeFirstTime() {
+void Dialog::impl::Arrange(Size client) {
   for (Element& element : elements_) {
     BaseImplMFC& widget = *ImplOf(element.widget.get());
     if (ChildArranger* arranger = widget.AsArranger()) arranger->ForgetSizes();
     if (Layout* layout = widget.Links().layout) layout->StartAgain();
   }
-  if (Layout* layout = Links().layout) ArrangeLayout(*layout);
+  if (Layout* layout = Links().layout) ArrangeLayout(*layout, client);
   for (std::size_t i = 0; i < elements_.size() && GetHandle(); ++i) {
     const auto held = elements_[i].widget->GetBaseImpl();
     auto& widget = static_cast<BaseImplMFC&>(*held);
@@ -168,14 +169,14 @@ void Dialog::impl::ArrangeFirstTime() {
 
 // The first pass finds the dialog's limits; the window then takes a size within them in which all
 // has its place, even where the form allows less, and tall enough for wrapped texts.
-void Dialog::impl::ArrangeLayout(Layout& layout) {
+void Dialog::impl::ArrangeLayout(Layout& layout, Size client) {
   layout.RequestUpdate(false);
   layout.Activate();
   if (!GetHandle()) return;
   const Size least = layout.TotalMinimumSize().GetInflated(MinimumSize());
-  int width = std::max(clientSize.Width(), least.Width());
+  int width = std::max(client.Width(), least.Width());
   int height = layout.HasHeightForWidth() ? layout.TotalMinimumHeightForWidth(width) : 0;
-  ResizeClient(width, std::max({clientSize.Height(), least.Height(), height}));
+  ResizeClient(width, std::max({client.Height(), least.Height(), height}));
 }
 
 // -- Default button

@@ -1,6 +1,7 @@
 #include "MFC/EmbeddedPages.h"
 
 #include "MFC/BaseImpl.h"
+#include "platform/Font.h"
 #include "platform/Window.h"
 
 namespace Wexa {
@@ -39,6 +40,15 @@ void EmbeddedPages::Fit() {
   for (const HWND page : std::vector(pages_))  // a handler may embed another one
     SetWindowPos(page, HWND_TOP, 0, 0, client.Width(), client.Height(),
                  SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+void EmbeddedPages::TellResolution() {
+  const auto dpi = static_cast<WORD>(GetScreenDpi());
+  for (const HWND page : std::vector(pages_)) {
+    CRect place;
+    GetWindowRect(page, &place);
+    SendMessageW(page, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+  }
 }
 
 }  // namespace Wexa

@@ -3,7 +3,6 @@
 #include "Edit.h"
 #include "Event.h"
 #include "Label.h"
-#include "ScaleFactor.h"
 #include "WexaException.h"
 #include "WexaUtils.h"
 #include "platform/Font.h"
@@ -120,14 +119,12 @@ TEST_F(WidgetTest, UnscaledPlacesAndLimitsAreIn96thsOfAnInch) {
   Open(FormXml(WidgetXml("QLineEdit", "edit"), 300, 200));
   auto& edit = Find<BaseGUIObject>(L"edit");
   SetScreenDpi(144);
-  ResetScaleFactor();
   edit.MoveWindowUnscaled(10, 11, 51, 20, true);
   EXPECT_EQ(PlaceOf(L"edit"), Rect(15, 16, 76, 30));
   EXPECT_EQ(edit.GetWindowRectUnscaled().Width(), 50) << "cut off, as all metrics";
   edit.SetMaximumSize(Size(33, 100));
   EXPECT_EQ(edit.MaximumSize(), Size(50, 150)) << "rounded";
   SetScreenDpi(96);
-  ResetScaleFactor();
 }
 
 TEST_F(WidgetTest, TextIsMeasuredInTheWidgetsFontOrAnother) {
