@@ -20,30 +20,29 @@ std::function<bool(int, int)> In(const CRect& rect) {
 
 }  // namespace
 
-TEST(Painter, FillsExactlyTheRectangle) {
-  TestCanvas canvas(12, 10);
-  canvas.Paint([](Painter& p) { p.FillRect({2, 3, 9, 7}, kRed); });
-  ExpectPixels(canvas, kRed, In({2, 3, 9, 7}));
-}
-
-TEST(Painter, ColumnOfOnePixelIsFilled) {
-  TestCanvas canvas(5, 5);
-  canvas.Paint([](Painter& p) { p.FillRect({2, 1, 3, 4}, kRed); });
-  ExpectPixels(canvas, kRed, In({2, 1, 3, 4}));
-}
-
-TEST(Painter, FramesInsideTheRectangle) {
-  TestCanvas canvas(12, 12);
-  canvas.Paint([](Painter& p) { p.FrameRect({1, 1, 11, 11}, kRed, 2); });
-  ExpectPixels(canvas, kRed, [](int x, int y) {
-    return In({1, 1, 11, 11})(x, y) && !In({3, 3, 9, 9})(x, y);
-  });
-}
-
-TEST(Painter, FrameTooThickFillsTheRectangle) {
-  TestCanvas canvas(8, 8);
-  canvas.Paint([](Painter& p) { p.FrameRect({1, 1, 4, 7}, kRed, 5); });
-  ExpectPixels(canvas, kRed, In({1, 1, 4, 7}));
+TEST(Painter, FillsAndFramesExactlyTheRectangle) {
+  struct Case {
+    RECT rect;
+    int frame;     // its width; 0 fills
+    RECT without;  // the inside that stays white
+  };
+  const Case cases[] = {{{2, 3, 9, 7}, 0, {}},
+                        {{2, 1, 3, 4}, 0, {}},
+                        {{1, 1, 11, 11}, 2, {3, 3, 9, 9}},
+                        {{1, 1, 4, 7}, 5, {}}};
+  for (const Case& each : cases) {
+    for (const bool mirrored : {false, true}) {
+      TestCanvas canvas(12, 12);
+      if (mirrored) canvas.context.mirrorWidth = 12;
+      canvas.Paint([&](Painter& p) {
+        each.frame ? p.FrameRect(each.rect, kRed, each.frame) : p.FillRect(each.rect, kRed);
+      });
+      ExpectPixels(canvas, kRed, [&](int x, int y) {
+        const int place = mirrored ? 11 - x : x;
+        return In(each.rect)(place, y) && !In(each.without)(place, y);
+      });
+    }
+  }
 }
 
 TEST(Painter, TransparencyMixesAndInvisibleChangesNothing) {
@@ -112,13 +111,6 @@ TEST(Painter, PopWithoutPushKeepsTheOuterPaintersClip) {
   Painter(dc).PopClip();
   EXPECT_TRUE(outer.IsClippedOut({6, 6, 8, 8}));
   DeleteDeviceContext(dc);
-}
-
-TEST(Painter, MirroredContextMirrorsPlaces) {
-  TestCanvas canvas(20, 10);
-  canvas.context.mirrorWidth = 20;
-  canvas.Paint([](Painter& p) { p.FillRect({2, 1, 5, 3}, kRed); });
-  ExpectPixels(canvas, kRed, In({15, 1, 18, 3}));
 }
 
 TEST(Painter, MirroredContextSwapsSideArrowsAndKeepsCheckMarks) {

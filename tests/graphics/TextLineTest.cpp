@@ -134,18 +134,15 @@ TEST(TextLine, IndicesOutOfRangeMeanTheEnd) {
   EXPECT_EQ(line.MoveVisually(99, 1), 3u);
 }
 
-TEST(TextLine, DrawsWhereItsCaretsAre) {
-  TestCanvas canvas(100, 40);
-  TextLine line = Line(L"HH");
-  canvas.Paint([&](Painter& p) { p.Text(line, 30, 10, kBlack); });
-  CRect box(30, 10, 30 + line.Width(), 10 + GetFontMetrics(nullptr).height);
-  EXPECT_TRUE(box.Contains(canvas.Ink()));
-}
-
-TEST(TextLine, MirroredContextPlacesItsRightEdge) {
-  TestCanvas canvas(100, 40);
-  canvas.context.mirrorWidth = 100;
-  TextLine line = Line(L"HH");
-  canvas.Paint([&](Painter& p) { p.Text(line, 30, 10, kBlack); });
-  EXPECT_TRUE(CRect(70 - line.Width(), 10, 70, 40).Contains(canvas.Ink()));
+TEST(TextLine, DrawsWhereItsCaretsAreAlsoMirrored) {
+  const TextLine line = Line(L"HH");
+  const LONG bottom = 10 + GetFontMetrics(nullptr).height;
+  for (const bool mirrored : {false, true}) {
+    TestCanvas canvas(100, 40);
+    if (mirrored) canvas.context.mirrorWidth = 100;
+    canvas.Paint([&](Painter& p) { p.Text(line, 30, 10, kBlack); });
+    const int left = mirrored ? 70 - line.Width() : 30;
+    EXPECT_TRUE(CRect(left, 10, left + line.Width(), bottom).Contains(canvas.Ink()));
+    EXPECT_FALSE(canvas.Ink().IsEmpty());
+  }
 }

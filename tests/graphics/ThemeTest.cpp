@@ -124,24 +124,20 @@ TEST(Theme, ButtonStatesLookDifferent) {
   EXPECT_NE(Picture(button, kPlain), Picture(button, With(&ControlState::isDefault)));
 }
 
-TEST(Theme, FocusShowsOnlyToKeyboardUsers) {
-  auto parts = AllParts();
-  const Part& button = Find(parts, "button");
+TEST(Theme, FocusAndCheckStatesLookDifferent) {
+  const auto parts = AllParts();
+  const auto look = [&](const char* name, const ControlState& state) {
+    return Picture(Find(parts, name), state);
+  };
   ControlState focused = With(&ControlState::focused);
-  EXPECT_EQ(Picture(button, kPlain), Picture(button, focused));
+  EXPECT_EQ(look("button", kPlain), look("button", focused)) << "only keyboard users see it";
   focused.focusCue = true;
-  EXPECT_NE(Picture(button, kPlain), Picture(button, focused));
-}
-
-TEST(Theme, CheckStatesLookDifferent) {
-  auto parts = AllParts();
-  ControlState on;
-  on.check = 1;
-  ControlState partial;
-  partial.check = 2;
-  EXPECT_NE(Picture(Find(parts, "check"), on), Picture(Find(parts, "check"), kPlain));
-  EXPECT_NE(Picture(Find(parts, "check"), on), Picture(Find(parts, "check"), partial));
-  EXPECT_NE(Picture(Find(parts, "radio"), on), Picture(Find(parts, "radio"), kPlain));
+  EXPECT_NE(look("button", kPlain), look("button", focused));
+  const ControlState on{.check = 1};
+  const ControlState partial{.check = 2};
+  EXPECT_NE(look("check", on), look("check", kPlain));
+  EXPECT_NE(look("check", on), look("check", partial));
+  EXPECT_NE(look("radio", on), look("radio", kPlain));
 }
 
 TEST(Theme, RadioDotIsCentredAtEveryScale) {

@@ -82,38 +82,24 @@ TEST(KeyEvent, CorrectedTextIsEmptyForSpecialKeys) {
   EXPECT_EQ(Pressed(2, L"", 9).CorrectedText(L"abc"), L"");
 }
 
-TEST(Event, RecordsCarryTheirFields) {
-  const MouseEvent mouse(Event::MouseMove, {-1, 2}, Event::LeftButton, Event::ShiftModifier);
-  EXPECT_EQ(mouse.GetType(), 5);
-  EXPECT_EQ(mouse.GetX(), -1);
-  EXPECT_EQ(mouse.GetY(), 2);
-  EXPECT_EQ(mouse.GetButtons(), 1u);
-  EXPECT_EQ(mouse.GetModifiers(), 0x02000000u);
-  const MouseWheelEvent wheel(-120, {3, 4}, 2, Event::ControlModifier);
-  EXPECT_EQ(wheel.GetType(), 31);
-  EXPECT_EQ(wheel.GetDelta(), -120);
-  EXPECT_EQ(wheel.GetPos(), Point(3, 4));
-  const DropEvent drop({1, 2}, {L"a", L"b"}, Event::Drop);
-  EXPECT_EQ(drop.GetFilePaths().size(), 2u);
-  EXPECT_EQ(ResizeEvent({1, 2}, {3, 4}).OldSize(), Size(1, 2));
-  EXPECT_TRUE(FocusEvent(Event::FocusIn).GotFocus());
-  EXPECT_TRUE(FocusEvent(Event::FocusOut).LostFocus());
-}
-
-TEST(Event, RecordsWithoutFieldsHaveTheirTypes) {
-  EXPECT_EQ(ShowEvent().GetType(), 17);
-  EXPECT_EQ(HideEvent().GetType(), 18);
-  EXPECT_EQ(PaintEvent().GetType(), 12);
-  EXPECT_EQ(PostPaintEvent().GetType(), 2000);
-  EXPECT_EQ(MouseLeaveEvent().GetType(), 11);
-  EXPECT_EQ(MovingEvent().GetType(), 1002);
-  EXPECT_EQ(ContextMenuEvent().GetType(), 82);
-  EXPECT_EQ(WindowActivateEvent().GetType(), 24);
-  EXPECT_EQ(WindowDeactivateEvent().GetType(), 25);
-  EXPECT_EQ(LayoutsUpdatedEvent().GetType(), 77);
-  EXPECT_EQ(ApplicationPaletteChangeEvent().GetType(), 38);
-  EXPECT_EQ(TimerEvent(3).GetType(), 1);
-  EXPECT_EQ(DpiChangeEvent(120).GetType(), 1001);
+TEST(Event, RecordsHaveTheirTypes) {
+  const std::pair<Event::Type, int> types[] = {
+      {TimerEvent(3).GetType(), 1},
+      {MouseEvent(Event::MouseMove, {}, 0, 0).GetType(), 5},
+      {MouseLeaveEvent().GetType(), 11},
+      {PaintEvent().GetType(), 12},
+      {ShowEvent().GetType(), 17},
+      {HideEvent().GetType(), 18},
+      {WindowActivateEvent().GetType(), 24},
+      {WindowDeactivateEvent().GetType(), 25},
+      {MouseWheelEvent(0, {}, 0, 0).GetType(), 31},
+      {ApplicationPaletteChangeEvent().GetType(), 38},
+      {LayoutsUpdatedEvent().GetType(), 77},
+      {ContextMenuEvent().GetType(), 82},
+      {DpiChangeEvent(120).GetType(), 1001},
+      {MovingEvent().GetType(), 1002},
+      {PostPaintEvent().GetType(), 2000}};
+  for (const auto& [type, number] : types) EXPECT_EQ(type, number);
 }
 
 }  // namespace

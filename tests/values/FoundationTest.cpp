@@ -49,22 +49,18 @@ class CountingCreator : public ICreator {
   int made = 0;
 };
 
-TEST(WexaObjectFactory, TheFirstRegistrationOfANameStays) {
+TEST(WexaObjectFactory, TheFirstRegistrationOfANameStaysAndUnknownNamesGiveNothing) {
   const auto first = std::make_shared<CountingCreator>();
   const auto second = std::make_shared<CountingCreator>();
   auto& factory = WexaObjectFactory::Instance();
   factory.Register("FactoryTest", first);
   factory.Register("FactoryTest", second);
+  factory.Register("NoCreator", nullptr);
   factory.Create("FactoryTest");
-  factory.Create("factorytest");
+  for (const char* name : {"factorytest", "NoCreator", "NoSuchClass"})
+    EXPECT_EQ(factory.Create(name), nullptr);
   EXPECT_EQ(first->made, 1);
   EXPECT_EQ(second->made, 0);
-}
-
-TEST(WexaObjectFactory, UnknownNamesGiveNothing) {
-  WexaObjectFactory::Instance().Register("NoCreator", nullptr);
-  EXPECT_EQ(WexaObjectFactory::Instance().Create("NoCreator"), nullptr);
-  EXPECT_EQ(WexaObjectFactory::Instance().Create("NoSuchClass"), nullptr);
 }
 
 // -- Exception and log

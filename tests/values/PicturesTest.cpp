@@ -48,13 +48,10 @@ TEST(Pictures, TheIconOfTheWidthOrTheNextNarrowerIsChosen) {
   EXPECT_EQ(ChosenWidth({48, 32, 16}, 40), 32);
   EXPECT_EQ(ChosenWidth({32, 16, 48}, 8), 32) << "none is narrower: the first";
   EXPECT_EQ(ChosenWidth({16, 32, 48}, 1000), 48);
-}
-
-TEST(Pictures, OfEquallyWideIconsTheLastIsChosen) {
-  const Bytes file = IconFile(
-      {IconImageBytes(16, 4, 24, Always(0x111111)), IconImageBytes(16, 8, 24, Always(0x222222))});
-  EXPECT_EQ(DescriptionOf(Get(file, WexaUtils::ICO, 20).get()).bmHeight, 8);
-  EXPECT_EQ(DescriptionOf(Get(file, WexaUtils::ICO, 16).get()).bmHeight, 4) << "the first exact";
+  const Bytes equal =
+      IconFile({IconImageBytes(16, 4, 24, Always(1)), IconImageBytes(16, 8, 24, Always(1))});
+  EXPECT_EQ(DescriptionOf(Get(equal, WexaUtils::ICO, 20).get()).bmHeight, 8) << "the last";
+  EXPECT_EQ(DescriptionOf(Get(equal, WexaUtils::ICO, 16).get()).bmHeight, 4) << "the first exact";
 }
 
 TEST(Pictures, OtherTypesAndFilesWithoutIconsAreDecoded) {
@@ -132,27 +129,19 @@ UniqueBitmap Pixels(const std::vector<std::uint32_t>& pixels, int depth = 32) {
   return bitmap;
 }
 
-TEST(Pictures, GreyIsWeighedAndCutOff) {
-  const UniqueBitmap bitmap = Pixels({0x80FF0000, 0x0000FF00, 0xFF0000FF, 0xFF646464, 0xFFFFFFFF});
-  ASSERT_EQ(WexaUtils::ReplaceColorToGray(nullptr, bitmap.get()), bitmap.get());
-  EXPECT_THAT(BitmapPixels(bitmap.get()),
+TEST(Pictures, RecoloringLeavesTheShape) {
+  const UniqueBitmap grey = Pixels({0x80FF0000, 0x0000FF00, 0xFF0000FF, 0xFF646464, 0xFFFFFFFF});
+  ASSERT_EQ(WexaUtils::ReplaceColorToGray(nullptr, grey.get()), grey.get());
+  EXPECT_THAT(BitmapPixels(grey.get()),
               testing::ElementsAre(0x804C4C4C, 0x00999999, 0xFF191919, 0xFF646464, 0xFFFFFFFF));
-}
-
-TEST(Pictures, ANewColorLeavesTheShape) {
-  const UniqueBitmap bitmap = Pixels({0x80FF0000, 0x00123456, 0xFF0000FF});
-  ASSERT_EQ(WexaUtils::ReplaceColor(nullptr, bitmap.get(), 0x00332211), bitmap.get());
-  EXPECT_THAT(BitmapPixels(bitmap.get()), testing::ElementsAre(0x80112233, 0x00112233, 0xFF112233));
-}
-
-TEST(Pictures, TheColorZeroMakesGrey) {
-  const UniqueBitmap bitmap = Pixels({0xFFFF0000}, 24);
-  WexaUtils::ReplaceColor(nullptr, bitmap.get(), 0);
-  EXPECT_EQ(BitmapPixels(bitmap.get())[0], 0xFF4C4C4Cu);
-}
-
-TEST(Pictures, MasksAndStaleBitmapsAreNotRecolored) {
-  EXPECT_EQ(WexaUtils::ReplaceColor(nullptr, Pixels({0}, 1).get(), 1), nullptr);
+  const UniqueBitmap colored = Pixels({0x80FF0000, 0x00123456, 0xFF0000FF});
+  ASSERT_EQ(WexaUtils::ReplaceColor(nullptr, colored.get(), 0x00332211), colored.get());
+  EXPECT_THAT(BitmapPixels(colored.get()),
+              testing::ElementsAre(0x80112233, 0x00112233, 0xFF112233));
+  const UniqueBitmap zero = Pixels({0xFFFF0000}, 24);
+  WexaUtils::ReplaceColor(nullptr, zero.get(), 0);
+  EXPECT_EQ(BitmapPixels(zero.get())[0], 0xFF4C4C4Cu) << "grey, too";
+  EXPECT_EQ(WexaUtils::ReplaceColor(nullptr, Pixels({0}, 1).get(), 1), nullptr) << "a mask";
   EXPECT_EQ(WexaUtils::ReplaceColorToGray(nullptr, nullptr), nullptr);
 }
 

@@ -23,6 +23,9 @@ TEST(WexaConfig, StartsWithItsDefaults) {
   EXPECT_TRUE(ExpectsEncryptedLanguageFiles());
   EXPECT_EQ(GetCurrentLanguage(), L"");
   EXPECT_EQ(GetGlobalSkinMode(), SkinMode::Default);
+  EXPECT_EQ(GetFontInfo(), GetFontInfo());
+  EXPECT_EQ(GetFontInfo()->faceName, L"Tahoma");
+  EXPECT_EQ(GetFontInfo()->height, 90);
 }
 
 TEST(WexaConfig, WorksInTheDirectoryOfTheHost) {
@@ -52,26 +55,23 @@ TEST(WexaConfig, FullPathsAreDirectoriesByThemselves) {
   EXPECT_EQ(GetUiDirPath(L"d:"), GetWorkingDirPath() + L"wexaresources\\d:ui\\");
 }
 
-TEST(WexaConfig, SharesOneFont) {
-  EXPECT_EQ(GetFontInfo(), GetFontInfo());
-  EXPECT_EQ(GetFontInfo()->faceName, L"Tahoma");
-  EXPECT_EQ(GetFontInfo()->height, 90);
-  EXPECT_EQ(GetFontInfo()->charSet, 0);
-}
-
 TEST(WexaConfig, RadiiAreKeptApart) {
-  SetCheckboxRadius(1);
-  SetComboboxRadius(2);
-  SetEditRadius(3);
-  SetContextMenuRadius(4);
-  EXPECT_EQ(GetCheckboxRadius(), 1);
-  EXPECT_EQ(GetComboboxRadius(), 2);
-  EXPECT_EQ(GetEditRadius(), 3);
-  EXPECT_EQ(GetContextMenuRadius(), 4);
-  SetCheckboxRadius(0);
-  SetComboboxRadius(0);
-  SetEditRadius(0);
-  SetContextMenuRadius(10);
+  struct Radius {
+    int (*get)();
+    void (*set)(int);
+  };
+  const Radius radii[] = {{GetCheckboxRadius, SetCheckboxRadius},
+                          {GetComboboxRadius, SetComboboxRadius},
+                          {GetEditRadius, SetEditRadius},
+                          {GetContextMenuRadius, SetContextMenuRadius}};
+  const auto read = [&] {
+    std::vector<int> values;
+    for (const Radius& radius : radii) values.push_back(radius.get());
+    return values;
+  };
+  for (int i = 0; i < 4; ++i) radii[i].set(i + 1);
+  EXPECT_THAT(read(), testing::ElementsAre(1, 2, 3, 4));
+  for (const Radius& radius : radii) radius.set(radius.set == SetContextMenuRadius ? 10 : 0);
 }
 
 TEST(WexaConfig, GlobalSkinsAreLockedAndRefuseUnknownModes) {

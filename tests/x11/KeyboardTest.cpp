@@ -49,38 +49,50 @@ TEST_F(X11KeyboardTest, KeyTellsItsPlaceAndItsVirtualKey) {
   EXPECT_TRUE(arrow.text.empty());
 }
 
-TEST_F(X11KeyboardTest, VirtualKeysOfOtherKeys) {
-  const std::pair<std::uint32_t, int> keys[] = {
-      {XKB_KEY_Return, VK_RETURN},     {XKB_KEY_Escape, VK_ESCAPE}, {XKB_KEY_F10, VK_F10},
-      {XKB_KEY_period, VK_OEM_PERIOD}, {XKB_KEY_slash, VK_OEM_2},   {XKB_KEY_5, '5'},
-      {XKB_KEY_space, VK_SPACE},       {XKB_KEY_Delete, VK_DELETE}, {XKB_KEY_Menu, VK_APPS},
-      {XKB_KEY_Next, VK_NEXT},         {XKB_KEY_KP_Add, VK_ADD},    {XKB_KEY_equal, VK_OEM_PLUS}};
-  for (const auto& [symbol, virtualKey] : keys) {
-    EXPECT_EQ(Press(symbol).virtualKey, virtualKey) << symbol;
+TEST_F(X11KeyboardTest, KeysHaveTheirVirtualKeysAndWriteAsTheyDoNatively) {
+  const struct {
+    std::uint32_t symbol;
+    int virtualKey;
+    std::u32string text;
+  } keys[] = {{XKB_KEY_Return, VK_RETURN, U"\r"},
+              {XKB_KEY_Escape, VK_ESCAPE, U"\x1B"},
+              {XKB_KEY_BackSpace, VK_BACK, U"\b"},
+              {XKB_KEY_Tab, VK_TAB, U"\t"},
+              {XKB_KEY_Delete, VK_DELETE, U""},
+              {XKB_KEY_space, VK_SPACE, U" "},
+              {XKB_KEY_F10, VK_F10, U""},
+              {XKB_KEY_period, VK_OEM_PERIOD, U"."},
+              {XKB_KEY_slash, VK_OEM_2, U"/"},
+              {XKB_KEY_equal, VK_OEM_PLUS, U"="},
+              {XKB_KEY_5, '5', U"5"},
+              {XKB_KEY_KP_Add, VK_ADD, U"+"},
+              {XKB_KEY_Menu, VK_APPS, U""},
+              {XKB_KEY_Next, VK_NEXT, U""}};
+  for (const auto& [symbol, virtualKey, text] : keys) {
+    const Input key = Press(symbol);
+    EXPECT_EQ(key.virtualKey, virtualKey) << symbol;
+    EXPECT_EQ(key.text, text) << symbol;
   }
 }
 
-TEST_F(X11KeyboardTest, ShiftedKeysKeepTheirVirtualKey) {
-  person_.Key(XKB_KEY_exclam);
-  EXPECT_EQ(Next(Kind::KeyDown)->virtualKey, VK_SHIFT);
-  EXPECT_EQ(Next(Kind::KeyDown)->virtualKey, '1');
-}
-
-TEST_F(X11KeyboardTest, ActingKeysWriteAsTheyDoNatively) {
-  EXPECT_EQ(Press(XKB_KEY_Return).text, U"\r");
-  EXPECT_EQ(Press(XKB_KEY_BackSpace).text, U"\b");
-  EXPECT_EQ(Press(XKB_KEY_Tab).text, U"\t");
-  EXPECT_EQ(Press(XKB_KEY_Escape).text, U"\x1B");
-  EXPECT_EQ(Press(XKB_KEY_Delete).text, U"");
-  person_.Key(XKB_KEY_Shift_L, XKB_KEY_Tab);
-  EXPECT_EQ(Typed(), U"\t");
-}
-
-TEST_F(X11KeyboardTest, ControlGivesControlCharacters) {
-  person_.Key(XKB_KEY_Control_L, XKB_KEY_c);
-  person_.Key(XKB_KEY_Control_L, XKB_KEY_5);
-  person_.Key(XKB_KEY_Control_L, XKB_KEY_Return);
-  EXPECT_EQ(Typed(), U"\x03\n");
+TEST_F(X11KeyboardTest, ModifiersLeaveTheVirtualKeyAndChangeTheText) {
+  const struct {
+    std::uint32_t modifier;
+    std::uint32_t symbol;
+    int virtualKey;
+    std::u32string text;
+  } strokes[] = {{XKB_KEY_Shift_L, XKB_KEY_1, '1', U"!"},
+                 {XKB_KEY_Shift_L, XKB_KEY_Tab, VK_TAB, U"\t"},
+                 {XKB_KEY_Control_L, XKB_KEY_c, 'C', U"\x03"},
+                 {XKB_KEY_Control_L, XKB_KEY_5, '5', U""},
+                 {XKB_KEY_Control_L, XKB_KEY_Return, VK_RETURN, U"\n"}};
+  for (const auto& [modifier, symbol, virtualKey, text] : strokes) {
+    person_.Key(modifier, symbol);
+    const auto keys = All(Kind::KeyDown);
+    ASSERT_EQ(keys.size(), 2u);
+    EXPECT_EQ(keys[1].virtualKey, virtualKey);
+    EXPECT_EQ(keys[1].text, text) << virtualKey;
+  }
 }
 
 TEST_F(X11KeyboardTest, StateIsThatOfTheRecordHandedOut) {

@@ -13,23 +13,14 @@ class X11PointerTest : public X11Test {
   X11PointerTest() { OpenDialog(); }
 };
 
-TEST_F(X11PointerTest, MotionReportsScreenPosition) {
-  person_.MovePointer({150, 120});
-  const auto moved = Next(Kind::PointerMoved);
-  ASSERT_TRUE(moved);
-  EXPECT_EQ(moved->surface, kDialog);
-  EXPECT_EQ(moved->position.x, 150);
-  EXPECT_EQ(moved->position.y, 120);
-  EXPECT_EQ(display_->PointerPosition().x, 150);
-}
-
-TEST_F(X11PointerTest, MotionsInARowAreOne) {
-  person_.MovePointer({150, 120});
-  person_.MovePointer({160, 120});
-  person_.MovePointer({170, 121});
+TEST_F(X11PointerTest, MotionsInARowAreOneOnTheScreen) {
+  for (const LONG x : {150, 160, 170}) person_.MovePointer({x, 121});
   const auto moves = All(Kind::PointerMoved);
   ASSERT_EQ(moves.size(), 1u);
+  EXPECT_EQ(moves[0].surface, kDialog);
   EXPECT_EQ(moves[0].position.x, 170);
+  EXPECT_EQ(moves[0].position.y, 121);
+  EXPECT_EQ(display_->PointerPosition().x, 170);
 }
 
 TEST(X11Records, AMoveWithOtherButtonsOrModifiersIsNotDrawnIntoTheLast) {

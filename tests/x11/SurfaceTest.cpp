@@ -81,28 +81,15 @@ TEST_F(X11SurfaceTest, TitleKeepsEveryScript) {
   EXPECT_EQ(person_.Property(window, "WM_NAME"), "\xDC ? ?");
 }
 
-TEST_F(X11SurfaceTest, CloseRequestIsReported) {
-  const xcb_window_t window = OpenDialog();
-  person_.Close(window);
-  const auto close = Next(Kind::CloseRequested);
-  ASSERT_TRUE(close);
-  EXPECT_EQ(close->surface, kDialog);
-}
-
-TEST_F(X11SurfaceTest, ResizeByAnotherProgramIsReportedWithNewPixels) {
+TEST_F(X11SurfaceTest, WhatOtherProgramsDoToTheWindowIsReported) {
   const xcb_window_t window = OpenDialog();
   person_.Resize(window, {450, 333});
   const auto resized = Next(Kind::Resized);
   ASSERT_TRUE(resized);
   EXPECT_EQ(resized->size.cx, 450);
   EXPECT_EQ(resized->size.cy, 333);
-  const Pixels pixels = display_->LockPixels(kDialog);
-  EXPECT_EQ(pixels.width, 450);
-  EXPECT_EQ(pixels.height, 333);
-}
-
-TEST_F(X11SurfaceTest, MoveByAnotherProgramIsReported) {
-  const xcb_window_t window = OpenDialog();
+  EXPECT_EQ(display_->LockPixels(kDialog).width, 450);
+  EXPECT_EQ(display_->LockPixels(kDialog).height, 333);
   person_.Move(window, {20, 30});
   const auto records = All();
   ASSERT_EQ(std::ranges::count(records, Kind::Moved, &Input::kind), 1);
@@ -110,6 +97,10 @@ TEST_F(X11SurfaceTest, MoveByAnotherProgramIsReported) {
   const auto moved = std::ranges::find(records, Kind::Moved, &Input::kind);
   EXPECT_EQ(moved->position.x, 20);
   EXPECT_EQ(moved->position.y, 30);
+  person_.Close(window);
+  const auto close = Next(Kind::CloseRequested);
+  ASSERT_TRUE(close);
+  EXPECT_EQ(close->surface, kDialog);
 }
 
 TEST_F(X11SurfaceTest, OwnMovesAreNotReported) {
@@ -158,11 +149,6 @@ TEST_F(X11SurfaceTest, RaisedSurfaceCoversTheOther) {
   EXPECT_EQ(person_.PixelAt({200, 200}), 0x112233u);
 }
 
-TEST_F(X11SurfaceTest, WithoutWindowManagerMovesStayWithTheCaller) {
-  OpenDialog();
-  EXPECT_FALSE(display_->BeginMoveSize(kDialog, HTCAPTION));
-}
-
 TEST_F(X11SurfaceTest, UnknownSurfacesAreNoOnes) {
   display_->DestroySurface(77);
   display_->MoveSurface(77, kPlace);
@@ -175,7 +161,9 @@ TEST_F(X11SurfaceTest, UnknownSurfacesAreNoOnes) {
   EXPECT_EQ(display_->LockPixels(77).data, nullptr);
 }
 
-TEST_F(X11SurfaceTest, WorkAreaIsTheScreenWhereNothingTakesPartOfIt) {
+TEST_F(X11SurfaceTest, WithoutWindowManagerMovesAndTheWholeScreenAreTheCallers) {
+  OpenDialog();
+  EXPECT_FALSE(display_->BeginMoveSize(kDialog, HTCAPTION));
   const RECT area = display_->WorkArea();
   EXPECT_EQ(area.right - area.left, 1280);
   EXPECT_EQ(area.bottom - area.top, 1024);
