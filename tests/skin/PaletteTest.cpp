@@ -122,18 +122,12 @@ TEST_F(Palette, CopiedSlotsTakeTheResolvedColor) {
   EXPECT_TRUE(skin.Slot(29) == 0x010203);
 }
 
-TEST_F(Palette, UnknownModesLoadNothing) {
+TEST_F(Palette, UnknownModesAndXmlWithoutAParentLoadNothing) {
   SkinManager skin(SkinMode::Dark);
-  for (const int mode : {-1, 4, 5, 1000})
+  for (const int mode : {-1, 2, 4, 5, 1000})
     EXPECT_FALSE(skin.SetSkinMode(static_cast<SkinMode>(mode)));
   EXPECT_EQ(skin.GetSkinMode(), SkinMode::Dark);
   ExpectPalette(skin, kDark);
-}
-
-TEST_F(Palette, XmlNeedsAParent) {
-  SkinManager skin(SkinMode::Default);
-  EXPECT_FALSE(skin.LoadSkin(SkinMode::XML, false, false));
-  EXPECT_EQ(skin.GetSkinMode(), SkinMode::Default);
 }
 
 }  // namespace
