@@ -45,10 +45,14 @@ class WEXA_API SkinManager {
   // Loads a palette: all its slots become unset. In a high-contrast system that is the
   // high-contrast palette whatever the mode. With `detach` the parent is dropped. False, and
   // nothing is loaded, for modes other than Default to HCMDark, and for XML without a parent.
+  // After detaching no slot has a fallback: what the palette does not define (37 and 65 in the dark
+  // and the high-contrast one; 56, 69 to 73, 75 to 77, 79 to 81 in the light one) keeps the colour
+  // that it showed.
   bool LoadSkin(SkinMode mode, bool lockColors, bool detach);
   // The same, unlocked and detached.
   bool SetSkinMode(SkinMode mode);
-  // Takes over another skin and calls the mode Custom. Always true.
+  // Shows what the other shows, locked slots too: takes over its colours, what they fall back on and
+  // its state, and calls the mode Custom. Always true.
   bool SetCustomSkin(const SkinManager& other);
   // Loads a palette below a parent; null, or this skin, stands for none. A skin that is its own
   // parent and was initialised before is left as it is.
@@ -125,6 +129,7 @@ class WEXA_API SkinManager {
   void BeginLoad(SkinMode mode, bool detach);
   void SetParentFallbacks();
   void KeepColorsOf(const SkinManager& leaving);
+  void CopySlots(const SkinManager& other);
   void CopyState(const SkinManager& other);
   const SkinManagerColor* FallbackOf(std::size_t slot) const;
 

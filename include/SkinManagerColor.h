@@ -10,19 +10,18 @@ class SkinManager;
 
 // One colour of a skin, 0x00BBGGRR with a transparency in the top byte; 0xFFFFFFFF is no colour.
 // Until it is set explicitly it resolves through its fallback, the same slot of the parent skin.
-// Explicit changes tell the skin that owns it. The fallback must outlive the colour and its copies.
+// Explicit changes tell the skin that owns it. The fallback must outlive the colour.
 class WEXA_API SkinManagerColor {
  public:
   // Black, not set.
   SkinManagerColor() = default;
   // Set explicitly. Only the low 32 bits count, here and below.
   SkinManagerColor(unsigned long color) : value_(Word(color)), changed_(true) {}
-  // A copy has no owner: changing it tells nobody.
+  // A copy stands alone: it has the colour that the other resolves to, no fallback and no owner.
   SkinManagerColor(const SkinManagerColor& other)
-      : value_(other.value_),
-        changed_(other.changed_),
-        locked_(other.locked_),
-        fallback_(other.fallback_) {}
+      : value_(other.Resolved().value_),
+        changed_(other.Resolved().changed_),
+        locked_(other.locked_) {}
 
   // Takes over the stored value and whether it was set; ignored when this colour is locked.
   SkinManagerColor& operator=(const SkinManagerColor& other);
@@ -69,6 +68,8 @@ class WEXA_API SkinManagerColor {
   }
   const SkinManagerColor& ResolvedByFallbacks() const;
   void Set(std::uint32_t value);
+  // Has the colour that it shows for its own.
+  void KeepShown();
 
   std::uint32_t value_ = 0;
   bool changed_ = false;

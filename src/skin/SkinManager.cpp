@@ -1,5 +1,7 @@
 #include "SkinManager.h"
 
+#include <optional>
+
 #include "MFC/BaseImpl.h"
 #include "SlotTable.h"
 #include "WexaUtils.h"
@@ -32,9 +34,8 @@ SkinManager::SkinManager(BaseImpl* owner, SkinMode mode) : owner_(owner) {
 
 SkinManager::SkinManager(SkinMode mode) : SkinManager(nullptr, mode) {}
 
-SkinManager::SkinManager(const SkinManager& other) : slots_(other.slots_) {
-  for (auto& slot : slots_) slot.owner_ = this;
-  fallbacks_.PointTo(other.fallbacks_.Target());
+SkinManager::SkinManager(const SkinManager& other) {
+  CopySlots(other);
   CopyState(other);
 }
 
@@ -46,6 +47,22 @@ SkinManager& SkinManager::operator=(const SkinManager& other) {
   if (Parent() == this) parent_.PointTo(nullptr);
   if (Parent() != oldParent) SetParentFallbacks();
   return *this;
+}
+
+// As they are, locks and fallbacks included. Slots of a skin that falls back on this one show what
+// they showed.
+void SkinManager::CopySlots(const SkinManager& other) {
+  const bool fallsBackHere = other.fallbacks_.Target() == this;
+  for (std::size_t n = 0; n < slots_.size(); ++n) {
+    const SkinManagerColor& source = other.slots_[n];
+    const SkinManagerColor& shown = fallsBackHere ? source.Resolved() : source;
+    slots_[n].value_ = shown.value_;
+    slots_[n].changed_ = shown.changed_;
+    slots_[n].locked_ = source.locked_;
+    slots_[n].fallback_ = fallsBackHere ? nullptr : source.fallback_;
+    slots_[n].owner_ = this;
+  }
+  fallbacks_.PointTo(fallsBackHere ? nullptr : other.fallbacks_.Target());
 }
 
 void SkinManager::CopyState(const SkinManager& other) {
@@ -97,18 +114,27 @@ bool SkinManager::SetSkinMode(SkinMode mode) {
 }
 
 bool SkinManager::SetCustomSkin(const SkinManager& other) {
-  *this = other;
+  if (this != &other) {
+    CopySlots(other);
+    CopyState(other);
+    if (Parent() == this) parent_.PointTo(nullptr);
+    SetColorChangeFlag(true);
+  }
   mode_ = SkinMode::Custom;
   requestedMode_ = SkinMode::Custom;
   return true;
 }
 
 void SkinManager::ReloadPalette() {
-  const auto before = slots_;
+  std::array<std::optional<std::uint32_t>, kSlotCount> explicitColors;
+  for (std::size_t n = 0; n < slots_.size(); ++n) {
+    const SkinManagerColor& slot = slots_[n];
+    if (slot.changed_ && slot.value_ != kNoColor) explicitColors[n] = slot.value_;
+  }
   if (!LoadSkin(requestedMode_, lockColors_, false)) return;
   for (std::size_t n = 0; n < slots_.size(); ++n) {
-    if (!before[n].changed_ || before[n].value_ == kNoColor) continue;
-    slots_[n].value_ = before[n].value_;
+    if (!explicitColors[n]) continue;
+    slots_[n].value_ = *explicitColors[n];
     slots_[n].changed_ = true;
   }
 }
@@ -141,8 +167,11 @@ void SkinManager::BeginLoad(SkinMode mode, bool detach) {
   requestedMode_ = mode;
   if (detach) parent_.PointTo(nullptr);
   if (fallbacks_.Target() == Parent()) return;
-  for (std::size_t n = 0; n < slots_.size(); ++n)
-    if (slots_[n].fallback_) slots_[n].fallback_ = FallbackOf(n);
+  for (std::size_t n = 0; n < slots_.size(); ++n) {
+    if (!slots_[n].fallback_) continue;
+    if (detach) slots_[n].KeepShown();
+    slots_[n].fallback_ = FallbackOf(n);
+  }
   fallbacks_.PointTo(Parent());
 }
 

@@ -38,6 +38,13 @@ void SkinManagerColor::Set(std::uint32_t value) {
   if (owner_) owner_->SetColorChangeFlag(true);
 }
 
+void SkinManagerColor::KeepShown() {
+  const SkinManagerColor& shown = Resolved();
+  value_ = shown.value_;
+  changed_ = shown.changed_;
+  fallback_ = nullptr;
+}
+
 // Skins that are each other's parents make a ring. A marker that moves on after 1, 2, 4 ... steps
 // meets itself there; the colour then falls back on nothing.
 const SkinManagerColor& SkinManagerColor::ResolvedByFallbacks() const {

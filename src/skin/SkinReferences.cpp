@@ -28,12 +28,7 @@ SkinManager::~SkinManager() {
 // Slots that show a colour of the leaving skin have it for their own.
 void SkinManager::KeepColorsOf(const SkinManager& leaving) {
   if (fallbacks_.Target() != &leaving) return;
-  for (SkinManagerColor& slot : slots_) {
-    const SkinManagerColor& shown = slot.Resolved();
-    slot.value_ = shown.value_;
-    slot.changed_ = shown.changed_;
-    slot.fallback_ = nullptr;
-  }
+  for (SkinManagerColor& slot : slots_) slot.KeepShown();
 }
 
 }  // namespace Wexa

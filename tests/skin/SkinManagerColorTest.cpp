@@ -1,6 +1,6 @@
 #include "SkinManagerColor.h"
 
-#include <gtest/gtest.h>
+#include <memory>
 
 #include "RGBColor.h"
 
@@ -11,17 +11,19 @@ unsigned long Resolved(const SkinManagerColor& color) {
   return color;
 }
 
-SkinManagerColor Unset(unsigned long color, const SkinManagerColor* fallback, bool locked = false) {
-  SkinManagerColor unset;
-  unset.SetDefaultColor(color, fallback, locked, nullptr);
-  return unset;
-}
+// Not set, over a fallback that is.
+struct Unset {
+  explicit Unset(unsigned long value, bool locked = false) {
+    color.SetDefaultColor(value, fallback.get(), locked, nullptr);
+  }
+  std::unique_ptr<SkinManagerColor> fallback = std::make_unique<SkinManagerColor>(5UL);
+  SkinManagerColor color;
+};
 
 TEST(SkinManagerColor, IsBlackAndUnsetAtFirst) {
   const SkinManagerColor color;
   EXPECT_EQ(Resolved(color), 0u);
   EXPECT_FALSE(color.IsChanged());
-  EXPECT_TRUE(color == 0);
 }
 
 TEST(SkinManagerColor, ResolvesThroughAnyNumberOfFallbacks) {
@@ -37,46 +39,45 @@ TEST(SkinManagerColor, ResolvesThroughAnyNumberOfFallbacks) {
   EXPECT_EQ(Resolved(chain[49]), 7u);
 }
 
-TEST(SkinManagerColor, AssignmentTakesTheStoredValue) {
-  const SkinManagerColor fallback(5UL);
-  const auto unset = Unset(3, &fallback);
-  SkinManagerColor target(1UL);
-  target = unset;
-  EXPECT_EQ(Resolved(target), 3u);
-  EXPECT_FALSE(target.IsChanged());
+TEST(SkinManagerColor, ACopyStandsAlone) {
+  Unset unset(3);
+  const SkinManagerColor copy = unset.color;
+  *unset.fallback = 6;
+  EXPECT_EQ(Resolved(unset.color), 6u);
+  unset.fallback.reset();
+  EXPECT_EQ(Resolved(copy), 5u);
+  EXPECT_TRUE(copy.IsChanged());
 }
 
-TEST(SkinManagerColor, LockedColorsTakeNumbersOnly) {
-  auto locked = Unset(1, nullptr, true);
-  locked = SkinManagerColor(2UL);
-  EXPECT_EQ(Resolved(locked), 1u);
-  locked = 3UL;
-  EXPECT_EQ(Resolved(locked), 3u);
+TEST(SkinManagerColor, AssignmentTakesTheStoredValueUnlessLocked) {
+  const Unset unset(3);
+  SkinManagerColor target(1UL);
+  target = unset.color;
+  EXPECT_EQ(Resolved(target), 3u);
+  EXPECT_FALSE(target.IsChanged());
+  Unset locked(1, true);
+  locked.color = SkinManagerColor(2UL);
+  EXPECT_TRUE(locked.color == 1);
+  locked.color = 3UL;
+  EXPECT_EQ(Resolved(locked.color), 3u);
 }
 
 TEST(SkinManagerColor, ComparesStoredValuesOf32Bits) {
-  const SkinManagerColor fallback(5UL);
-  EXPECT_TRUE(Unset(1, &fallback) != Unset(2, &fallback));
-  EXPECT_TRUE(Unset(1, &fallback) == Unset(1, nullptr));
+  EXPECT_TRUE(Unset(1).color != Unset(2).color);
+  EXPECT_TRUE(Unset(1).color == SkinManagerColor(1UL));
   EXPECT_TRUE(SkinManagerColor(0xFFFFFFFFUL) == -1);
   EXPECT_TRUE(SkinManagerColor(0x1FFFFFFFFUL) != 1);
-  EXPECT_EQ(Resolved(SkinManagerColor(0x1FFFFFFFFUL)), 0xFFFFFFFFUL);
 }
 
-TEST(SkinManagerColor, SumsChangeTheColorAndWrapAround) {
-  auto color = Unset(0xFFFFFFFF, nullptr);
+TEST(SkinManagerColor, SumsAndLongMasksChangeTheColor) {
+  SkinManagerColor color(0xFFFFFFFFUL);
   EXPECT_EQ(Resolved(color + SkinManagerColor(2UL)), 1u);
   EXPECT_EQ(Resolved(color), 1u);
-  EXPECT_TRUE(color.IsChanged());
   EXPECT_EQ(Resolved(color - SkinManagerColor(2UL)), 0xFFFFFFFFUL);
-}
-
-TEST(SkinManagerColor, OnlyTheMaskOfUnsignedLongChangesTheColor) {
-  SkinManagerColor color(0xABCDEFUL);
-  EXPECT_EQ(Resolved(color & 0xFF), 0xEFu);
-  EXPECT_EQ(Resolved(color), 0xABCDEFu);
-  EXPECT_EQ(Resolved(color & 0xFF00UL), 0xCD00u);
-  EXPECT_EQ(Resolved(color), 0xCD00u);
+  EXPECT_EQ(Resolved(color & 0xFF), 0xFFu);
+  EXPECT_EQ(Resolved(color), 0xFFFFFFFFUL);
+  EXPECT_EQ(Resolved(color & 0xFF00UL), 0xFF00u);
+  EXPECT_EQ(Resolved(color), 0xFF00u);
 }
 
 TEST(RgbColor, StoresTransparencyInTheTopByte) {
@@ -86,6 +87,8 @@ TEST(RgbColor, StoresTransparencyInTheTopByte) {
   EXPECT_EQ(RGBColor(1, 2, 3, 0).GetA(), 0);
   EXPECT_EQ(Resolved(RGBColor(0x101, -1, 0x203)), 0x03FF01u);
   EXPECT_EQ(RGBColor(static_cast<int>(0x80000000)).GetA(), 127);
+  EXPECT_EQ(Resolved(RGBColor(Unset(1).color)), 5u);
+  EXPECT_TRUE(RGBColor(7).GetPlatformColor() == 7);
 }
 
 TEST(RgbColor, ChangingAComponentMakesItOpaque) {
@@ -96,13 +99,6 @@ TEST(RgbColor, ChangingAComponentMakesItOpaque) {
   color.SetR(5);
   EXPECT_EQ(color.GetA(), 255);
   EXPECT_EQ(Resolved(color), 0x030205u);
-}
-
-TEST(RgbColor, TakesWhatASkinColorResolvesTo) {
-  const SkinManagerColor fallback(5UL);
-  EXPECT_EQ(Resolved(RGBColor(Unset(1, &fallback))), 5u);
-  EXPECT_TRUE(RGBColor().IsChanged());
-  EXPECT_TRUE(RGBColor(7).GetPlatformColor() == 7);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "platform/SystemColors.h"
 #include "support/engine/StubImpl.h"
 
 namespace Wexa {
@@ -22,210 +23,199 @@ class CountingOwner : public StubImpl {
   void RefreshSkinColors() override { ++refreshes; }
 };
 
-class SkinChain : public testing::Test {
+class SkinTest : public testing::Test {
  protected:
-  SkinManager parent{SkinMode::Default};
-  SkinManager skin{SkinMode::Default};
+  ~SkinTest() override { SetSystemScheme(SystemScheme::Light); }
+
+  std::unique_ptr<SkinManager> parent_ = std::make_unique<SkinManager>(SkinMode::Default);
+  CountingOwner owner_;
+  SkinManager skin_{&owner_, SkinMode::Default};
 };
 
-TEST_F(SkinChain, UnsetSlotsFollowTheParent) {
-  skin.InitSkinManager(&parent, SkinMode::Default);
-  parent.Slot(2) = 0x010101;
-  EXPECT_EQ(Resolved(skin, 2), 0x010101u);
-  EXPECT_TRUE(skin.Slot(2).IsChanged());
-  parent.Slot(2) = 0x020202;
-  EXPECT_EQ(Resolved(skin, 2), 0x020202u);
-  skin.Slot(2) = 0x030303;
-  EXPECT_EQ(Resolved(skin, 2), 0x030303u);
+// -- Chains
+
+TEST_F(SkinTest, UnsetSlotsFollowTheParent) {
+  skin_.InitSkinManager(parent_.get(), SkinMode::Default);
+  parent_->Slot(0) = 0x010101;
+  EXPECT_EQ(Resolved(skin_, 0), 0x010101u);
+  EXPECT_TRUE(skin_.Slot(0).IsChanged());
+  EXPECT_TRUE(skin_.Slot(0) == 0) << "comparisons see the slot's own default";
+  parent_->Slot(0) = 0x020202;
+  EXPECT_EQ(Resolved(skin_, 0), 0x020202u);
+  skin_.Slot(0) = 0x030303;
+  EXPECT_EQ(Resolved(skin_, 0), 0x030303u);
 }
 
-TEST_F(SkinChain, ComparisonsSeeTheSlotsOwnDefault) {
-  skin.InitSkinManager(&parent, SkinMode::Default);
-  parent.Slot(0) = 0x010101;
-  EXPECT_TRUE(skin.Slot(0) == 0);
+TEST_F(SkinTest, XmlCopiesTheParentAndStaysLinked) {
+  parent_->Slot(56) = 0x010101;
+  ASSERT_TRUE(skin_.InitSkinManager(parent_.get(), SkinMode::XML));
+  EXPECT_TRUE(skin_.Slot(56) == 0x010101);
+  parent_->Slot(56) = 0x020202;
+  EXPECT_EQ(Resolved(skin_, 56), 0x020202u);
+  skin_.LoadXMLSkin(true);
+  parent_->Slot(56) = 0x030303;
+  EXPECT_EQ(Resolved(skin_, 56), 0x020202u);
 }
 
-TEST_F(SkinChain, SetSkinModeDetaches) {
-  skin.InitSkinManager(&parent, SkinMode::Default);
-  parent.Slot(2) = 0x010101;
-  EXPECT_TRUE(skin.SetSkinMode(SkinMode::Dark));
-  EXPECT_EQ(Resolved(skin, 2), 0x333333u);
-  EXPECT_EQ(&skin.GetParentSkinManager(), &skin);
+TEST_F(SkinTest, ANewParentCountsFromTheNextLoadOn) {
+  parent_->Slot(2) = 0x010101;
+  skin_.SetParentSkinManager(parent_.get());
+  EXPECT_EQ(Resolved(skin_, 2), 0xFFFFFFu);
+  skin_.LoadDefaultSkin(false);
+  EXPECT_EQ(Resolved(skin_, 2), 0x010101u);
 }
 
-TEST_F(SkinChain, XmlCopiesTheParentAndStaysLinked) {
-  parent.Slot(56) = 0x010101;
-  ASSERT_TRUE(skin.InitSkinManager(&parent, SkinMode::XML));
-  EXPECT_TRUE(skin.Slot(56) == 0x010101);
-  parent.Slot(56) = 0x020202;
-  EXPECT_EQ(Resolved(skin, 56), 0x020202u);
-  skin.LoadXMLSkin(true);
-  parent.Slot(56) = 0x030303;
-  EXPECT_EQ(Resolved(skin, 56), 0x020202u);
+TEST_F(SkinTest, AfterDetachingNothingFollowsTheParent) {
+  skin_.InitSkinManager(parent_.get(), SkinMode::Default);
+  parent_->Slot(2) = 0x010101;
+  parent_->Slot(37) = 0x010203;
+  EXPECT_TRUE(skin_.SetSkinMode(SkinMode::Dark));
+  EXPECT_EQ(&skin_.GetParentSkinManager(), &skin_);
+  EXPECT_EQ(Resolved(skin_, 2), 0x333333u);
+  parent_->Slot(37) = 0x040506;
+  EXPECT_EQ(Resolved(skin_, 37), 0x010203u) << "what the palette leaves shows what it showed";
 }
 
-TEST_F(SkinChain, ANewParentCountsFromTheNextLoadOn) {
-  parent.Slot(2) = 0x010101;
-  skin.SetParentSkinManager(&parent);
-  EXPECT_EQ(Resolved(skin, 2), 0xFFFFFFu);
-  skin.LoadDefaultSkin(false);
-  EXPECT_EQ(Resolved(skin, 2), 0x010101u);
+TEST_F(SkinTest, SlotsThatAPaletteLeavesUntouchedMoveToTheNewParent) {
+  SkinManager other(SkinMode::Default);
+  other.Slot(37) = 0x040506;
+  skin_.InitSkinManager(parent_.get(), SkinMode::Default);
+  skin_.InitSkinManager(&other, SkinMode::Dark);
+  EXPECT_EQ(Resolved(skin_, 37), 0x040506u);
 }
 
-TEST_F(SkinChain, ItsOwnParentIsInitialisedOnce) {
-  EXPECT_TRUE(skin.InitSkinManager(&skin, SkinMode::Dark));
-  EXPECT_EQ(Resolved(skin, 2), 0x333333u);
-  EXPECT_TRUE(skin.InitSkinManager(&skin, SkinMode::Default));
-  EXPECT_EQ(skin.GetSkinMode(), SkinMode::Dark);
-  skin.ResetInitilization();
-  skin.InitSkinManager(&skin, SkinMode::Default);
-  EXPECT_EQ(skin.GetSkinMode(), SkinMode::Default);
+TEST_F(SkinTest, ItsOwnParentIsInitialisedOnce) {
+  EXPECT_TRUE(skin_.InitSkinManager(&skin_, SkinMode::Dark));
+  EXPECT_EQ(Resolved(skin_, 2), 0x333333u);
+  EXPECT_TRUE(skin_.InitSkinManager(&skin_, SkinMode::Default));
+  EXPECT_EQ(skin_.GetSkinMode(), SkinMode::Dark);
+  skin_.ResetInitilization();
+  skin_.InitSkinManager(&skin_, SkinMode::Default);
+  EXPECT_EQ(skin_.GetSkinMode(), SkinMode::Default);
 }
 
-TEST_F(SkinChain, RingsOfParentsEnd) {
-  skin.InitSkinManager(&parent, SkinMode::Default);
-  parent.InitSkinManager(&skin, SkinMode::Default);
-  EXPECT_EQ(Resolved(skin, 2), 0xFFFFFFu);
-  EXPECT_FALSE(skin.Slot(2).IsChanged());
-  skin.SetParentSkinManager(&skin);
-  skin.LoadDarkSkin(false);
-  EXPECT_EQ(Resolved(skin, 2), 0x333333u);
+TEST_F(SkinTest, RingsOfParentsEnd) {
+  skin_.InitSkinManager(parent_.get(), SkinMode::Default);
+  parent_->InitSkinManager(&skin_, SkinMode::Default);
+  EXPECT_EQ(Resolved(skin_, 2), 0xFFFFFFu);
+  EXPECT_FALSE(skin_.Slot(2).IsChanged());
+}
+
+TEST_F(SkinTest, FamiliesMayGoInAnyOrder) {
+  auto child = std::make_unique<SkinManager>(SkinMode::Default);
+  auto grandchild = std::make_unique<SkinManager>(SkinMode::Default);
+  child->InitSkinManager(parent_.get(), SkinMode::Default);
+  grandchild->InitSkinManager(child.get(), SkinMode::Default);
+  skin_.InitSkinManager(child.get(), SkinMode::Default);
+  parent_->Slot(2) = 0x010203;
+  child.reset();
+  EXPECT_EQ(Resolved(*grandchild, 2), 0x010203u);
+  grandchild.reset();
+  parent_.reset();
+  EXPECT_EQ(Resolved(skin_, 2), 0x010203u) << "an orphan keeps the colours it shows";
+  EXPECT_EQ(&skin_.GetParentSkinManager(), &skin_);
+}
+
+TEST_F(SkinTest, AReloadFollowsTheSystemAndKeepsExplicitColors) {
+  skin_.InitSkinManager(parent_.get(), SkinMode::Dark);
+  parent_->SetSkinMode(SkinMode::Dark);
+  parent_->Slot(3) = 0x040506;
+  skin_.Slot(2) = 0x010203;
+  for (const SystemScheme scheme : {SystemScheme::HighContrast, SystemScheme::Light}) {
+    SetSystemScheme(scheme);
+    const bool contrast = scheme == SystemScheme::HighContrast;
+    parent_->ReloadPalette();
+    skin_.ReloadPalette();
+    EXPECT_EQ(skin_.GetSkinMode(), contrast ? SkinMode::HCMDark : SkinMode::Dark);
+    EXPECT_EQ(Resolved(skin_, 11), contrast ? GetSysColor(COLOR_BTNFACE) : 0x333333u);
+    EXPECT_EQ(Resolved(skin_, 2), 0x010203u);
+    EXPECT_EQ(Resolved(skin_, 3), 0x040506u);
+  }
+  parent_->Slot(3) = 0x070809;
+  EXPECT_EQ(Resolved(skin_, 3), 0x070809u) << "the parent's colour is not its own";
 }
 
 // -- Locks
-// -------------------------------------------------------------------------------------------
 
-TEST(SkinLocks, LockedSlotsTakeNumbersOnly) {
-  SkinManager skin(SkinMode::Default);
-  skin.LoadSkin(SkinMode::Default, true, false);
-  skin.Slot(2) = SkinManagerColor(0x010101);
-  EXPECT_EQ(Resolved(skin, 2), 0xFFFFFFu);
-  skin.Slot(2) = 0x020202;
-  EXPECT_EQ(Resolved(skin, 2), 0x020202u);
-}
-
-TEST(SkinLocks, AFailedLoadSetsTheLocksOfTheNextPalette) {
-  SkinManager skin(SkinMode::Default);
-  skin.LoadSkin(SkinMode::Custom, true, false);
-  skin.LoadDefaultSkin(false);
-  skin.Slot(2) = SkinManagerColor(0x010101);
-  EXPECT_EQ(Resolved(skin, 2), 0xFFFFFFu);
+TEST_F(SkinTest, LockedSlotsTakeNumbersAndWholeSkinsOnly) {
+  skin_.LoadSkin(SkinMode::Custom, true, false);  // counts for the next palette
+  skin_.LoadDefaultSkin(false);
+  skin_.Slot(2) = SkinManagerColor(0x010101);
+  EXPECT_EQ(Resolved(skin_, 2), 0xFFFFFFu);
+  skin_.Slot(2) = 0x020202;
+  EXPECT_EQ(Resolved(skin_, 2), 0x020202u);
+  skin_.SetCustomSkin(SkinManager(SkinMode::Dark));
+  EXPECT_EQ(Resolved(skin_, 2), 0x333333u);
 }
 
 // -- Notification
-// ------------------------------------------------------------------------------------
 
-TEST(SkinChanges, EveryExplicitChangeTellsTheOwner) {
-  CountingOwner owner;
-  SkinManager skin(&owner, SkinMode::Default);
-  skin.Slot(2) = 1;
-  skin.Slot(2) = SkinManagerColor(2);
-  skin.Slot(2) + SkinManagerColor(1);
-  skin.Slot(2) - SkinManagerColor(1);
-  skin.Slot(2) & 0xFFFFUL;
-  skin.Slot(69) = 1;
-  EXPECT_EQ(owner.changes, 6);
-  EXPECT_TRUE(skin.GetColorChangeFlag());
-}
-
-TEST(SkinChanges, LoadingAndUnsetColorsTellNobody) {
-  CountingOwner owner;
-  SkinManager skin(&owner, SkinMode::Default);
-  skin.SetSkinMode(SkinMode::Dark);
-  skin.Slot(2) = SkinManagerColor();
-  skin.SetColorChangeFlag(false);
-  EXPECT_EQ(owner.changes, 0);
-  EXPECT_FALSE(skin.GetColorChangeFlag());
-  EXPECT_FALSE(skin.Slot(2).IsChanged());
-}
-
-TEST(SkinChanges, TheOwnerRefreshesOnceBeforePainting) {
-  CountingOwner owner;
-  SkinManager skin(&owner, SkinMode::Default);
-  skin.Slot(2) = 1;
-  skin.Slot(3) = 1;
-  skin.UpdateCustomColors();
-  skin.UpdateCustomColors();
-  EXPECT_EQ(owner.refreshes, 1);
+TEST_F(SkinTest, ExplicitChangesTellTheOwner) {
+  skin_.Slot(2) = 1;
+  skin_.Slot(2) = SkinManagerColor(2);
+  skin_.Slot(2) + SkinManagerColor(1);
+  skin_.Slot(2) - SkinManagerColor(1);
+  skin_.Slot(2) & 0xFFFFUL;
+  skin_.Slot(69) = 1;
+  EXPECT_EQ(owner_.changes, 6);
+  EXPECT_TRUE(skin_.GetColorChangeFlag());
+  skin_.UpdateCustomColors();
+  skin_.UpdateCustomColors();
+  EXPECT_EQ(owner_.refreshes, 1);
+  skin_.SetSkinMode(SkinMode::Dark);
+  skin_.Slot(2) = SkinManagerColor();
+  EXPECT_EQ(owner_.changes, 6) << "palettes and unset colours tell nobody";
+  EXPECT_FALSE(skin_.GetColorChangeFlag());
+  EXPECT_FALSE(skin_.Slot(2).IsChanged());
 }
 
 // -- Copies
-// ------------------------------------------------------------------------------------------
 
-TEST(SkinCopies, ACopySpeaksForItself) {
-  CountingOwner owner;
-  SkinManager skin(&owner, SkinMode::Default);
-  SkinManager copy(skin);
+TEST_F(SkinTest, ACopySpeaksForItself) {
+  SkinManager copy(skin_);
   copy.Slot(2) = 1;
-  EXPECT_EQ(owner.changes, 0);
-  EXPECT_FALSE(skin.GetColorChangeFlag());
+  EXPECT_EQ(owner_.changes, 0);
+  EXPECT_FALSE(skin_.GetColorChangeFlag());
   EXPECT_TRUE(copy.GetColorChangeFlag());
   EXPECT_EQ(copy.GetPtr(), &copy);
 }
 
-TEST(SkinCopies, ACopyOutlivesItsSource) {
+TEST_F(SkinTest, CopiesShowAllOfASkinThatFollowsAnother) {
   auto source = std::make_unique<SkinManager>(SkinMode::Dark);
-  source->Slot(2) = 0x010101;
+  source->InitSkinManager(parent_.get(), SkinMode::Dark);
+  source->Slot(3) = 0x030303;
   SkinManager copy(*source);
-  CountingOwner owner;
-  SkinManager custom(&owner, SkinMode::Default);
-  custom.SetCustomSkin(*source);
+  skin_.SetCustomSkin(*source);
+  EXPECT_EQ(skin_.GetSkinMode(), SkinMode::Custom);
+  EXPECT_EQ(owner_.changes, 1);
   source.reset();
-  owner.changes = 0;
-  copy.Slot(3) = 1;
-  copy.AssignColor(SkinMap::Buttons, L"Accent_color", 2UL);
-  custom.Slot(3) = 1;
+  parent_->Slot(2) = 0x010101;
+  for (const SkinManager* each : {&copy, &skin_}) {
+    EXPECT_EQ(Resolved(*each, 2), 0x010101u);
+    EXPECT_EQ(Resolved(*each, 3), 0x030303u);
+  }
+  parent_.reset();
   EXPECT_EQ(Resolved(copy, 2), 0x010101u);
-  EXPECT_EQ(Resolved(custom, 2), 0x010101u);
-  EXPECT_EQ(custom.GetSkinMode(), SkinMode::Custom);
-  EXPECT_EQ(owner.changes, 1);
+  EXPECT_EQ(Resolved(skin_, 2), 0x010101u);
+  SetSystemScheme(SystemScheme::HighContrast);
+  skin_.ReloadPalette();
+  EXPECT_EQ(Resolved(skin_, 2), 0x010101u) << "no palette is loaded over a custom skin";
 }
 
-TEST(SkinCopies, TakingOverSetColorsTellsTheOwner) {
-  CountingOwner owner;
-  SkinManager skin(&owner, SkinMode::Default);
-  SkinManager source(SkinMode::Dark);
-  source.Slot(2) = 1;
-  source.SetColorChangeFlag(false);
-  skin.SetCustomSkin(source);
-  EXPECT_GT(owner.changes, 0);
-  EXPECT_TRUE(skin.GetColorChangeFlag());
-}
-
-TEST(SkinCopies, ACustomSkinLetsGoOfTheFormerParent) {
-  auto parent = std::make_unique<SkinManager>(SkinMode::Dark);
-  SkinManager skin(SkinMode::Default);
-  skin.InitSkinManager(parent.get(), SkinMode::Default);
-  skin.SetCustomSkin(SkinManager(SkinMode::Default));
-  parent.reset();
-  EXPECT_EQ(Resolved(skin, 2), 0xFFFFFFu);
-}
-
-TEST(SkinCopies, ACustomSkinLeavesLockedSlots) {
-  SkinManager skin(SkinMode::Default);
-  skin.LoadSkin(SkinMode::Default, true, false);
-  skin.SetCustomSkin(SkinManager(SkinMode::Dark));
-  EXPECT_EQ(Resolved(skin, 2), 0xFFFFFFu);
-  EXPECT_EQ(skin.GetSkinMode(), SkinMode::Custom);
-}
-
-TEST(SkinCopies, AChildAsCustomSkinMakesNoRing) {
-  SkinManager parent(SkinMode::Default);
+TEST_F(SkinTest, ASkinThatFollowsThisOneMakesNoRing) {
   SkinManager child(SkinMode::Default);
-  child.InitSkinManager(&parent, SkinMode::Dark);
-  parent.SetCustomSkin(child);
-  EXPECT_EQ(&parent.GetParentSkinManager(), &parent);
-  EXPECT_EQ(Resolved(parent, 2), 0x333333u);
+  child.InitSkinManager(&skin_, SkinMode::Dark);
+  skin_.Slot(2) = 0x010101;
+  child.Slot(3) = 0x020202;
+  skin_.SetCustomSkin(child);
+  EXPECT_EQ(&skin_.GetParentSkinManager(), &skin_);
+  EXPECT_EQ(Resolved(skin_, 2), 0x010101u);
+  EXPECT_EQ(Resolved(skin_, 3), 0x020202u);
 }
 
-TEST(SkinSlots, NumbersOutsideAreRefused) {
-  SkinManager skin(SkinMode::Default);
-  EXPECT_THROW(skin.Slot(-1), std::out_of_range);
-  EXPECT_THROW(skin.Slot(122), std::out_of_range);
-}
-
-TEST(SkinSlots, ASkinIsSmall) {
-  EXPECT_LE(sizeof(SkinManager), 3 * 1024u);
+TEST_F(SkinTest, NumbersOutsideAreRefused) {
+  EXPECT_THROW(skin_.Slot(-1), std::out_of_range);
+  EXPECT_THROW(skin_.Slot(122), std::out_of_range);
 }
 
 }  // namespace
