@@ -46,6 +46,8 @@ enum class FramePart { None, Caption, Close, Border };
 
 // The colour so many percent of the way from one to the other.
 COLORREF MixColors(COLORREF from, COLORREF to, int percent);
+// How much two colours differ in brightness, from 1 to 21: text needs 4.5, in high contrast 7.
+double Contrast(COLORREF a, COLORREF b);
 // The system-colour palette of a control on a dialog.
 ControlPalette SystemPalette();
 

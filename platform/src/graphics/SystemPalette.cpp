@@ -1,7 +1,30 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
 #include "platform/SystemColors.h"
 #include "platform/Theme.h"
 
 namespace {
+
+std::array<double, 256> LinearLevels() {
+  std::array<double, 256> levels{};
+  for (std::size_t i = 0; i < levels.size(); ++i) {
+    const double c = static_cast<double>(i) / 255.0;
+    levels[i] = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+  }
+  return levels;
+}
+
+double Linear(BYTE channel) {
+  static const auto levels = LinearLevels();
+  return levels[channel];
+}
+
+double Luminance(COLORREF color) {
+  return 0.2126 * Linear(GetRValue(color)) + 0.7152 * Linear(GetGValue(color)) +
+         0.0722 * Linear(GetBValue(color));
+}
 
 BYTE MixChannel(BYTE from, BYTE to, int percent) {
   return static_cast<BYTE>((from * (100 - percent) + to * percent + 50) / 100);
@@ -47,6 +70,13 @@ COLORREF MixColors(COLORREF from, COLORREF to, int percent) {
   return RGB(MixChannel(GetRValue(from), GetRValue(to), percent),
              MixChannel(GetGValue(from), GetGValue(to), percent),
              MixChannel(GetBValue(from), GetBValue(to), percent));
+}
+
+double Contrast(COLORREF a, COLORREF b) {
+  constexpr double kFlare = 0.05;
+  const double first = Luminance(a) + kFlare;
+  const double second = Luminance(b) + kFlare;
+  return std::max(first, second) / std::min(first, second);
 }
 
 ControlPalette SystemPalette() {

@@ -1,9 +1,5 @@
 #include "MFC/base/WidgetColors.h"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-
 #include "SkinManager.h"
 #include "platform/Theme.h"
 
@@ -11,23 +7,26 @@ namespace Wexa {
 
 namespace {
 
-std::array<double, 256> LinearLevels() {
-  std::array<double, 256> levels{};
-  for (std::size_t i = 0; i < levels.size(); ++i) {
-    const double c = static_cast<double>(i) / 255.0;
-    levels[i] = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-  }
-  return levels;
+bool IsHighContrast(const SkinManager& skin) {
+  return skin.GetSkinMode() == SkinMode::HCMDark;
 }
 
-double Linear(BYTE channel) {
-  static const auto levels = LinearLevels();
-  return levels[channel];
+// The slot's colour for what lies under a text, moved away from the text as far as that needs.
+COLORREF ReadableGround(const SkinManager& skin, int slot, COLORREF text) {
+  constexpr COLORREF kBlack = RGB(0, 0, 0);
+  constexpr COLORREF kWhite = RGB(255, 255, 255);
+  const COLORREF end = Contrast(kBlack, text) > Contrast(kWhite, text) ? kBlack : kWhite;
+  return ReadableTint(skin, slot, end, text, kReadable);
 }
 
-double Luminance(COLORREF color) {
-  return 0.2126 * Linear(GetRValue(color)) + 0.7152 * Linear(GetGValue(color)) +
-         0.0722 * Linear(GetBValue(color));
+// The slot's colour, brought as far away from the ground as a border needs.
+COLORREF DisabledBorder(const ControlPalette& palette, const SkinManager& skin, int slot) {
+  return ReadableTint(skin, slot, palette.disabledText, palette.background, kFaintlyVisible);
+}
+
+// The slot's colour where somebody set it.
+COLORREF SetColor(const SkinManager& skin, int slot, COLORREF otherwise) {
+  return skin.Slot(slot).IsChanged() ? SlotColor(skin, slot) : otherwise;
 }
 
 // A palette without a face of its own for pressed buttons lends them the accent.
@@ -41,17 +40,31 @@ void FillPressedButton(ControlPalette& palette, const SkinManager& skin) {
   palette.pressedText = palette.accentText;
 }
 
+// A disabled button differs from an enabled one, and its border from that under the pointer.
+void FillDisabledButton(ControlPalette& palette, const SkinManager& skin) {
+  palette.disabledFace = SlotColor(skin, Slot::kButtonDisabledFace);
+  if (!skin.Slot(Slot::kButtonDisabledFace).IsChanged() && palette.disabledFace == palette.face)
+    palette.disabledFace = palette.background;
+  palette.disabledText = FaintColor(skin, Slot::kButtonDisabledText, palette.text,
+                                    palette.disabledFace, kFaintlyReadable);
+  palette.disabledBorder = DisabledBorder(palette, skin, Slot::kButtonDisabledBorder);
+  if (!skin.Slot(Slot::kButtonDisabledBorder).IsChanged() &&
+      palette.disabledBorder == palette.hoverBorder)
+    palette.disabledBorder = palette.disabledText;
+}
+
+// The palettes have one for buttons, which can be dimmer than a check box at rest.
+COLORREF CheckHoverBorder(const ControlPalette& palette, const SkinManager& skin) {
+  const COLORREF color = SlotColor(skin, Slot::kButtonHoverBorder);
+  const bool stands = skin.Slot(Slot::kButtonHoverBorder).IsChanged() || IsHighContrast(skin) ||
+                      Contrast(color, palette.face) >= Contrast(palette.border, palette.face);
+  return stands ? color : SlotColor(skin, Slot::kButtonText);
+}
+
 }  // namespace
 
 COLORREF SlotColor(const SkinManager& skin, int slot) {
   return static_cast<COLORREF>(static_cast<unsigned long>(skin.Slot(slot)));
-}
-
-double Contrast(COLORREF a, COLORREF b) {
-  constexpr double kFlare = 0.05;
-  const double first = Luminance(a) + kFlare;
-  const double second = Luminance(b) + kFlare;
-  return std::max(first, second) / std::min(first, second);
 }
 
 COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORREF face) {
@@ -71,11 +84,13 @@ COLORREF ReadableTint(const SkinManager& skin, int slot, COLORREF text, COLORREF
   return tint;
 }
 
-COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face) {
+COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face, double least) {
   constexpr int kFaint = 40;
+  constexpr double kApart = 1.8;
   const COLORREF color = SlotColor(skin, slot);
-  const bool fits = color != text && Contrast(color, face) >= kReadable;
-  return skin.Slot(slot).IsChanged() || fits ? color : MixColors(text, face, kFaint);
+  if (skin.Slot(slot).IsChanged() || IsHighContrast(skin)) return color;
+  const bool fits = Contrast(color, text) >= kApart && Contrast(color, face) >= least;
+  return fits ? color : MixColors(text, face, kFaint);
 }
 
 COLORREF DialogBackground(const SkinManager& skin) {
@@ -91,7 +106,8 @@ void FillCommonPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.face = palette.background;
   palette.disabledFace = palette.background;
   palette.text = SlotColor(skin, Slot::kDialogText);
-  palette.disabledText = SlotColor(skin, Slot::kLabelDisabledText);
+  palette.disabledText = FaintColor(skin, Slot::kLabelDisabledText, palette.text,
+                                    palette.background, kFaintlyReadable);
   palette.border = SlotColor(skin, Slot::kGroupBorder);
   palette.disabledBorder = palette.border;
   palette.hoverFace = palette.face;
@@ -100,22 +116,20 @@ void FillCommonPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.pressedText = palette.text;
   palette.accent = SlotColor(skin, Slot::kButtonAccent);
   palette.accentText = ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace, palette.accent);
-  palette.selection = SlotColor(skin, Slot::kSelection);
-  palette.selectionText =
-      ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace, palette.selection);
+  palette.selectionText = ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace,
+                                        SlotColor(skin, Slot::kSelection));
+  palette.selection = ReadableGround(skin, Slot::kSelection, palette.selectionText);
 }
 
 void FillButtonPalette(ControlPalette& palette, const SkinManager& skin) {
   FillCommonPalette(palette, skin);
   palette.face = SlotColor(skin, Slot::kButtonFace);
   palette.hoverFace = palette.face;
-  palette.disabledFace = SlotColor(skin, Slot::kButtonDisabledFace);
   palette.text = SlotColor(skin, Slot::kButtonText);
   FillPressedButton(palette, skin);
-  palette.disabledText = SlotColor(skin, Slot::kButtonDisabledText);
   palette.border = SlotColor(skin, Slot::kButtonBorder);
   palette.hoverBorder = SlotColor(skin, Slot::kButtonHoverBorder);
-  palette.disabledBorder = SlotColor(skin, Slot::kButtonDisabledBorder);
+  FillDisabledButton(palette, skin);
 }
 
 void FillCheckPalette(ControlPalette& palette, const SkinManager& skin) {
@@ -123,12 +137,12 @@ void FillCheckPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.face = SlotColor(skin, Slot::kCheckFace);
   palette.hoverFace = palette.face;
   palette.pressedFace = palette.face;
-  palette.disabledFace = palette.face;
-  palette.text = ReadableColor(skin, Slot::kCheckText, Slot::kDialogText, palette.background);
-  palette.disabledText = SlotColor(skin, Slot::kCheckDisabledText);
+  palette.disabledFace = SetColor(skin, Slot::kCheckFace, palette.background);
+  palette.text = SetColor(skin, Slot::kCheckText, palette.text);
+  palette.disabledText = SetColor(skin, Slot::kCheckDisabledText, palette.disabledText);
   palette.border = SlotColor(skin, Slot::kCheckBorder);
-  palette.hoverBorder = SlotColor(skin, Slot::kButtonHoverBorder);
-  palette.disabledBorder = SlotColor(skin, Slot::kCheckDisabledBorder);
+  palette.hoverBorder = CheckHoverBorder(palette, skin);
+  palette.disabledBorder = DisabledBorder(palette, skin, Slot::kCheckDisabledBorder);
 }
 
 void FillInputPalette(ControlPalette& palette, const SkinManager& skin) {
@@ -139,13 +153,19 @@ void FillInputPalette(ControlPalette& palette, const SkinManager& skin) {
   palette.disabledFace = palette.background;
   palette.text = SlotColor(skin, Slot::kInputText);
   palette.pressedText = palette.text;
-  palette.disabledText =
-      FaintColor(skin, Slot::kInputDisabledText, palette.text, palette.disabledFace);
-  palette.placeholder = FaintColor(skin, Slot::kPlaceholder, palette.text, palette.face);
+  palette.disabledText = FaintColor(skin, Slot::kInputDisabledText, palette.text,
+                                    palette.disabledFace, kFaintlyReadable);
+  palette.placeholder = FaintColor(skin, Slot::kPlaceholder, palette.text, palette.face, kReadable);
   palette.border = SlotColor(skin, Slot::kInputBorder);
   palette.hoverBorder = SlotColor(skin, Slot::kInputHoverBorder);
-  palette.disabledBorder = SlotColor(skin, Slot::kInputDisabledBorder);
+  palette.disabledBorder = DisabledBorder(palette, skin, Slot::kInputDisabledBorder);
   palette.accent = SlotColor(skin, Slot::kInputFocusBorder);
+}
+
+void FillProgressPalette(ControlPalette& palette, const SkinManager& skin) {
+  FillInputPalette(palette, skin);
+  palette.accentText = ReadableColor(skin, Slot::kSelectionText, Slot::kInputFace, palette.accent);
+  palette.accent = ReadableGround(skin, Slot::kInputFocusBorder, palette.accentText);
 }
 
 void FillLinkPalette(ControlPalette& palette, const SkinManager& skin) {

@@ -55,13 +55,13 @@ inline constexpr int kTipText = 119;
 inline constexpr int kTipBorder = 91;
 }  // namespace Slot
 
-// Contrasts that texts need: enabled ones, and those that are only to be made out.
-inline constexpr double kReadable = 4.5;
+// Contrasts that texts need, with a margin: enabled ones, and those that are only to be made out.
+inline constexpr double kReadable = 4.95;
 inline constexpr double kFaintlyReadable = 3;
+// What borders of disabled parts need to the ground.
+inline constexpr double kFaintlyVisible = 1.5;
 
 COLORREF SlotColor(const SkinManager& skin, int slot);
-// How much two colours differ in brightness, from 1 to 21: text needs 4.5, in high contrast 7.
-double Contrast(COLORREF a, COLORREF b);
 // The slot's colour for a text on `face`. Where the palette makes that hard to read and nobody set
 // the slot, the other slot's colour if that is easier.
 COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORREF face);
@@ -69,9 +69,10 @@ COLORREF ReadableColor(const SkinManager& skin, int slot, int otherwise, COLORRE
 // far towards `text` as that takes.
 COLORREF ReadableTint(const SkinManager& skin, int slot, COLORREF text, COLORREF face,
                       double least);
-// The slot's colour for what must not look like `text`: where the palette gives both the same
-// colour, or one hard to read, and nobody set the slot, one between the text and its face.
-COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face);
+// The slot's colour for what must not look like `text`. Where the palette gives both nearly the
+// same colour, or one that differs from `face` by less than `least`, and nobody set the slot, one
+// between the text and its face.
+COLORREF FaintColor(const SkinManager& skin, int slot, COLORREF text, COLORREF face, double least);
 COLORREF DialogBackground(const SkinManager& skin);
 // Between 0x00RRGGBB and 0x00BBGGRR.
 COLORREF SwapRedAndBlue(int color);
@@ -82,6 +83,8 @@ void FillCommonPalette(ControlPalette& palette, const SkinManager& skin);
 void FillButtonPalette(ControlPalette& palette, const SkinManager& skin);
 void FillCheckPalette(ControlPalette& palette, const SkinManager& skin);
 void FillInputPalette(ControlPalette& palette, const SkinManager& skin);
+// The fill is the accent.
+void FillProgressPalette(ControlPalette& palette, const SkinManager& skin);
 // The faces carry the link's colours: text at rest, pressedText, hoverFace, disabledText.
 void FillLinkPalette(ControlPalette& palette, const SkinManager& skin);
 

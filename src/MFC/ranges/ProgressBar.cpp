@@ -55,7 +55,7 @@ class ProgressBar::impl : public PaintedImpl {
   }
 
   void FillPalette(ControlPalette& palette) override {
-    FillInputPalette(palette, GetSkinManager());
+    FillProgressPalette(palette, GetSkinManager());
     if (GetCWnd()->IsWindowEnabled()) return;
     palette.accent = palette.disabledBorder;
     palette.text = palette.disabledText;
