@@ -18,7 +18,7 @@ class WEXA_API Edit : public BaseGUIObject {
   Edit();
   ~Edit() override;
 
-  // Fired with the new text by every change, and by those of the user.
+  // Fired with the new text: TextEdited by the user's changes, then TextChanged by every one.
   CallbackList<std::wstring> TextChanged;
   CallbackList<std::wstring> TextEdited;
   // Fired when the focus leaves the edit.
@@ -28,6 +28,7 @@ class WEXA_API Edit : public BaseGUIObject {
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
+  // Values beyond those of the enumeration count as Right.
   virtual void SetTextAlign(TextAlign align);
   virtual void SetSelectAll();
   virtual void SetFocus();

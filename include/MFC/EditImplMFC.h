@@ -42,6 +42,7 @@ class Edit::impl : public BaseImplMFC {
   class EditMFC;
 
   void ChangeStyle(DWORD remove, DWORD add);
+  Size SizeFor(int characters);
 
   std::unique_ptr<EditMFC> window_;
   std::wstring placeHolder_;

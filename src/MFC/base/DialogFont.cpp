@@ -54,6 +54,10 @@ HFONT DialogFont() {
   return font.GetSafeHandle();
 }
 
+int FieldHeight() {
+  return GetFontMetrics(DialogFont()).height * 14 / 8;
+}
+
 bool IsFontSet(const FontData& font) {
   return !font.faceName.empty() || font.pointSize > 0 || font.bold >= 0 || font.italic >= 0 ||
          font.underline >= 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "MFC/base/DialogFont.h"
 #include "MFC/base/WidgetColors.h"
 #include "platform/Painter.h"
 #include "platform/Theme.h"
@@ -30,7 +31,8 @@ COLORREF FieldImpl::TextColor(const ControlPalette& palette) {
 
 Size FieldImpl::LineSize(int textWidth) const {
   SIZE padding = Theme::FieldPadding();
-  return {textWidth + 2 * padding.cx, GetFontMetrics(Font()).height + 2 * padding.cy};
+  const int line = GetFontMetrics(Font()).height + 2 * padding.cy;
+  return {textWidth + 2 * padding.cx, std::max<int>(line, FieldHeight())};
 }
 
 void FieldImpl::Paint(Painter& painter, const CRect& client, const ControlPalette& palette) {

@@ -1,5 +1,8 @@
 #include "MFC/EditImplMFC.h"
 
+#include <algorithm>
+
+#include "MFC/base/DialogFont.h"
 #include "MFC/base/WidgetColors.h"
 #include "platform/ControlConstants.h"
 #include "platform/Theme.h"
@@ -11,6 +14,8 @@ namespace {
 constexpr wchar_t kPasswordCharacter = 0x25CF;
 constexpr int kIdealCharacters = 17;
 constexpr int kMinimumCharacters = 5;
+constexpr int kFrame = 2;
+constexpr int kCaretRoom = 4;  // device pixels
 constexpr DWORD kAlignmentMask = ES_CENTER | ES_RIGHT;
 
 // Raised while the program sets a text: its notifications are then not the user's.
@@ -63,16 +68,19 @@ bool Edit::impl::CreateNative(CWnd* parent) {
 }
 
 Size Edit::impl::IdealSize() {
-  FontMetrics metrics = GetFontMetrics(Font());
-  SIZE padding = Theme::FieldPadding();
-  return {metrics.averageWidth * kIdealCharacters + 2 * padding.cx,
-          metrics.height + 2 * padding.cy};
+  return SizeFor(kIdealCharacters).GetInflated(MinimumSize());
 }
 
 Size Edit::impl::MinimumIdealSize() {
-  SIZE padding = Theme::FieldPadding();
-  int width = GetFontMetrics(Font()).averageWidth * kMinimumCharacters + 2 * padding.cx;
-  return {width, IdealSize().Height()};
+  return SizeFor(kMinimumCharacters);
+}
+
+Size Edit::impl::SizeFor(int characters) {
+  const LRESULT margins = GetHandle() ? window_->SendMessage(EM_GETMARGINS) : 0;
+  const int frame = 2 * Scale(kFrame);
+  const SIZE x = GetTextExtent(Font(), L"x");
+  return {LOWORD(margins) + HIWORD(margins) + characters * x.cx + frame + kCaretRoom,
+          std::max(static_cast<int>(x.cy) + frame, FieldHeight())};
 }
 
 void Edit::impl::FillPalette(ControlPalette& palette) {
@@ -88,7 +96,10 @@ void Edit::impl::SetText(const std::wstring& text) {
 }
 
 void Edit::impl::SetTextAlign(TextAlign align) {
-  ChangeStyle(kAlignmentMask, static_cast<DWORD>(align) & kAlignmentMask);
+  const DWORD style = align == TextAlign::Left     ? 0
+                      : align == TextAlign::Center ? ES_CENTER
+                                                   : ES_RIGHT;
+  ChangeStyle(kAlignmentMask, style);
 }
 
 void Edit::impl::ChangeStyle(DWORD remove, DWORD add) {
@@ -130,7 +141,9 @@ void Edit::impl::SetPasswordMode(PasswordMode mode) {
 
 void Edit::impl::SetFrameMode(bool frame) {
   frame_ = frame;
-  if (!frame) ChangeStyle(WS_BORDER, 0);
+  if (frame) return;
+  ChangeStyle(WS_BORDER, 0);
+  if (GetHandle()) window_->ModifyStyleEx(WS_EX_CLIENTEDGE, 0, SWP_FRAMECHANGED);
 }
 
 void Edit::impl::OnNotify(int code) {
@@ -141,8 +154,8 @@ void Edit::impl::OnNotify(int code) {
   HWND window = GetHandle();
   std::wstring text = Text();
   bool byUser = !changedByProgram_;
-  owner.TextChanged(text);
-  if (byUser && IsWindow(window)) owner.TextEdited(text);
+  if (byUser) owner.TextEdited(text);
+  if (IsWindow(window)) owner.TextChanged(text);
 }
 
 }  // namespace Wexa
