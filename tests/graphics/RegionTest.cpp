@@ -101,7 +101,7 @@ TEST(Region, CombinesAndTellsTheKind) {
   EXPECT_FALSE(PtInRegion(result, 15, 5));
   EXPECT_EQ(CombineRgn(result, a, nullptr, RGN_COPY), SIMPLEREGION);
   EXPECT_TRUE(EqualRgn(result, a));
-  EXPECT_EQ(CombineRgn(a, a, b, 99), ERROR);
+  EXPECT_EQ(CombineRgn(a, a, b, 99), RGN_ERROR);
   for (HRGN region : {result, a, b}) EXPECT_TRUE(DeleteRgn(region));
 }
 
@@ -120,8 +120,8 @@ TEST(Region, StaleHandlesAreRecognised) {
   EXPECT_FALSE(DeleteRgn(region));
   EXPECT_FALSE(PtInRegion(region, 1, 1));
   EXPECT_FALSE(EqualRgn(region, region));
-  EXPECT_EQ(GetRgnBox(region, &box), ERROR);
-  EXPECT_EQ(CombineRgn(reused, reused, region, RGN_OR), ERROR);
+  EXPECT_EQ(GetRgnBox(region, &box), RGN_ERROR);
+  EXPECT_EQ(CombineRgn(reused, reused, region, RGN_OR), RGN_ERROR);
   EXPECT_TRUE(DeleteRgn(reused));
 }
 
@@ -145,7 +145,7 @@ TEST(CRgn, AssignmentDeletesWhatItHeld) {
   CRgn region(Rectangle(0, 0, 5, 5));
   HRGN old = region.GetSafeHandle();
   region = CRgn(Rectangle(0, 0, 1, 1));
-  EXPECT_EQ(GetRgnBox(old, nullptr), ERROR);
+  EXPECT_EQ(GetRgnBox(old, nullptr), RGN_ERROR);
   EXPECT_FALSE(DeleteRgn(old));
   EXPECT_TRUE(PtInRegion(region.GetSafeHandle(), 0, 0));
 }

@@ -10,8 +10,8 @@ inline constexpr int RGN_XOR = 3;
 inline constexpr int RGN_DIFF = 4;
 inline constexpr int RGN_COPY = 5;
 
-// The kind of a region; ERROR when an operand is no region.
-inline constexpr int ERROR = 0;
+// The kind of a region; RGN_ERROR when an operand is no region.
+inline constexpr int RGN_ERROR = 0;
 inline constexpr int NULLREGION = 1;
 inline constexpr int SIMPLEREGION = 2;
 inline constexpr int COMPLEXREGION = 3;

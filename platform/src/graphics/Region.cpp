@@ -65,12 +65,12 @@ HRGN CreateEllipticRgn(int left, int top, int right, int bottom) {
 }
 
 int CombineRgn(HRGN result, HRGN a, HRGN b, int mode) {
-  PixelRegion* target = Regions().Find(result);
-  const PixelRegion* first = Regions().Find(a);
-  const PixelRegion* second = Regions().Find(b);
-  if (!target || !first || (!second && mode != RGN_COPY)) return ERROR;
+  PixelRegion* target = Table().Find(result);
+  const PixelRegion* first = Table().Find(a);
+  const PixelRegion* second = Table().Find(b);
+  if (!target || !first || (!second && mode != RGN_COPY)) return RGN_ERROR;
   PixelRegion area = *first;
-  if (mode != RGN_COPY && !Combine(area, *second, mode)) return ERROR;
+  if (mode != RGN_COPY && !Combine(area, *second, mode)) return RGN_ERROR;
   *target = std::move(area);
   return Kind(*target);
 }
@@ -87,8 +87,8 @@ BOOL PtInRegion(HRGN region, int x, int y) {
 }
 
 int GetRgnBox(HRGN region, RECT* box) {
-  const PixelRegion* area = Regions().Find(region);
-  if (!area || !box) return ERROR;
+  const PixelRegion* area = Table().Find(region);
+  if (!area || !box) return RGN_ERROR;
   *box = area->Bounds();
   return Kind(*area);
 }
