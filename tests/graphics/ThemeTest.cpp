@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 
 #include "TestCanvas.h"
 #include "platform/SystemColors.h"
@@ -90,27 +91,19 @@ TEST(Theme, PartsStayInsideTheirRectangle) {
 }
 
 TEST(Theme, ButtonStatesLookDifferent) {
-  auto parts = AllParts();
+  const auto parts = AllParts();
   for (const char* name : {"button", "round", "check", "radio"}) {
-    const Part& part = Find(parts, name);
-    EXPECT_NE(Picture(part, kPlain), Picture(part, With(&ControlState::hovered))) << name;
-    EXPECT_NE(Picture(part, With(&ControlState::hovered)),
-              Picture(part, With(&ControlState::pressed)));
-    EXPECT_NE(Picture(part, kPlain), Picture(part, With(&ControlState::enabled, false))) << name;
+    std::set<std::vector<std::uint32_t>> looks;
+    for (auto state : {kPlain, With(&ControlState::hovered), With(&ControlState::pressed),
+                       With(&ControlState::enabled, false), ControlState{.check = 1}})
+      looks.insert(Picture(Find(parts, name), state));
+    const bool hasCheck = name == std::string_view("check") || name == std::string_view("radio");
+    EXPECT_EQ(looks.size(), hasCheck ? 5u : 4u) << name;
   }
   const Part& button = Find(parts, "button");
   EXPECT_NE(Picture(button, kPlain), Picture(button, With(&ControlState::isDefault)));
-}
-
-TEST(Theme, CheckStatesLookDifferent) {
-  auto parts = AllParts();
-  ControlState on;
-  on.check = 1;
-  ControlState partial;
-  partial.check = 2;
-  EXPECT_NE(Picture(Find(parts, "check"), on), Picture(Find(parts, "check"), kPlain));
-  EXPECT_NE(Picture(Find(parts, "check"), on), Picture(Find(parts, "check"), partial));
-  EXPECT_NE(Picture(Find(parts, "radio"), on), Picture(Find(parts, "radio"), kPlain));
+  const Part& check = Find(parts, "check");
+  EXPECT_NE(Picture(check, {.check = 1}), Picture(check, {.check = 2}));
 }
 
 TEST(Theme, RadioDotIsCentredAtEveryScale) {
@@ -152,11 +145,6 @@ TEST(Theme, ProgressFillsItsShare) {
     });
     EXPECT_EQ(canvas.Count(palette.accent), pixels);
   }
-}
-
-TEST(Theme, ButtonsAndFieldsAreEquallyHigh) {
-  EXPECT_EQ(Theme::PushButtonPadding().cy, Theme::FieldPadding().cy);
-  EXPECT_EQ(GetFontMetrics(nullptr).height + 2 * Theme::PushButtonPadding().cy, 23);
 }
 
 TEST(Theme, CloseButtonEndsTheCaption) {
