@@ -226,7 +226,7 @@ std::wstring Translator::TranslateUIText(const std::wstring& path, const std::ws
 
 const std::map<unsigned int, std::wstring>& Translator::TranslationsOf(
     const std::wstring& form) const {
-  static const FormLines kNone;
+  static const FormLines& kNone = *new FormLines;
   const auto found = unit_.GetMessageMap().find(form);
   return found == unit_.GetMessageMap().end() ? kNone : found->second;
 }
