@@ -1,8 +1,5 @@
 #include "MFC/EditImplMFC.h"
 
-#include <algorithm>
-
-#include "MFC/base/DialogFont.h"
 #include "MFC/base/WidgetColors.h"
 #include "platform/ControlConstants.h"
 #include "platform/Theme.h"
@@ -80,7 +77,7 @@ Size Edit::impl::SizeFor(int characters) {
   const int frame = 2 * Scale(kFrame);
   const SIZE x = GetTextExtent(Font(), L"x");
   return {LOWORD(margins) + HIWORD(margins) + characters * x.cx + frame + kCaretRoom,
-          std::max(static_cast<int>(x.cy) + frame, FieldHeight())};
+          x.cy + 2 * Theme::FieldPadding().cy};
 }
 
 void Edit::impl::FillPalette(ControlPalette& palette) {

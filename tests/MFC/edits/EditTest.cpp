@@ -2,6 +2,7 @@
 
 #include "MFC/BaseImplMFC.h"
 #include "platform/ControlConstants.h"
+#include "platform/Theme.h"
 #include "support/FormTest.h"
 
 namespace Wexa {
@@ -57,7 +58,7 @@ TEST_F(EditTest, TheFrameGoesAndDoesNotComeBack) {
 
 TEST_F(EditTest, ItsIdealSizeHoldsSeventeenLetters) {
   const SIZE x = GetTextExtent(ImplOf(&Subject())->Font(), L"x");
-  EXPECT_EQ(Subject().IdealSize(), Size(17 * x.cx + 8, x.cy * 14 / 8));
+  EXPECT_EQ(Subject().IdealSize(), Size(17 * x.cx + 8, x.cy + 2 * Theme::FieldPadding().cy));
   SendMessageW(Subject().GetPlatformHandle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN,
                MAKELPARAM(3, 5));
   EXPECT_EQ(Subject().IdealSize().Width(), 17 * x.cx + 16);
