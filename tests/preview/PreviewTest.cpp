@@ -81,18 +81,9 @@ TEST_F(PreviewTest, DumpLeavesOutWhatIsHiddenOrNameless) {
   EXPECT_THAT(widgets, SizeIs(2));
   EXPECT_EQ(widgets["stack"], json({10, 20, 100, 80}));
   EXPECT_TRUE(widgets.contains("shown"));
-}
-
-TEST_F(PreviewTest, ShowsThePagesAskedFor) {
-  tool_.Write("pages.ui", kPagesForm);
-  const auto widgets = [this](const std::string& options) {
-    const auto outcome = tool_.Run("--dump - pages.ui " + options);
-    EXPECT_EQ(outcome.status, 0) << outcome.errors;
-    return json::parse(outcome.output)["sizes"][0]["widgets"];
-  };
-  EXPECT_TRUE(widgets("--page stack=1").contains("hidden"));
-  EXPECT_FALSE(widgets("--page stack=1").contains("shown"));
-  EXPECT_THAT(widgets("--hidden"), SizeIs(3));
+  const json turned = Dump("--page stack=1 pages.ui")["sizes"][0]["widgets"];
+  EXPECT_TRUE(turned.contains("hidden") && !turned.contains("shown"));
+  EXPECT_THAT(Dump("--hidden pages.ui")["sizes"][0]["widgets"], SizeIs(3));
   EXPECT_THAT(tool_.Run("--dump - --page stack=2 pages.ui").errors, HasSubstr("no page 2"));
   EXPECT_THAT(tool_.Run("--dump - --page other=0 pages.ui").errors, HasSubstr("named other"));
   EXPECT_EQ(tool_.Run("--dump - --page stack pages.ui").status, 2);

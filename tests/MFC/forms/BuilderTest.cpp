@@ -188,7 +188,8 @@ TEST_F(BuilderTest, ChildrenOfContainersAreTheirsAndCountFromThem) {
 
 TEST_F(BuilderTest, PagesAndPanesAreAddedInTheirOrder) {
   const auto page = [](const std::string& name) {
-    return WidgetXml("QWidget", name, PropertyXml("text", "string", "") + AttributeXml("title", "of " + name));
+    return WidgetXml("QWidget", name,
+                     PropertyXml("text", "string", "") + AttributeXml("title", "of " + name));
   };
   Open(ColumnForm(
       WidgetItem("QTabWidget", "tabs", NumberXml("currentIndex", 1) + page("a") + page("b")) +
@@ -284,9 +285,9 @@ TEST_F(BuilderTest, FontsOfContainersCountForWhatIsInThem) {
       ItemXml(WidgetXml(
           "QGroupBox", "box",
           large + ColumnXml(label("inner", "") +
-                         label("own", FontXml("<bold>false</bold><underline>true</underline>")) +
-                         ItemXml(WidgetXml("QDialogButtonBox", "buttons",
-                                           PropertyXml("standardButtons", "set", "Ok"))))))));
+                            label("own", FontXml("<bold>false</bold><underline>true</underline>")) +
+                            ItemXml(WidgetXml("QDialogButtonBox", "buttons",
+                                              PropertyXml("standardButtons", "set", "Ok"))))))));
   const auto fontOf = [&](const wchar_t* name) { return ImplNamed(name).NativeFont(); };
   EXPECT_EQ(fontOf(L"rich").italic, 1);
   EXPECT_EQ(fontOf(L"inner").pointSize, 20);
@@ -301,9 +302,10 @@ TEST_F(BuilderTest, FontsOfContainersCountForWhatIsInThem) {
 
 TEST_F(BuilderTest, WhatAFormHidesTakesNoPlace) {
   const auto hidden = PropertyXml("visible", "bool", "false");
-  Open(ColumnForm(
-      ItemXml(WidgetXml("QGroupBox", "box", hidden + ColumnXml(ItemXml(WidgetXml("QLabel", "in"))))) +
-      ItemXml(WidgetXml("QLineEdit", "edit", hidden)) + ItemXml(WidgetXml("QTextEdit", "text"))));
+  Open(ColumnForm(ItemXml(WidgetXml("QGroupBox", "box",
+                                    hidden + ColumnXml(ItemXml(WidgetXml("QLabel", "in"))))) +
+                  ItemXml(WidgetXml("QLineEdit", "edit", hidden)) +
+                  ItemXml(WidgetXml("QTextEdit", "text"))));
   EXPECT_FALSE(Find<GroupBox>(L"box").IsVisible());
   EXPECT_FALSE(Find<Edit>(L"edit").IsVisible());
   EXPECT_LT(PlaceOf(L"text").Top(), 15);
