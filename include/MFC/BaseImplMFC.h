@@ -17,6 +17,7 @@ namespace Wexa {
 class BalloonTip;
 class BaseGUIObject;
 class Rescaling;
+class FormReader;
 struct TipContent;
 
 // What a widget was told before its native window exists; sizes in 96-DPI units, on the dialog.
@@ -145,6 +146,20 @@ class BaseImplMFC : public BaseImpl {
   virtual void RefineState(ControlState&) {}
   // The colour the widget gives what stands on it.
   virtual COLORREF BackgroundColor();
+
+  // -- From the form, before the native window exists
+
+  // What the form says of this kind of widget. Throws the conversion errors of numbers that are
+  // none.
+  virtual void ReadForm(const FormReader&) {}
+  // A widget that the form has in this one, and that no layout places.
+  virtual void TakeChild(BaseGUIObject&, const FormReader&) {}
+  // The policy where the form states none, of a widget that lies; one that stands has the axes
+  // exchanged.
+  virtual SizePolicy DefaultPolicy() const {
+    return {SizePolicy::Preferred, SizePolicy::Preferred};
+  }
+
   // The window that a child widget's window is made in.
   virtual HWND HolderOf(const BaseGUIObject&) { return GetHandle(); }
   // A child widget's window has been made.

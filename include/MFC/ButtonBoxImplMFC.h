@@ -13,6 +13,8 @@ class ButtonBox::impl : public ContainerImpl {
   explicit impl(ButtonBox* owner);
   ~impl() override;
 
+  void ReadForm(const FormReader& form) override;
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Expanding, SizePolicy::Fixed}; }
   // Replaces the buttons. Nothing happens once the native window exists.
   void SetButtons(unsigned standardButtons);
   void SetOrientation(bool vertical);

@@ -23,13 +23,13 @@ class Button::impl : public BaseImplMFC {
   void Show(bool show, bool updateLayout) override;
   void RefineState(ControlState& state) override;
   void Rescale(const Rescaling& rescale) override;
+  void ReadForm(const FormReader& form) override;
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Minimum, SizePolicy::Fixed}; }
 
   void SetText(const std::wstring& text);
   std::wstring GetText() { return Text(); }
   void SetChecked(bool checked);
   bool IsChecked();
-  // A toggle before there is a window, as its form says.
-  void BeginAsToggle(bool checked);
   void LoadPicture(const PictureRequest& request, bool redraw);
   void LoadPictureDisabled(const PictureRequest& request, bool redraw);
   void GeneratePictureDisabled(bool redraw);

@@ -14,6 +14,8 @@ class CheckBox::impl : public BaseImplMFC {
   Size IdealSize() override;
   Size MinimumIdealSize() override { return IdealSize(); }
   void KeepState() override;
+  void ReadForm(const FormReader& form) override;
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Minimum, SizePolicy::Fixed}; }
 
   using BaseImplMFC::SetText;
   using BaseImplMFC::Text;

@@ -17,6 +17,8 @@ class Edit::impl : public BaseImplMFC {
   CWnd* GetCWnd() override;
   Size IdealSize() override;
   Size MinimumIdealSize() override;
+  void ReadForm(const FormReader& form) override;
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Expanding, SizePolicy::Fixed}; }
 
   using BaseImplMFC::Text;
   void SetText(const std::wstring& text);

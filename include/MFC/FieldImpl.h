@@ -30,6 +30,7 @@ class LineFieldImpl : public FieldImpl {
   using FieldImpl::FieldImpl;
   Size IdealSize() override;
   Size MinimumIdealSize() override;
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Minimum, SizePolicy::Fixed}; }
 
  protected:
   void PaintContent(Painter& painter, const CRect& inner, const ControlPalette& palette) override;
@@ -45,10 +46,15 @@ class TextAreaImpl : public FieldImpl {
   using FieldImpl::FieldImpl;
   Size IdealSize() override;
   Size MinimumIdealSize() override;
+  SizePolicy DefaultPolicy() const override {
+    return {SizePolicy::Expanding, SizePolicy::Expanding};
+  }
   std::vector<std::wstring> lines;
   bool wraps = false;
 
  protected:
+  // The text of a text area, which forms know under several names.
+  void ReadText(const FormReader& form);
   void PaintContent(Painter& painter, const CRect& inner, const ControlPalette& palette) override;
 };
 

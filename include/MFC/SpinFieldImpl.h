@@ -19,6 +19,8 @@ class SpinFieldImpl : public LineFieldImpl {
 
  protected:
   int decimals = 0;
+  // Prefix and suffix.
+  void ReadFixes(const FormReader& form);
   std::wstring ShownText() override { return TextOf(value_); }
   int ContentWidth() override;
   void PaintEnd(Painter& painter, const CRect& end, const ControlPalette& palette) override;

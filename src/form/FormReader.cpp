@@ -43,20 +43,19 @@ int FormReader::HorizontalAlignment() const {
 }
 
 int FormReader::Integer(Property property, int absent) const {
-  const std::wstring* text = Find(property);
-  return text ? FormInteger(*text) : absent;
+  const auto number =
+      property.name_.empty() ? node_.Integer(property.id_) : node_.Integer(property.name_);
+  return number.value_or(absent);
 }
 
-double FormReader::Number(Property property, double absent) const {
-  const std::wstring* text = Find(property);
-  const double number = text ? std::stod(*text) : absent;
+double FormReader::Number(PropertyId id, double absent) const {
+  const double number = node_.Number(id).value_or(absent);
   return std::isfinite(number) ? number : absent;
 }
 
-int FormReader::Clamped(Property property, int absent) const {
+int FormReader::Clamped(PropertyId id, int absent) const {
   using Limits = std::numeric_limits<int>;
-  return static_cast<int>(
-      std::clamp<double>(Number(property, absent), Limits::min(), Limits::max()));
+  return static_cast<int>(std::clamp<double>(Number(id, absent), Limits::min(), Limits::max()));
 }
 
 FormReader::Range FormReader::RangeOr(int minimum, int maximum) const {

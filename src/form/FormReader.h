@@ -43,12 +43,12 @@ class FormReader {
   bool IsVertical() const { return Has(PropertyId::Orientation, L"Qt::Vertical"); }
   // 0, 1 and 2 for left, centre and right.
   int HorizontalAlignment() const;
-  // Throws the conversion errors of FormInteger.
+  // Numbers throw a FormError for a text that starts with none.
   int Integer(Property property, int absent) const;
-  // Throws those of std::stod. What is not finite counts as absent.
-  double Number(Property property, double absent) const;
+  // What is not finite counts as absent.
+  double Number(PropertyId id, double absent) const;
   // A number cut to a whole one that an int can hold.
-  int Clamped(Property property, int absent) const;
+  int Clamped(PropertyId id, int absent) const;
   // "minimum", "maximum" and "value"; a value that is absent is the lowest.
   Range RangeOr(int minimum, int maximum) const;
 

@@ -6,6 +6,7 @@
 #include "MFC/ButtonBoxImplMFC.h"
 #include "MFC/base/ControlIds.h"
 #include "TrString.h"
+#include "form/FormReader.h"
 #include "layout/BoxLayout.h"
 #include "layout/SpacerItem.h"
 #include "layout/WidgetItem.h"
@@ -73,6 +74,11 @@ ButtonBox::impl::~impl() {
   DeleteLayout();
 }
 
+void ButtonBox::impl::ReadForm(const FormReader& form) {
+  SetOrientation(form.IsVertical());
+  SetButtons(form.Node().standardButtons.flags);
+}
+
 void ButtonBox::impl::SetButtons(unsigned standardButtons) {
   if (GetHandle()) return;
   DeleteLayout();
@@ -87,7 +93,7 @@ void ButtonBox::impl::SetButtons(unsigned standardButtons) {
 std::shared_ptr<Button> ButtonBox::impl::MakeButton(const wchar_t* text) {
   auto button = std::make_shared<Button>();
   button->SetParent(Owner());
-  button->SetSizePolicy({SizePolicy::Minimum, SizePolicy::Fixed});
+  button->SetSizePolicy(ImplOf(button.get())->DefaultPolicy());
   CreationRecord& record = ImplOf(button.get())->Creation();
   record.text = TranslatedText(text);
   record.controlId = NextControlId();

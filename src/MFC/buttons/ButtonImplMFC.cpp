@@ -5,6 +5,7 @@
 #include "MFC/EventDispatch.h"
 #include "MFC/base/WidgetColors.h"
 #include "WexaException.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 #include "platform/Painter.h"
 #include "platform/SelfDrawn.h"
@@ -112,9 +113,10 @@ bool Button::impl::IsChecked() {
   return GetHandle() ? window_->GetCheck() == BST_CHECKED : beginsChecked_;
 }
 
-void Button::impl::BeginAsToggle(bool checked) {
-  checkable_ = true;
-  beginsChecked_ = checked;
+void Button::impl::ReadForm(const FormReader& form) {
+  isDefault = form.Flag(PropertyId::Default, false);
+  checkable_ = form.Flag(L"checkable", false);
+  beginsChecked_ = checkable_ && form.Flag(L"checked", false);
 }
 
 // -- Style and colours

@@ -3,6 +3,7 @@
 #include "MFC/CheckBoxImplMFC.h"
 #include "MFC/base/WidgetColors.h"
 #include "WexaConfig.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 #include "platform/Theme.h"
 
@@ -65,6 +66,11 @@ bool CheckBox::impl::CreateNative(CWnd* parent) {
     return false;
   window_.SetCheck(initialCheck_);
   return true;
+}
+
+void CheckBox::impl::ReadForm(const FormReader& form) {
+  if (form.Flag(L"tristate", false)) SetTristate(true);
+  if (form.Flag(L"checked", false)) SetCheck(BST_CHECKED);
 }
 
 Size CheckBox::impl::IdealSize() {

@@ -4,6 +4,7 @@
 
 #include "MFC/RadioButtonImplMFC.h"
 #include "MFC/base/WidgetColors.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 #include "platform/Painter.h"
 #include "platform/SelfDrawn.h"
@@ -83,6 +84,11 @@ bool RadioButton::impl::CreateNative(CWnd* parent) {
     return false;
   if (checkedByForm) window_.SetCheck(BST_CHECKED);
   return true;
+}
+
+void RadioButton::impl::ReadForm(const FormReader& form) {
+  groupName = form.Node().buttonGroup;
+  checkedByForm = form.Flag(L"checked", false);
 }
 
 Size RadioButton::impl::IdealSize() {

@@ -6,6 +6,7 @@
 #include "MFC/ContainerImpl.h"
 #include "MFC/base/WidgetColors.h"
 #include "WexaConfig.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 #include "platform/DialogManager.h"
 #include "platform/Theme.h"
@@ -49,6 +50,13 @@ class GroupBox::impl : public ContainerImpl {
 
   Size IdealSize() override { return WithTitle(ContainerImpl::IdealSize()); }
   Size MinimumIdealSize() override { return WithTitle(ContainerImpl::MinimumIdealSize()); }
+
+  void ReadForm(const FormReader& form) override {
+    SetTitleAlignment(static_cast<TitleAlignment>(form.HorizontalAlignment()));
+    if (!form.Flag(L"checkable", false)) return;
+    SetCheckable(true);
+    SetChecked(form.Flag(L"checked", true));
+  }
 
   void SetTitle(const std::wstring& title) {
     Creation().title = title;

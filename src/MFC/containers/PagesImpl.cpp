@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ChildDialog.h"
+#include "form/FormReader.h"
 #include "platform/DialogManager.h"
 
 namespace Wexa {
@@ -28,6 +29,10 @@ void PagesImpl::ForgetChild(BaseGUIObject& child) {
 void PagesImpl::PlaceAsRequested() {
   ArrangingImpl::PlaceAsRequested();
   if (GetHandle()) ShowOnly(CurrentIndex(), false);
+}
+
+void PagesImpl::ReadForm(const FormReader& form) {
+  current_ = form.Clamped(PropertyId::CurrentIndex, 0);
 }
 
 ChildDialog* PagesImpl::Page(int index) const {

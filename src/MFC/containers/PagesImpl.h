@@ -28,8 +28,8 @@ class PagesImpl : public ArrangingImpl {
   // Shows that page and hides the rest, now or when the window exists. A focus in the page that is
   // hidden moves on. False for an index out of range, or when a handler destroyed the container.
   virtual bool SetCurrentIndex(int index, bool updateLayout);
-  // Before the pages are there; one out of range gives way to the first.
-  void SetInitialIndex(int index) { current_ = index; }
+  // The page to begin with, before any is there; one out of range gives way to the first.
+  void ReadForm(const FormReader& form) override;
   void EnablePage(int index, bool enable, bool remember);
   // A page whose window has been made is shown when it is the current one.
   void OnChildCreated(BaseGUIObject& page) override;

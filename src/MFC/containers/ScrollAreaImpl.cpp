@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "MFC/base/WidgetColors.h"
+#include "form/FormReader.h"
 #include "layout/Layout.h"
 #include "platform/DialogManager.h"
 #include "platform/Painter.h"
@@ -38,6 +39,11 @@ bool IsArrowKey(WPARAM key) {
   return key >= VK_LEFT && key <= VK_DOWN;
 }
 
+BarPolicy BarPolicyOf(const FormReader& form, const wchar_t* property) {
+  if (form.Has(property, L"Qt::ScrollBarAlwaysOff")) return BarPolicy::AlwaysOff;
+  return form.Has(property, L"Qt::ScrollBarAlwaysOn") ? BarPolicy::AlwaysOn : BarPolicy::AsNeeded;
+}
+
 }  // namespace
 
 ScrollArea::impl::impl(ScrollArea* owner) : ArrangingImpl(owner) {
@@ -66,6 +72,14 @@ bool ScrollArea::impl::CreateNative(CWnd* parent) {
 
 HWND ScrollArea::impl::HolderOf(const BaseGUIObject& child) {
   return &child == content_ ? view_.GetSafeHwnd() : GetHandle();
+}
+
+void ScrollArea::impl::ReadForm(const FormReader& form) {
+  policies_ = {BarPolicyOf(form, L"verticalScrollBarPolicy"),
+               BarPolicyOf(form, L"horizontalScrollBarPolicy")};
+  isFramed_ = !form.Has(PropertyId::FrameShape, L"QFrame::NoFrame");
+  if (form.Find(L"widgetResizable"))
+    fit_ = form.Flag(L"widgetResizable", false) ? ContentFit::Resize : ContentFit::Preferred;
 }
 
 void ScrollArea::impl::SetContent(BaseGUIObject* content) {

@@ -31,10 +31,12 @@ class ScrollArea::impl : public ArrangingImpl {
   void OnFocusWithin(HWND window) override;
   HWND HolderOf(const BaseGUIObject& child) override;
   void ForgetChild(BaseGUIObject& child) override;
+  void ReadForm(const FormReader& form) override;
+  void TakeChild(BaseGUIObject& child, const FormReader&) override { SetContent(&child); }
+  SizePolicy DefaultPolicy() const override {
+    return {SizePolicy::Expanding, SizePolicy::Expanding};
+  }
   void SetContent(BaseGUIObject* content);
-  void SetContentFit(ContentFit fit) { fit_ = fit; }
-  void SetBarPolicies(BarPolicies policies) { policies_ = policies; }
-  void SetFramed(bool framed) { isFramed_ = framed; }
 
  protected:
   bool CreateNative(CWnd* parent) override;

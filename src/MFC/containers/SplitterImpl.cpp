@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "form/FormReader.h"
 #include "platform/Painter.h"
 #include "platform/VirtualKeys.h"
 
@@ -66,6 +67,12 @@ void Splitter::impl::ReadWishes() {
         (policy.ExpandingDirections() &
          (isVertical_ ? Orientation::Vertical : Orientation::Horizontal)) != Orientation::None;
   }
+}
+
+void Splitter::impl::ReadForm(const FormReader& form) {
+  SetOrientation(form.IsVertical());
+  SetHandleWidth(form.Integer(L"handleWidth", handleWidth_));
+  isDynamic = form.Flag(L"opaqueResize", true);
 }
 
 // -- Panes --------------------------------------------------------------------

@@ -24,6 +24,11 @@ class Splitter::impl : public ArrangingImpl {
   void OnChildCreated(BaseGUIObject& view) override;
   void ForgetChild(BaseGUIObject& view) override;
   bool OnPreTranslate(const MSG& message) override;
+  void ReadForm(const FormReader& form) override;
+  void TakeChild(BaseGUIObject& child, const FormReader&) override { AddView(&child); }
+  SizePolicy DefaultPolicy() const override {
+    return {SizePolicy::Expanding, SizePolicy::Preferred};
+  }
 
   void SetOrientation(bool vertical);
   void AddView(BaseGUIObject* view);

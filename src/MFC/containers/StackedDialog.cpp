@@ -1,9 +1,13 @@
 #include "StackedDialog.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 #include "ChildDialog.h"
 #include "MFC/containers/StackedDialogImpl.h"
+#include "form/FormReader.h"
+#include "form/FormText.h"
 #include "platform/Painter.h"
 
 namespace Wexa {
@@ -11,13 +15,22 @@ namespace Wexa {
 namespace {
 
 constexpr int kBorder = 1;
+constexpr std::array<std::wstring_view, 4> kFramed{L"QFrame::Box", L"QFrame::Panel",
+                                                   L"QFrame::StyledPanel", L"QFrame::WinPanel"};
 
 }  // namespace
 
 // The frame is drawn, not a part of the window: it belongs to the size the stack asks for.
-void StackedDialog::impl::SetFramed(bool framed) {
-  isFramed_ = framed;
+void StackedDialog::impl::ReadForm(const FormReader& form) {
+  PagesImpl::ReadForm(form);
+  const std::wstring shape = form.Text(PropertyId::FrameShape);
+  isFramed_ = std::ranges::any_of(
+      kFramed, [&](std::wstring_view word) { return IsEnumWord(shape, word); });
   Creation().style &= ~WS_BORDER;
+}
+
+void StackedDialog::impl::TakeChild(BaseGUIObject& child, const FormReader&) {
+  if (auto* page = dynamic_cast<ChildDialog*>(&child)) AddPage(page);
 }
 
 int StackedDialog::impl::Border() const {

@@ -9,8 +9,8 @@ class StackedDialog::impl : public PagesImpl {
  public:
   using PagesImpl::PagesImpl;
 
-  // Before the window is made.
-  void SetFramed(bool framed);
+  void ReadForm(const FormReader& form) override;
+  void TakeChild(BaseGUIObject& child, const FormReader& form) override;
   void Paint(Painter& painter, const CRect& client, const ControlPalette& palette) override;
   void InvalidateInParent();
 

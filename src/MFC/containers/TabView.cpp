@@ -8,6 +8,7 @@
 #include "MFC/base/WidgetColors.h"
 #include "MFC/containers/PagesImpl.h"
 #include "MFC/containers/TabStrip.h"
+#include "form/FormReader.h"
 #include "platform/DialogManager.h"
 #include "platform/Painter.h"
 #include "platform/VirtualKeys.h"
@@ -29,6 +30,12 @@ TabStrip::Edge EdgeOf(TabPosition position) {
   }
 }
 
+TabPosition PositionOf(const FormReader& form) {
+  if (form.Has(L"tabPosition", L"QTabWidget::South")) return TabPosition::South;
+  if (form.Has(L"tabPosition", L"QTabWidget::West")) return TabPosition::West;
+  return form.Has(L"tabPosition", L"QTabWidget::East") ? TabPosition::East : TabPosition::North;
+}
+
 }  // namespace
 
 class TabView::impl : public PagesImpl {
@@ -44,6 +51,18 @@ class TabView::impl : public PagesImpl {
     PagesImpl::AddPage(page);
     captions_.push_back(caption);
     RefreshStrip();
+  }
+
+  void ReadForm(const FormReader& form) override {
+    PagesImpl::ReadForm(form);
+    SetPosition(PositionOf(form));
+  }
+  void TakeChild(BaseGUIObject& child, const FormReader&) override {
+    AddPage(dynamic_cast<ChildDialog*>(&child),
+            ImplOf(&child)->Creation().text);
+  }
+  SizePolicy DefaultPolicy() const override {
+    return {SizePolicy::Expanding, SizePolicy::Expanding};
   }
 
   void SetPosition(TabPosition position) {

@@ -4,6 +4,8 @@
 
 #include "MFC/base/DialogFont.h"
 #include "MFC/base/WidgetColors.h"
+#include "form/FormReader.h"
+#include "form/RichText.h"
 #include "platform/Painter.h"
 #include "platform/Theme.h"
 
@@ -78,6 +80,14 @@ Size TextAreaImpl::IdealSize() {
 }
 Size TextAreaImpl::MinimumIdealSize() {
   return Scale(kMinimumAreaSide, kMinimumAreaSide);
+}
+
+void TextAreaImpl::ReadText(const FormReader& form) {
+  std::int32_t bold = 0;
+  if (const std::wstring* text = form.Find(L"html"))
+    lines = {PlainTextOf(*text, bold)};
+  else
+    lines = {form.Text(L"plainText", form.Text(PropertyId::Text))};
 }
 
 void TextAreaImpl::PaintContent(Painter& painter, const CRect& inner,

@@ -4,6 +4,7 @@
 
 #include "KvDateTime.h"
 #include "MFC/FieldImpl.h"
+#include "form/FormReader.h"
 #include "platform/Theme.h"
 
 namespace Wexa {
@@ -11,6 +12,14 @@ namespace Wexa {
 class DateEdit::impl : public LineFieldImpl {
  public:
   using LineFieldImpl::LineFieldImpl;
+
+  // Forms state "year-month-day".
+  void ReadForm(const FormReader& form) override {
+    KvDateTime stated = date;
+    const int parts = std::swscanf(form.Text(L"date").c_str(), L"%hu-%hu-%hu", &stated.year,
+                                   &stated.month, &stated.day);
+    if (parts == 3) date = stated;
+  }
 
   KvDateTime date{2000, 1, 1, 0, 0, 0};
 

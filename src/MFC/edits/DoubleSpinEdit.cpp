@@ -1,12 +1,20 @@
 #include "DoubleSpinEdit.h"
 
 #include "MFC/SpinFieldImpl.h"
+#include "form/FormReader.h"
 
 namespace Wexa {
 
 class DoubleSpinEdit::impl : public SpinFieldImpl {
  public:
   explicit impl(DoubleSpinEdit* owner) : SpinFieldImpl(owner) { decimals = 2; }
+
+  void ReadForm(const FormReader& form) override {
+    SetDecimals(form.Integer(L"decimals", decimals));
+    SetRange(form.Number(PropertyId::Minimum, 0), form.Number(PropertyId::Maximum, 99.99));
+    SetValue(form.Number(PropertyId::Value, 0));
+    ReadFixes(form);
+  }
 };
 
 DoubleSpinEdit::DoubleSpinEdit()

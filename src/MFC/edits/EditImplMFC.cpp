@@ -1,6 +1,7 @@
 #include "MFC/EditImplMFC.h"
 
 #include "MFC/base/WidgetColors.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 #include "platform/Theme.h"
 
@@ -83,6 +84,15 @@ Size Edit::impl::SizeFor(int characters) {
 void Edit::impl::FillPalette(ControlPalette& palette) {
   FillInputPalette(palette, GetSkinManager());
   palette.radius = Scale(radius_);
+}
+
+void Edit::impl::ReadForm(const FormReader& form) {
+  SetTextAlign(static_cast<TextAlign>(form.HorizontalAlignment()));
+  if (form.Has(PropertyId::ReadOnly, L"true")) SetReadOnly(true);
+  if (form.Has(PropertyId::EchoMode, L"QLineEdit::Password"))
+    SetPasswordMode(PasswordMode::Password);
+  if (form.Has(PropertyId::Frame, L"false")) SetFrameMode(false);
+  SetPlaceHolderText(form.Text(L"placeholderText"));
 }
 
 void Edit::impl::SetText(const std::wstring& text) {

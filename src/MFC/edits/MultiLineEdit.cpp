@@ -7,6 +7,7 @@ namespace Wexa {
 class MultiLineEdit::impl : public TextAreaImpl {
  public:
   explicit impl(MultiLineEdit* owner) : TextAreaImpl(owner) { wraps = true; }
+  void ReadForm(const FormReader& form) override { ReadText(form); }
 };
 
 MultiLineEdit::MultiLineEdit()

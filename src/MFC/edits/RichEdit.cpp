@@ -7,6 +7,7 @@ namespace Wexa {
 class RichEdit::impl : public TextAreaImpl {
  public:
   explicit impl(RichEdit* owner) : TextAreaImpl(owner) { wraps = true; }
+  void ReadForm(const FormReader& form) override { ReadText(form); }
 };
 
 RichEdit::RichEdit() : BaseGUIObject(GuiType::RichEdit), impl_(std::make_shared<impl>(this)) {}

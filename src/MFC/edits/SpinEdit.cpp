@@ -1,12 +1,20 @@
 #include "SpinEdit.h"
 
 #include "MFC/SpinFieldImpl.h"
+#include "form/FormReader.h"
 
 namespace Wexa {
 
 class SpinEdit::impl : public SpinFieldImpl {
  public:
   explicit impl(SpinEdit* owner) : SpinFieldImpl(owner) { decimals = 0; }
+
+  void ReadForm(const FormReader& form) override {
+    const FormReader::Range range = form.RangeOr(0, 99);
+    SetRange(range.minimum, range.maximum);
+    SetValue(range.value);
+    ReadFixes(form);
+  }
 };
 
 SpinEdit::SpinEdit() : BaseGUIObject(GuiType::SpinEdit), impl_(std::make_shared<impl>(this)) {}

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "WexaConfig.h"
+#include "form/FormReader.h"
 #include "platform/Theme.h"
 
 namespace Wexa {
@@ -35,6 +36,11 @@ void SpinFieldImpl::SetPrefix(const std::wstring& prefix) {
 void SpinFieldImpl::SetSuffix(const std::wstring& suffix) {
   suffix_ = suffix;
   ContentChanged();
+}
+
+void SpinFieldImpl::ReadFixes(const FormReader& form) {
+  SetPrefix(form.Text(L"prefix"));
+  SetSuffix(form.Text(L"suffix"));
 }
 
 void SpinFieldImpl::SetDecimals(int digits) {

@@ -56,7 +56,7 @@ std::string ReadBytes(const std::wstring& path) {
              LineAt(bytes, place));
 }
 
-FormText ReadForm(const std::wstring& path) {
+FormText ReadFormText(const std::wstring& path) {
   std::string bytes = ReadBytes(path);
   Translator& translator = Translator::GetInstance();
   if (!LooksLikePlainForm(bytes)) {
@@ -81,7 +81,7 @@ void Dialog::impl::Build(const std::wstring& uiFile) {
   bool hasLines = true;
   try {
     auto start = std::chrono::steady_clock::now();
-    const FormText form = ReadForm(uiFile);
+    const FormText form = ReadFormText(uiFile);
     hasLines = form.hasLines;
     statistics.readMilliseconds = MillisecondsSince(start);
 

@@ -3,22 +3,17 @@
 #include <algorithm>
 #include <map>
 
-#include "ChildDialog.h"
 #include "Label.h"
 #include "MFC/RadioButtonImplMFC.h"
 #include "MFC/base/ControlIds.h"
 #include "MFC/forms/LayoutSettings.h"
 #include "MFC/forms/WidgetSettings.h"
 #include "MFC/tips/ToolTips.h"
-#include "ScrollArea.h"
-#include "Splitter.h"
-#include "StackedDialog.h"
-#include "TabView.h"
 #include "Utf8.h"
 #include "WexaObjectFactory.h"
 #include "WexaUtils.h"
+#include "form/FormReader.h"
 #include "form/FormText.h"
-#include "form/RichText.h"
 #include "layout/BoxLayout.h"
 #include "layout/GridLayout.h"
 #include "layout/SpacerItem.h"
@@ -68,7 +63,7 @@ void DialogBuilder::Build() {
 }
 
 void DialogBuilder::ConfigureDialog(const FormNode& root) {
-  ApplySizeLimits(dialog_, root);
+  ApplySizeLimits(dialog_, FormReader(root));
   if (const std::wstring* title = root.Text(PropertyId::Title)) impl_.title = *title;
   dialog_.SetName(root.name);
   impl_.SetFont(root.font);
@@ -132,12 +127,10 @@ void DialogBuilder::AddToLayout(const FormNode& node, LayoutItem* item, const Pl
 
 // -- Widgets
 
-std::shared_ptr<BaseGUIObject> DialogBuilder::MakeWidget(const FormNode& node,
-                                                         std::wstring& className) {
+// A class of the form's own stands for the class it extends; chains are short, loops end.
+std::shared_ptr<BaseGUIObject> DialogBuilder::MakeWidget(std::wstring className) const {
   WexaObjectFactory& factory = WexaObjectFactory::Instance();
-  className = node.className;
   auto widget = factory.Create(NarrowUtf8(className));
-  // A class of the form's own stands for the class it extends; chains are short, loops end.
   for (std::size_t i = 0; !widget && i <= model_.customClasses.size(); ++i) {
     auto base = model_.customClasses.find(className);
     if (base == model_.customClasses.end()) break;
@@ -154,8 +147,7 @@ void DialogBuilder::NoteUnknown(const std::wstring& className) {
 }
 
 void DialogBuilder::BuildWidget(const FormNode& node, const Place& place) {
-  std::wstring className;
-  auto widget = MakeWidget(node, className);
+  auto widget = MakeWidget(node.className);
   if (!widget) {
     NoteUnknown(node.className);
     Place sameParent = place;
@@ -167,9 +159,10 @@ void DialogBuilder::BuildWidget(const FormNode& node, const Place& place) {
   ImplOf(place.widget)->AddChild(*widget);
   widget->GetSkinManager().InitSkinManager(&impl_.GetSkinManager(),
                                            ChildModeOf(impl_.GetSkinManager()));
-  ApplyWidgetSettings(*widget, node, className);
+  const FormReader form(node);
+  ApplyWidgetSettings(*widget, form);
   impl_.AddElement(node.name, widget);
-  AddToolTip(node, widget);
+  AddToolTip(form, widget);
   ++impl_.statistics.widgets;
   PlaceWidget(node, *widget, place);
   if (const std::wstring* buddy = node.Text(PropertyId::Buddy);
@@ -178,35 +171,16 @@ void DialogBuilder::BuildWidget(const FormNode& node, const Place& place) {
   BuildChildren(node, {widget.get()});
 }
 
-void DialogBuilder::AddToolTip(const FormNode& node, const std::shared_ptr<BaseGUIObject>& widget) {
-  const std::wstring* tip = node.Extra(L"toolTip");
-  if (!tip) return;
-  std::int32_t bold = 0;
-  impl_.Tips().Set(widget, {L"", IsRichText(*tip) ? PlainTextOf(*tip, bold) : *tip}, 0, nullptr);
+void DialogBuilder::AddToolTip(const FormReader& form,
+                               const std::shared_ptr<BaseGUIObject>& widget) {
+  if (const auto tip = form.PlainText(L"toolTip"))
+    impl_.Tips().Set(widget, {L"", *tip}, 0, nullptr);
 }
 
 void DialogBuilder::PlaceWidget(const FormNode& node, BaseGUIObject& widget, const Place& place) {
-  if (!place.layout) return AddToContainer(widget, *place.widget);
+  if (!place.layout) return ImplOf(place.widget)->TakeChild(widget, FormReader(node));
   const FormNode& cell = place.cellNode ? *place.cellNode : node;
   AddToLayout(cell, new WidgetItemV2(place.layout, &widget), place);
-}
-
-void DialogBuilder::AddToContainer(BaseGUIObject& widget, BaseGUIObject& parent) {
-  bool isPage = widget.Type() == GuiType::ChildDialog;
-  switch (parent.Type()) {
-    case GuiType::Splitter: static_cast<Splitter&>(parent).AddView(&widget); break;
-    case GuiType::ScrollArea: static_cast<ScrollArea&>(parent).SetContent(&widget); break;
-    case GuiType::StackedDialog:
-      if (isPage)
-        static_cast<StackedDialog&>(parent).AddChildDialog(static_cast<ChildDialog*>(&widget));
-      break;
-    case GuiType::TabView:
-      if (isPage)
-        static_cast<TabView&>(parent).AddPage(static_cast<ChildDialog*>(&widget),
-                                              ImplOf(&widget)->Creation().text);
-      break;
-    default: break;
-  }
 }
 
 // -- After the tree

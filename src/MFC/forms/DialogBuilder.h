@@ -10,6 +10,7 @@
 
 namespace Wexa {
 
+class FormReader;
 class Layout;
 class LayoutItem;
 
@@ -39,10 +40,9 @@ class DialogBuilder {
   void BuildLayout(const FormNode& node, const Place& place);
   void BuildSpacer(const FormNode& node, const Place& place);
   void BuildWidget(const FormNode& node, const Place& place);
-  std::shared_ptr<BaseGUIObject> MakeWidget(const FormNode& node, std::wstring& className);
-  void AddToolTip(const FormNode& node, const std::shared_ptr<BaseGUIObject>& widget);
+  std::shared_ptr<BaseGUIObject> MakeWidget(std::wstring className) const;
+  void AddToolTip(const FormReader& form, const std::shared_ptr<BaseGUIObject>& widget);
   void PlaceWidget(const FormNode& node, BaseGUIObject& widget, const Place& place);
-  void AddToContainer(BaseGUIObject& widget, BaseGUIObject& parent);
   void AddToLayout(const FormNode& node, LayoutItem* item, const Place& place);
   void NoteUnknown(const std::wstring& className);
   void ResolveBuddies();

@@ -1,19 +1,15 @@
 #pragma once
 
-#include <string>
-
 namespace Wexa {
 
 class BaseGUIObject;
-class FormNode;
+class FormReader;
 
-// What a form says of a widget, put into the widget before its native window exists: texts,
-// rectangle, size limits and policy, native style, and the settings of its class. `className` is
-// the form class that the widget was made for. Throws the conversion errors of numbers that are
-// none.
-void ApplyWidgetSettings(BaseGUIObject& widget, const FormNode& node,
-                         const std::wstring& className);
+// What a form says of a widget, put into the widget before its native window exists: text,
+// rectangle, size limits and policy, native style, and what only its kind has. Throws the
+// conversion errors of numbers that are none.
+void ApplyWidgetSettings(BaseGUIObject& widget, const FormReader& form);
 // Explicit minimum and maximum sizes.
-void ApplySizeLimits(BaseGUIObject& widget, const FormNode& node);
+void ApplySizeLimits(BaseGUIObject& widget, const FormReader& form);
 
 }  // namespace Wexa

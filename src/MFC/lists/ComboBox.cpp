@@ -4,6 +4,7 @@
 
 #include "MFC/FieldImpl.h"
 #include "WexaConfig.h"
+#include "form/FormReader.h"
 #include "platform/Painter.h"
 #include "platform/Theme.h"
 
@@ -12,6 +13,7 @@ namespace Wexa {
 namespace {
 
 constexpr int kMinimumContentWidth = 40;
+constexpr int kMostContents = 1000;
 
 }  // namespace
 
@@ -22,6 +24,25 @@ class ComboBox::impl : public LineFieldImpl {
   std::vector<std::wstring> items;
   // Choices are never cut off: the field does not shrink below its widest one.
   Size MinimumIdealSize() override { return IdealSize(); }
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Preferred, SizePolicy::Fixed}; }
+
+  void ReadForm(const FormReader& form) override {
+    SetItems(form.Node().itemTexts);
+    current = form.Clamped(PropertyId::CurrentIndex, current);
+    SetMinimumContentsLength(form.Clamped(PropertyId::MinimumContentsLength, 0));
+  }
+
+  void SetItems(std::vector<std::wstring> texts) {
+    items = std::move(texts);
+    if (current < 0 && !items.empty()) current = 0;
+    InvalidateLayout();
+    if (GetHandle()) Repaint();
+  }
+
+  void SetMinimumContentsLength(int characters) {
+    minimumContentsLength = std::clamp(characters, 0, kMostContents);
+    InvalidateLayout();
+  }
 
   int current = -1;
   int minimumContentsLength = 0;
@@ -63,10 +84,7 @@ Size ComboBox::IdealSize() {
 ComboBox::ComboBox(GuiType type) : BaseGUIObject(type), impl_(std::make_shared<impl>(this)) {}
 
 void ComboBox::SetItems(std::vector<std::wstring> items) {
-  impl_->items = std::move(items);
-  if (impl_->current < 0 && !impl_->items.empty()) impl_->current = 0;
-  impl_->InvalidateLayout();
-  if (GetPlatformHandle()) Repaint();
+  impl_->SetItems(std::move(items));
 }
 void ComboBox::SetCurrentIndex(int index) {
   impl_->current = index;
@@ -76,8 +94,7 @@ int ComboBox::GetCurrentIndex() const {
   return impl_->current;
 }
 void ComboBox::SetMinimumContentsLength(int characters) {
-  impl_->minimumContentsLength = std::clamp(characters, 0, 1000);
-  impl_->InvalidateLayout();
+  impl_->SetMinimumContentsLength(characters);
 }
 
 }  // namespace Wexa

@@ -1,12 +1,19 @@
 #include "ListBox.h"
 
 #include "MFC/FieldImpl.h"
+#include "form/FormReader.h"
+#include "platform/ControlConstants.h"
 
 namespace Wexa {
 
 class ListBox::impl : public TextAreaImpl {
  public:
   using TextAreaImpl::TextAreaImpl;
+
+  void ReadForm(const FormReader& form) override {
+    lines = form.Node().itemTexts;
+    if (form.Flag(PropertyId::SortingEnabled, false)) Creation().style |= LVS_SORTASCENDING;
+  }
 };
 
 ListBox::ListBox() : BaseGUIObject(GuiType::ListBox), impl_(std::make_shared<impl>(this)) {}

@@ -3,6 +3,7 @@
 #include "MFC/PaintedImpl.h"
 #include "MFC/base/WidgetColors.h"
 #include "MFC/ranges/ValueRange.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 #include "platform/Painter.h"
 #include "platform/Theme.h"
@@ -34,6 +35,16 @@ class ProgressBar::impl : public PaintedImpl {
 
   Size IdealSize() override { return IsVertical() ? Scale(20, 120) : Scale(120, 20); }
   Size MinimumIdealSize() override { return IsVertical() ? Scale(16, 40) : Scale(40, 16); }
+
+  void ReadForm(const FormReader& form) override {
+    const FormReader::Range stated = form.RangeOr(0, 100);
+    range.SetBounds(stated.minimum, stated.maximum);
+    range.SetValue(stated.value);
+    textVisible = form.Flag(L"textVisible", true);
+    format = form.Text(L"format", format);
+    if (form.IsVertical()) Creation().style |= PBS_VERTICAL;
+  }
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Expanding, SizePolicy::Fixed}; }
 
   void SetIndeterminate(bool indeterminate) {
     told_ = indeterminate;

@@ -1,6 +1,7 @@
 #include "RangeControl.h"
 
 #include "MFC/ranges/RangeImpl.h"
+#include "form/FormReader.h"
 
 namespace Wexa {
 
@@ -20,6 +21,15 @@ RangeControl::impl::impl(RangeControl* owner, std::shared_ptr<RangeWnd> window)
 bool RangeControl::impl::CreateNative(CWnd* parent) {
   Bar().vertical = IsVertical();
   return DrawnImpl::CreateNative(parent);
+}
+
+void RangeControl::impl::ReadForm(const FormReader& form) {
+  const FormReader::Range range = form.RangeOr(0, 99);
+  Bar().SetRange(range.minimum, range.maximum);
+  Bar().SetValue(range.value);
+  const ValueRange& steps = Bar().Range();
+  Bar().SetSteps(form.Integer(L"singleStep", steps.SingleStep()),
+                 form.Integer(L"pageStep", steps.PageStep()));
 }
 
 Size RangeControl::impl::Turned(Size size) const {

@@ -14,6 +14,7 @@ class RangeControl::impl : public DrawnImpl {
   RangeWnd& Bar() { return static_cast<RangeWnd&>(Shown()); }
   Size IdealSize() override { return Turned(LyingIdealSize()); }
   Size MinimumIdealSize() override { return Turned(LyingMinimumSize()); }
+  void ReadForm(const FormReader& form) override;
 
  protected:
   bool CreateNative(CWnd* parent) override;

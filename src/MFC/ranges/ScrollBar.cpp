@@ -2,6 +2,7 @@
 
 #include "MFC/ranges/RangeImpl.h"
 #include "MFC/ranges/ScrollBarWnd.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 
 namespace Wexa {
@@ -18,6 +19,12 @@ class ScrollBarImpl : public RangeControl::impl {
   void FillPalette(ControlPalette& palette) override {
     FillScrollPalette(palette, GetSkinManager());
   }
+
+  void ReadForm(const FormReader& form) override {
+    impl::ReadForm(form);
+    if (form.IsVertical()) Creation().style |= SBS_VERT;
+  }
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Minimum, SizePolicy::Fixed}; }
 
  protected:
   bool IsVertical() const override { return (Creation().style & SBS_VERT) != 0; }

@@ -5,6 +5,7 @@
 #include "MFC/base/WidgetColors.h"
 #include "MFC/ranges/RangeImpl.h"
 #include "MFC/ranges/SliderWnd.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 
 namespace Wexa {
@@ -23,14 +24,28 @@ class SliderImpl : public RangeControl::impl {
     FillInputPalette(palette, GetSkinManager());
   }
 
+  void ReadForm(const FormReader& form) override {
+    impl::ReadForm(form);
+    if (form.IsVertical()) Creation().style |= TBS_VERT;
+    if (form.Find(L"tickPosition") && !form.Has(L"tickPosition", L"QSlider::NoTicks"))
+      SetTickInterval(form.Integer(L"tickInterval", Bar().Range().PageStep()));
+  }
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Expanding, SizePolicy::Fixed}; }
+
+  SliderWnd& SliderWindow() { return static_cast<SliderWnd&>(Bar()); }
+  void SetTickInterval(int interval) {
+    SliderWindow().tickInterval = std::max(interval, 0);
+    RefreshSkinColors();
+  }
+
  protected:
   bool IsVertical() const override { return (Creation().style & TBS_VERT) != 0; }
   Size LyingIdealSize() const override { return Scale(kSliderLength, kTrackThickness); }
   Size LyingMinimumSize() const override { return Scale(kSmallestSlider, kTrackThickness); }
 };
 
-SliderWnd& WindowOf(RangeControl::impl& impl) {
-  return static_cast<SliderWnd&>(impl.Bar());
+SliderImpl& SliderImplOf(RangeControl::impl& impl) {
+  return static_cast<SliderImpl&>(impl);
 }
 
 }  // namespace
@@ -41,11 +56,10 @@ Slider::Slider()
       }) {}
 
 void Slider::SetTickInterval(int interval) {
-  WindowOf(*impl_).tickInterval = std::max(interval, 0);
-  impl_->RefreshSkinColors();
+  SliderImplOf(*impl_).SetTickInterval(interval);
 }
 int Slider::GetTickInterval() const {
-  return WindowOf(*impl_).tickInterval;
+  return SliderImplOf(*impl_).SliderWindow().tickInterval;
 }
 
 }  // namespace Wexa

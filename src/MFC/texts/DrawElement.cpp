@@ -31,6 +31,10 @@ class DrawElement::impl : public DrawnImpl {
  public:
   explicit impl(DrawElement* owner) : DrawnImpl(owner, std::make_shared<CanvasWnd>()) {}
 
+  SizePolicy DefaultPolicy() const override {
+    return {SizePolicy::Expanding, SizePolicy::Expanding};
+  }
+
   void SetProcedure(const PaintProcedure& procedure) {
     static_cast<CanvasWnd&>(Shown()).procedure = procedure;
     RefreshSkinColors();

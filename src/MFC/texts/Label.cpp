@@ -7,6 +7,9 @@
 #include "MFC/EventDispatch.h"
 #include "MFC/base/WidgetColors.h"
 #include "MFC/texts/LabelPicture.h"
+#include "WexaConfig.h"
+#include "form/FormReader.h"
+#include "form/RichText.h"
 #include "layout/WidgetLink.h"
 #include "platform/ControlConstants.h"
 #include "platform/Painter.h"
@@ -88,6 +91,17 @@ class Label::impl : public BaseImplMFC {
     return HasHeightForWidth() ? Extent(std::max(width, 1)).cy : -1;
   }
 
+  void ReadForm(const FormReader& form) override {
+    ReadText(form);
+    SetAlignment(static_cast<Alignment>(form.HorizontalAlignment()));
+    if (form.Has(PropertyId::Alignment, L"Qt::AlignTop")) ChangeStyle(SS_CENTERIMAGE, 0);
+    if (form.Has(PropertyId::WordWrap, L"true")) SetWordWrap(true);
+    if (form.Find(L"indent")) SetIndent(form.Integer(L"indent", 0));
+    if (const std::wstring* picture = form.Find(L"pixmap"))
+      LoadPictureOfForm(*picture, form.Flag(L"scaledContents", false) ? WexaUtils::FillTarget
+                                                                      : WexaUtils::ScaleByFactor);
+  }
+
   using BaseImplMFC::SetText;
   using BaseImplMFC::Text;
 
@@ -155,6 +169,25 @@ class Label::impl : public BaseImplMFC {
     if (alignment_ == Alignment::Left && !wraps_) style = SS_LEFTNOWORDWRAP;
     if (!wraps_) style |= SS_ENDELLIPSIS;
     ChangeStyle(SS_TYPEMASK | SS_ENDELLIPSIS, style);
+  }
+
+  void ReadText(const FormReader& form) {
+    std::wstring& text = Creation().text;
+    if (form.Has(L"textFormat", L"Qt::PlainText") || !IsRichText(text)) return;
+    FontData font = form.Node().font;
+    text = PlainTextOf(text, font.bold);
+    if (font != form.Node().font) SetFont(font);
+  }
+
+  // Forms name pictures in a resource file (":/icons/warning.png") or relative to themselves. Hosts
+  // keep them in the directory of images, in the folders of the resource file or flat.
+  void LoadPictureOfForm(const std::wstring& name, WexaUtils::ScalePicture scale) {
+    const std::size_t path = name.find_first_not_of(L":/");
+    if (path == name.npos) return;
+    for (const std::size_t from : {path, name.find_last_of(L'/') + 1}) {
+      const PictureFile file(GetImageDirPath(L"") + name.substr(from));
+      if (LoadPicture({file.bytes.get(), file.size, file.type, scale, 0})) return;
+    }
   }
 
   void PaintPicture() {

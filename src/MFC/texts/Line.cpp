@@ -2,6 +2,7 @@
 
 #include "MFC/BaseImplMFC.h"
 #include "MFC/base/WidgetColors.h"
+#include "form/FormReader.h"
 #include "platform/ControlConstants.h"
 
 namespace Wexa {
@@ -26,6 +27,14 @@ class Line::impl : public BaseImplMFC {
     palette.border = ReadableTint(GetSkinManager(), Slot::kSeparator, palette.border,
                                   palette.background, kVisible);
   }
+
+  void ReadForm(const FormReader& form) override {
+    if (form.IsVertical())
+      Creation().style |= SS_ETCHEDVERT;
+    else if (form.Has(PropertyId::Orientation, L"Qt::Horizontal"))
+      Creation().style |= SS_ETCHEDHORZ;
+  }
+  SizePolicy DefaultPolicy() const override { return {SizePolicy::Minimum, SizePolicy::Fixed}; }
 
  protected:
   bool CreateNative(CWnd* parent) override {
