@@ -42,13 +42,13 @@ class WEXA_API Button : public BaseGUIObject {
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
-  // The first call turns the button into a toggle. Throws WexaException "SetChecked re-create
-  // error" when the native button cannot be made anew.
+  // The first call turns the button into a toggle, also before it has a window. Throws
+  // WexaException "SetChecked re-create error" when the native button cannot be made anew.
   virtual void SetChecked(bool checked);
   virtual bool GetCheck();
-  // Shows a picture before the text, in the style IconOnly instead of it. What fits or fills, fits the
-  // button's area as it is now. `iconSize` chooses among the icons of an icon file. Nothing changes
-  // when there is no picture to read; with `redraw` the button shows it at once.
+  // Shows a picture before the text, in the style IconOnly instead of it. What fits or fills, fits
+  // the button's area as it is now. `iconSize` chooses among the icons of an icon file. Nothing
+  // changes when there is no picture to read; with `redraw` the button shows it at once.
   virtual void LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
                            WexaUtils::ScalePicture scale, int iconSize, bool redraw);
   // A file, its type by its extension.
@@ -62,6 +62,7 @@ class WEXA_API Button : public BaseGUIObject {
   // Makes the disabled picture: the normal one's shape in the skin's colour of disabled text.
   // Nothing happens without a normal picture.
   virtual void GeneratePictureDisabled(bool redraw);
+  // Native gives up the borders of SetBorderColor, too.
   virtual void SetStyle(ButtonStyle style);
   // The same as SetStyle.
   virtual void UseTextAndIcon(ButtonStyle style);

@@ -2,17 +2,20 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "BaseGUIObject.h"
 #include "WexaUtils.h"
 
 namespace Wexa {
 
-// The radio buttons of which one is checked: a range of control ids in one parent window.
+// The radio buttons of which one is checked: those that were given this record, in any windows of a
+// dialog, and the others with these control ids in the same parent window.
 struct GroupInfo {
   unsigned firstId = 0;
   unsigned lastId = 0;
-  unsigned checkedId = 0;  // the one last reported, 0 when none was
+  unsigned checkedId = 0;  // the one last checked by the program or its user, 0 when none was
+  std::vector<std::weak_ptr<BaseImpl>> members;  // kept by SetGroupInfo
 };
 
 class WEXA_API RadioButton : public BaseGUIObject {
@@ -31,13 +34,13 @@ class WEXA_API RadioButton : public BaseGUIObject {
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
-  // Checks this button and unchecks the rest of its group. Nothing happens without a native window or
-  // a group.
+  // Checks this button and unchecks the rest of its group, at once or for when they get their
+  // windows. Nothing happens without a group.
   virtual void SetCheck();
   virtual bool Checked();
-  // Shows a picture between the mark and the text. What fits or fills, fits the widget's area beside
-  // the mark as it is now. `iconSize` chooses among the icons of an icon file. Nothing changes when
-  // there is no picture to read.
+  // Shows a picture between the mark and the text. What fits or fills, fits the widget's area
+  // beside the mark as it is now. `iconSize` chooses among the icons of an icon file. Nothing
+  // changes when there is no picture to read.
   virtual void LoadPicture(const unsigned char* data, int size, WexaUtils::ImageTypes type,
                            WexaUtils::ScalePicture scale, int iconSize);
   // A file, its type by its extension.

@@ -23,6 +23,7 @@ class Button::impl : public BaseImplMFC {
   void Show(bool show, bool updateLayout) override;
   void RefineState(ControlState& state) override;
   void Rescale(const Rescaling& rescale) override;
+  void KeepState() override;
   void ReadForm(const FormReader& form) override;
   SizePolicy DefaultPolicy() const override { return {SizePolicy::Minimum, SizePolicy::Fixed}; }
 
@@ -40,7 +41,7 @@ class Button::impl : public BaseImplMFC {
   void SetTextColors(std::optional<RGBColor> normal, std::optional<RGBColor> disabled);
 
   // The dialog's default button, as its form says.
-  bool isDefault = false;
+  bool IsDefault() const { return isDefault_; }
   // What changes the look of the button; RefreshSkinColors shows it.
   bool focusRectDisabled = false;
   int cornerRadius = 0;  // 96-DPI units
@@ -58,6 +59,8 @@ class Button::impl : public BaseImplMFC {
   void FillPalette(ControlPalette& palette) override;
 
  private:
+  // The native type and push-like look that style and toggling ask for.
+  DWORD NativeType() const;
   void MakeCheckable();
   void ReplaceWindow(std::shared_ptr<CButton> next);
   void TellButtonBox();
@@ -70,8 +73,9 @@ class Button::impl : public BaseImplMFC {
 
   std::shared_ptr<CButton> window_;
   ButtonStyle style_ = ButtonStyle::Native;
+  bool isDefault_ = false;
   bool checkable_ = false;
-  bool beginsChecked_ = false;
+  bool keptCheck_ = false;  // while there is no window
   bool hasBorders_ = false;
   WidgetPictures pictures_;
   std::optional<std::array<RGBColor, 5>> faces_;  // normal, hovered, pressed, disabled, checked

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "MFC/BaseImplMFC.h"
 #include "MFC/ButtonMFC.h"
@@ -28,9 +29,10 @@ class RadioButton::impl : public BaseImplMFC {
   void LoadPicture(const PictureRequest& request);
   void Rescale(const Rescaling& rescale) override;
 
-  std::shared_ptr<GroupInfo> group;
-  std::wstring groupName;  // of the form
-  bool checkedByForm = false;
+  // The name of its button group in the form; empty when it has none.
+  const std::wstring& GroupName() const { return groupName_; }
+  const std::shared_ptr<GroupInfo>& Group() const { return group_; }
+  void SetGroup(const std::shared_ptr<GroupInfo>& group, const std::shared_ptr<BaseImpl>& self);
 
   // -- From the native button
   void OnClicked();
@@ -43,10 +45,17 @@ class RadioButton::impl : public BaseImplMFC {
   void FillPalette(ControlPalette& palette) override;
 
  private:
+  std::vector<impl*> Members() const;
+  unsigned ControlId();
   unsigned CheckedIdOfGroup();
+  void PutCheck(bool checked);
+  void CheckAlone();
 
   ButtonMFC<RadioButton> window_;
   WidgetPictures pictures_;
+  std::shared_ptr<GroupInfo> group_;
+  std::wstring groupName_;
+  bool keptCheck_ = false;  // while there is no window
 };
 
 }  // namespace Wexa

@@ -41,11 +41,11 @@ Button::impl::impl(Button* owner, std::shared_ptr<CButton> native)
 Button::impl::~impl() = default;
 
 bool Button::impl::CreateNative(CWnd* parent) {
-  DWORD style = Creation().style | (checkable_ ? kToggleStyle : 0);
+  const DWORD style = Creation().style | NativeType();
   if (!window_ ||
       !window_->Create(Creation().text, style, ScaledRect(), parent, Creation().controlId))
     return false;
-  if (beginsChecked_) window_->SetCheck(BST_CHECKED);
+  if (keptCheck_) window_->SetCheck(BST_CHECKED);
   return true;
 }
 
@@ -75,9 +75,18 @@ void Button::impl::TellButtonBox() {
 
 // -- Toggle
 
+DWORD Button::impl::NativeType() const {
+  if (style_ != ButtonStyle::Native || hasBorders_) return BS_OWNERDRAW;
+  return checkable_ ? kToggleStyle : BS_PUSHBUTTON;
+}
+
 void Button::impl::SetChecked(bool checked) {
+  keptCheck_ = checked;
+  if (!GetHandle()) {
+    checkable_ = true;
+    return;
+  }
   if (!checkable_) MakeCheckable();
-  Window();
   window_->SetCheck(checked ? BST_CHECKED : BST_UNCHECKED);
   window_->Invalidate();
 }
@@ -89,12 +98,14 @@ void Button::impl::MakeCheckable() {
   CRect rect = old.GetWindowRect();
   parent->ScreenToClient(&rect);
   auto next = std::make_shared<ButtonMFC<Button>>(*this);
-  if (!next->Create(old.GetWindowText(), old.GetStyle() | kToggleStyle, rect, parent,
-                    static_cast<UINT>(old.GetDlgCtrlID())))
+  checkable_ = true;
+  const DWORD style = (old.GetStyle() & ~BS_TYPEMASK) | NativeType();
+  checkable_ = next->Create(old.GetWindowText(), style, rect, parent,
+                            static_cast<UINT>(old.GetDlgCtrlID()));
+  if (!checkable_)
     throw WexaException("include/MFC/ButtonImplMFC", __LINE__, "SetChecked re-create error");
   next->SetFont(old.GetFont());
   next->SetWindowPos(old.GetSafeHwnd(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  checkable_ = true;
   ReplaceWindow(std::move(next));
 }
 
@@ -110,22 +121,29 @@ void Button::impl::ReplaceWindow(std::shared_ptr<CButton> next) {
 }
 
 bool Button::impl::IsChecked() {
-  return GetHandle() ? window_->GetCheck() == BST_CHECKED : beginsChecked_;
+  return GetHandle() ? window_->GetCheck() == BST_CHECKED : keptCheck_;
+}
+
+void Button::impl::KeepState() {
+  BaseImplMFC::KeepState();
+  keptCheck_ = IsChecked();
 }
 
 void Button::impl::ReadForm(const FormReader& form) {
-  isDefault = form.Flag(PropertyId::Default, false);
+  isDefault_ = form.Flag(PropertyId::Default, false);
   checkable_ = form.Flag(L"checkable", false);
-  beginsChecked_ = checkable_ && form.Flag(L"checked", false);
+  keptCheck_ = checkable_ && form.Flag(L"checked", false);
 }
 
 // -- Style and colours
 
 void Button::impl::SetStyle(ButtonStyle style) {
   style_ = style;
+  if (style == ButtonStyle::Native) hasBorders_ = false;
+  if (style != ButtonStyle::Native) Creation().style &= ~kPictureAndAlignment;
   if (GetHandle()) {
-    if (style != ButtonStyle::Native) window_->ModifyStyle(kPictureAndAlignment, BS_OWNERDRAW);
-    window_->SetButtonStyle(style == ButtonStyle::Native ? BS_PUSHBUTTON : BS_OWNERDRAW);
+    if (style != ButtonStyle::Native) window_->ModifyStyle(kPictureAndAlignment, 0);
+    window_->SetButtonStyle(NativeType());
   }
   if (style == ButtonStyle::IconOnly) InvalidateLayout();
 }
@@ -176,7 +194,7 @@ void Button::impl::PaintOwnerDrawn() {
   const ControlPalette palette = GetControlPalette(GetHandle());
   const CRect client = window_->GetClientRect();
   ControlState look = GetControlState(GetHandle());
-  look.pressed = look.pressed || (style_ == ButtonStyle::Native && IsChecked());
+  look.pressed = look.pressed || (!faces_ && IsChecked());
   painter.FillRect(client, palette.background);
   Theme::DrawPushButton(painter, client, look, palette);
   COLORREF color =
@@ -184,7 +202,9 @@ void Button::impl::PaintOwnerDrawn() {
   PaintContent(painter, client, look, color);
 }
 
+// A button that the library draws has no native type that toggles by itself.
 void Button::impl::OnClicked() {
+  if (checkable_ && NativeType() == BS_OWNERDRAW) window_->SetCheck(!IsChecked());
   if (Owner()) static_cast<Button*>(Owner())->Clicked();
 }
 

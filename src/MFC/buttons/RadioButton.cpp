@@ -1,6 +1,7 @@
 #include "RadioButton.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "MFC/RadioButtonImplMFC.h"
 #include "MFC/base/WidgetColors.h"
@@ -48,10 +49,10 @@ std::wstring RadioButton::GetText() {
   return impl_->Text();
 }
 void RadioButton::SetGroupInfo(std::shared_ptr<GroupInfo> group) {
-  impl_->group = std::move(group);
+  impl_->SetGroup(group, impl_);
 }
 std::shared_ptr<GroupInfo> RadioButton::GetGroupInfo() {
-  return impl_->group;
+  return impl_->Group();
 }
 
 // -- Implementation
@@ -82,13 +83,13 @@ bool RadioButton::impl::CreateNative(CWnd* parent) {
   if (!window_.Create(Creation().text, Creation().style, ScaledRect(), parent,
                       Creation().controlId))
     return false;
-  if (checkedByForm) window_.SetCheck(BST_CHECKED);
+  if (keptCheck_) window_.SetCheck(BST_CHECKED);
   return true;
 }
 
 void RadioButton::impl::ReadForm(const FormReader& form) {
-  groupName = form.Node().buttonGroup;
-  checkedByForm = form.Flag(L"checked", false);
+  groupName_ = form.Node().buttonGroup;
+  keptCheck_ = form.Flag(L"checked", false);
 }
 
 Size RadioButton::impl::IdealSize() {
@@ -98,32 +99,71 @@ Size RadioButton::impl::IdealSize() {
   return {MarkWidth() + content.cx, std::max<int>(plain.Height(), content.cy)};
 }
 
-void RadioButton::impl::SetCheck() {
-  if (!GetHandle() || !group) return;
-  CheckRadioButton(window_.GetParent()->GetSafeHwnd(), static_cast<int>(group->firstId),
-                   static_cast<int>(group->lastId), window_.GetDlgCtrlID());
-}
-
-bool RadioButton::impl::IsChecked() {
-  return GetHandle() && window_.GetCheck() == BST_CHECKED;
-}
-
 void RadioButton::impl::FillPalette(ControlPalette& palette) {
   FillCheckPalette(palette, GetSkinManager());
 }
 
-unsigned RadioButton::impl::CheckedIdOfGroup() {
-  HWND parent = window_.GetParent()->GetSafeHwnd();
-  for (unsigned id = group->lastId; id >= group->firstId && id > 0; --id) {
-    HWND button = GetDlgItem(parent, static_cast<int>(id));
-    if (button && SendMessageW(button, BM_GETCHECK, 0, 0) == BST_CHECKED) return id;
-  }
-  return 0;
-}
-
 void RadioButton::impl::KeepState() {
   BaseImplMFC::KeepState();
-  checkedByForm = IsChecked();
+  keptCheck_ = IsChecked();
+}
+
+// -- Group
+
+void RadioButton::impl::SetGroup(const std::shared_ptr<GroupInfo>& group,
+                                 const std::shared_ptr<BaseImpl>& self) {
+  const auto isThis = [&](const std::weak_ptr<BaseImpl>& member) {
+    return member.expired() || member.lock() == self;
+  };
+  if (group_) std::erase_if(group_->members, isThis);
+  group_ = group;
+  if (group_) group_->members.push_back(self);
+}
+
+// A copied record still names those of the first.
+std::vector<RadioButton::impl*> RadioButton::impl::Members() const {
+  std::vector<impl*> members;
+  if (!group_) return members;
+  for (const auto& link : group_->members) {
+    auto* member = static_cast<impl*>(link.lock().get());
+    if (member && member->group_ == group_) members.push_back(member);
+  }
+  return members;
+}
+
+unsigned RadioButton::impl::ControlId() {
+  return GetHandle() ? static_cast<unsigned>(window_.GetDlgCtrlID()) : Creation().controlId;
+}
+
+unsigned RadioButton::impl::CheckedIdOfGroup() {
+  unsigned checked = 0;
+  for (impl* member : Members())
+    if (member->IsChecked()) checked = std::max(checked, member->ControlId());
+  return checked;
+}
+
+bool RadioButton::impl::IsChecked() {
+  return GetHandle() ? window_.GetCheck() == BST_CHECKED : keptCheck_;
+}
+
+void RadioButton::impl::PutCheck(bool checked) {
+  keptCheck_ = checked;
+  if (GetHandle()) window_.SetCheck(checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void RadioButton::impl::CheckAlone() {
+  for (impl* member : Members())
+    if (member != this) member->PutCheck(false);
+  if (GetHandle() && group_->firstId <= group_->lastId)
+    CheckRadioButton(window_.GetParent()->GetSafeHwnd(), static_cast<int>(group_->firstId),
+                     static_cast<int>(group_->lastId), window_.GetDlgCtrlID());
+  PutCheck(true);
+}
+
+void RadioButton::impl::SetCheck() {
+  if (!group_) return;
+  CheckAlone();
+  group_->checkedId = ControlId();
 }
 
 // -- Pictures
@@ -164,20 +204,18 @@ void RadioButton::impl::PaintOwnerDrawn() {
 
 // -- Input
 
-// The buttons of a group need not follow one another in their parent, so that the native button
-// does not know them. Arrow keys and mnemonics click before they focus: only the focused and
-// checked button reports.
+// The buttons of a group need not follow one another in their parent, nor have the same one, so
+// that the native button does not know them. Arrow keys and mnemonics click before they focus: only
+// the focused and checked button reports.
 void RadioButton::impl::OnClicked() {
   HWND window = GetHandle();
-  if (IsChecked()) SetCheck();
+  if (group_ && IsChecked()) CheckAlone();
   if (!Owner() || GetFocus() != window || !IsChecked()) return;
   auto* owner = static_cast<RadioButton*>(Owner());
   owner->Clicked();
-  if (!IsWindow(window) || !group) return;
-  unsigned checked = CheckedIdOfGroup();
-  bool changed = checked != group->checkedId;
-  group->checkedId = checked;
-  if (changed) owner->GroupChanged();
+  if (!IsWindow(window) || !group_) return;
+  const unsigned checked = CheckedIdOfGroup();
+  if (std::exchange(group_->checkedId, checked) != checked) owner->GroupChanged();
 }
 
 }  // namespace Wexa

@@ -198,7 +198,7 @@ void Dialog::impl::ChooseDefaultButton() {
     if (widget->Type() != GuiType::Button) continue;
     auto* button = static_cast<Button*>(widget);
     if (!first) first = button;
-    if (static_cast<Button::impl*>(ImplOf(button))->isDefault) return SetDefaultButton(button);
+    if (static_cast<Button::impl*>(ImplOf(button))->IsDefault()) return SetDefaultButton(button);
   }
   SetDefaultButton(standard ? standard : first);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <ranges>
 
 #include "Label.h"
 #include "MFC/RadioButtonImplMFC.h"
@@ -194,31 +195,35 @@ void DialogBuilder::ResolveBuddies() {
 // group's ids follow one another, and the keyboard stays within it.
 void DialogBuilder::GroupRadioButtons() {
   using Key = std::pair<std::wstring, WexaObject*>;
-  std::map<Key, std::vector<RadioButton::impl*>> groups;
+  std::map<Key, std::vector<RadioButton*>> groups;
   std::map<WexaObject*, Key> previous;
   for (const auto& element : impl_.Elements()) {
     BaseGUIObject* widget = element.widget.get();
     WexaObject* parent = widget->GetParent();
     Key key;
     if (widget->Type() == GuiType::RadioButton) {
-      auto* radio = static_cast<RadioButton::impl*>(ImplOf(widget));
-      key = {radio->groupName, radio->groupName.empty() ? parent : nullptr};
-      groups[key].push_back(radio);
+      const std::wstring& name = static_cast<RadioButton::impl*>(ImplOf(widget))->GroupName();
+      key = {name, name.empty() ? parent : nullptr};
+      groups[key].push_back(static_cast<RadioButton*>(widget));
     }
     auto [place, isFirst] = previous.try_emplace(parent, key);
     if (isFirst ? key != Key() : place->second != key) ImplOf(widget)->Creation().style |= WS_GROUP;
     place->second = key;
   }
-  for (auto& [key, radios] : groups) {
-    auto group = std::make_shared<GroupInfo>();
-    for (RadioButton::impl* radio : radios) {
-      radio->Creation().controlId = NextControlId();
-      if (radio->checkedByForm) group->checkedId = radio->Creation().controlId;
-      radio->group = group;
-    }
-    group->firstId = radios.front()->Creation().controlId;
-    group->lastId = radios.back()->Creation().controlId;
+  for (const auto& [key, radios] : groups) MakeGroup(radios);
+}
+
+// Where the form checks several, the last one stays so.
+void DialogBuilder::MakeGroup(const std::vector<RadioButton*>& radios) {
+  auto group = std::make_shared<GroupInfo>();
+  for (RadioButton* radio : radios) {
+    ImplOf(radio)->Creation().controlId = NextControlId();
+    radio->SetGroupInfo(group);
   }
+  group->firstId = ImplOf(radios.front())->Creation().controlId;
+  group->lastId = ImplOf(radios.back())->Creation().controlId;
+  for (RadioButton* radio : radios | std::views::reverse)
+    if (radio->Checked()) radio->SetCheck();
 }
 
 }  // namespace Wexa

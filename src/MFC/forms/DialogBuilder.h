@@ -13,6 +13,7 @@ namespace Wexa {
 class FormReader;
 class Layout;
 class LayoutItem;
+class RadioButton;
 
 // Turns a form's model into the widgets and layouts of a dialog. Nothing native is made yet.
 class DialogBuilder {
@@ -47,6 +48,7 @@ class DialogBuilder {
   void NoteUnknown(const std::wstring& className);
   void ResolveBuddies();
   void GroupRadioButtons();
+  static void MakeGroup(const std::vector<RadioButton*>& radios);
 
   Dialog& dialog_;
   Dialog::impl& impl_;

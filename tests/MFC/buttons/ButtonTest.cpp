@@ -3,10 +3,9 @@
 #include "ButtonBox.h"
 #include "CheckBox.h"
 #include "Event.h"
-#include "MFC/ButtonImplMFC.h"
+#include "MFC/base/ControlIds.h"
 #include "MFC/base/WidgetColors.h"
 #include "RadioButton.h"
-#include "WexaException.h"
 #include "platform/Classes.h"
 #include "platform/ControlConstants.h"
 #include "platform/VirtualKeys.h"
@@ -19,7 +18,16 @@ std::string RadioXml(const std::string& name, const std::string& group) {
   return WidgetItem("QRadioButton", name, TextXml(name) + AttributeXml("buttonGroup", group));
 }
 
-class ButtonTest : public FormTest {};
+std::string True(const std::string& property) {
+  return PropertyXml(property, "bool", "true");
+}
+
+class ButtonTest : public FormTest {
+ protected:
+  void Click(const wchar_t* name) {
+    robot_.ClickCentreOf(Find<BaseGUIObject>(name).GetPlatformHandle());
+  }
+};
 
 TEST_F(ButtonTest, AClickReachesClickedOnceOnRelease) {
   Open(ColumnForm(TextWidget("QPushButton", "ok", "OK") +
@@ -81,10 +89,10 @@ TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
   EXPECT_EQ(toggle.GetPlatformHandle(), window);
   EXPECT_TRUE(toggle.GetCheck());
   EXPECT_EQ(toggle.GetWindowRect(), before);
-  EXPECT_EQ(toggle.GetText(), L"Toggle");
+  EXPECT_EQ(toggle.GetText(), L"toggle");
   int clicks = 0;
   toggle.Clicked.Connect([&] { ++clicks; });
-  robot_.ClickCentreOf(window);
+  Click(L"toggle");
   EXPECT_FALSE(toggle.GetCheck());
   EXPECT_EQ(clicks, 1);
   robot_.Key(VK_TAB);
@@ -106,17 +114,43 @@ TEST_F(ButtonTest, AnAdoptedNativeButtonGivesEvents) {
   EXPECT_EQ(presses, 1);
 }
 
-TEST_F(ButtonTest, AFormMayMakeAToggle) {
-  const auto flag = [](const char* name) { return PropertyXml(name, "bool", "true"); };
-  const std::string xml = WidgetXml("QPushButton", "toggle", flag("checkable") + flag("checked"));
-  EXPECT_TRUE(
-      static_cast<Button&>(*Make(ColumnForm(ItemXml(xml)))->GetElementByName(L"toggle")).GetCheck())
-      << "before it has a window";
-  Open(ColumnForm(ItemXml(xml)));
-  auto& toggle = Find<Button>(L"toggle");
-  EXPECT_TRUE(toggle.GetCheck());
-  robot_.ClickCentreOf(toggle.GetPlatformHandle());
-  EXPECT_FALSE(toggle.GetCheck());
+// A toggle made by its form, before it is shown and after, native and drawn by the library.
+TEST_F(ButtonTest, ATogglesCheckFollowsClicksInEveryStyleAndStays) {
+  using Style = Button::ButtonStyle;
+  struct Case {
+    const char* properties;
+    bool setBefore;
+    std::vector<Style> stylesBefore;
+    std::vector<Style> stylesAfter;
+  };
+  const std::string byForm = True("checkable") + True("checked");
+  const Case kCases[] = {{byForm.c_str(), false, {}, {}},
+                         {"", true, {}, {}},
+                         {"", true, {Style::Framed}, {}},
+                         {"", true, {}, {Style::Flat}},
+                         {"", true, {Style::Framed}, {Style::Native}}};
+  for (const Case& c : kCases) {
+    dialog_ = Make(ColumnForm(ButtonXml("toggle", c.properties)));
+    auto& toggle = Find<Button>(L"toggle");
+    if (c.setBefore) toggle.SetChecked(true);
+    for (const Style style : c.stylesBefore) toggle.SetStyle(style);
+    EXPECT_TRUE(toggle.GetCheck()) << "before it has a window";
+    dialog_->DoModeless(true);
+    Robot::PumpAll();
+    for (const Style style : c.stylesAfter) toggle.SetStyle(style);
+    const auto* native = static_cast<CButton*>(toggle.GetPlatformWindow());
+    EXPECT_EQ((native->GetButtonStyle() & BS_TYPEMASK) == BS_OWNERDRAW,
+              toggle.GetStyle() != Style::Native);
+    EXPECT_TRUE(toggle.GetCheck());
+    Click(L"toggle");
+    EXPECT_FALSE(toggle.GetCheck());
+    Click(L"toggle");
+    EXPECT_TRUE(toggle.GetCheck());
+    dialog_->Done(Dialog::Accepted);
+    EXPECT_TRUE(toggle.GetCheck()) << "kept";
+    dialog_->DoModeless(true);
+    EXPECT_TRUE(toggle.GetCheck()) << "shown again";
+  }
 }
 
 TEST_F(ButtonTest, BorderColorsKeepTheirAlphaFromStyleFourOn) {
@@ -166,13 +200,13 @@ TEST_F(ButtonTest, ABoxHasItsButtonsInTheFixedOrder) {
 TEST_F(ButtonTest, CheckBoxesKeepTheirStateThroughTheDialogsEnd) {
   Open(ColumnForm(WidgetItem("QCheckBox", "check", TextXml("On"))));
   auto& check = Find<CheckBox>(L"check");
-  robot_.ClickCentreOf(check.GetPlatformHandle());
+  Click(L"check");
   EXPECT_EQ(check.GetCheck(), WexaUtils::Checked);
   check.SetBorderRadius(4);
   check.SetBorderRadius(-1);
   EXPECT_EQ(check.GetBorderRadius(), 4);
   check.SetTristate(true);
-  robot_.ClickCentreOf(check.GetPlatformHandle());
+  Click(L"check");
   EXPECT_EQ(check.GetCheck(), WexaUtils::PartiallyChecked);
   dialog_->Done(Dialog::Accepted);
   EXPECT_EQ(check.GetPlatformHandle(), nullptr);
@@ -180,50 +214,97 @@ TEST_F(ButtonTest, CheckBoxesKeepTheirStateThroughTheDialogsEnd) {
   EXPECT_EQ(check.GetText(), L"On");
 }
 
-TEST_F(ButtonTest, RadioGroupsChangeApartFromEachOther) {
-  Open(ColumnForm(RadioXml("a1", "a") + RadioXml("a2", "a") + RadioXml("b1", "b") +
-                  RadioXml("b2", "b")));
-  int clicked = 0;
-  int changed = 0;
-  Find<RadioButton>(L"a2").Clicked.Connect([&] { ++clicked; });
-  Find<RadioButton>(L"a2").GroupChanged.Connect([&] { ++changed; });
-  HWND a2 = Find<RadioButton>(L"a2").GetPlatformHandle();
-  robot_.ClickCentreOf(Find<RadioButton>(L"b1").GetPlatformHandle());
-  robot_.ClickCentreOf(Find<RadioButton>(L"a1").GetPlatformHandle());
-  robot_.ClickCentreOf(a2);
-  EXPECT_EQ(clicked, 1);
-  EXPECT_EQ(changed, 1);
-  EXPECT_FALSE(Find<RadioButton>(L"a1").Checked());
-  EXPECT_TRUE(Find<RadioButton>(L"b1").Checked()) << "another group";
-  robot_.ClickCentreOf(a2);
-  EXPECT_EQ(clicked, 2);
-  EXPECT_EQ(changed, 1) << "it was the checked one already";
-  SendMessageW(Find<RadioButton>(L"b1").GetPlatformHandle(), BM_CLICK, 0, 0);
-  SendMessageW(a2, BM_CLICK, 0, 0);
-  EXPECT_EQ(clicked, 3) << "a click by the program brings the focus too";
-  Find<RadioButton>(L"a1").SetCheck();
-  EXPECT_TRUE(Find<RadioButton>(L"a1").Checked());
-  EXPECT_FALSE(Find<RadioButton>(L"a2").Checked());
+// -- Groups of radio buttons
+
+class RadioGroupTest : public ButtonTest {
+ protected:
+  RadioButton& Radio(const wchar_t* name) { return Find<RadioButton>(name); }
+  // The checked ones of all groups.
+  std::wstring Checked() {
+    std::wstring names;
+    for (const wchar_t* name : {L"a1", L"a2", L"b1", L"b2"})
+      if (Radio(name).Checked()) names += name + std::wstring(L" ");
+    return names;
+  }
+  // Every GroupChanged and Clicked.
+  void Listen() {
+    for (const wchar_t* name : {L"a1", L"a2", L"b1", L"b2"}) {
+      Radio(name).Clicked.Connect([this, name] { heard_ += name + std::wstring(L" "); });
+      Radio(name).GroupChanged.Connect([this] { heard_ += L"changed "; });
+    }
+  }
+  std::wstring HeardOfClick(const wchar_t* name) {
+    heard_.clear();
+    Click(name);
+    return heard_;
+  }
+
+  static std::string Boxed(const std::string& items) {
+    return ItemXml(
+        WidgetXml("QGroupBox", "", "<layout class=\"QVBoxLayout\">" + items + "</layout>"));
+  }
+  // Two groups, both over two group boxes.
+  static std::string Form() {
+    return ColumnForm(Boxed(RadioXml("a1", "a") + RadioXml("b1", "b")) +
+                      Boxed(RadioXml("a2", "a") + RadioXml("b2", "b")));
+  }
+
+ private:
+  std::wstring heard_;
+};
+
+TEST_F(RadioGroupTest, OneOfAGroupIsCheckedWhereverItsButtonsStand) {
+  Open(Form());
+  Listen();
+  EXPECT_EQ(Checked(), L"");
+  EXPECT_EQ(HeardOfClick(L"b1"), L"b1 changed ");
+  EXPECT_EQ(HeardOfClick(L"a1"), L"a1 changed ");
+  EXPECT_EQ(HeardOfClick(L"a2"), L"a2 changed ");
+  EXPECT_EQ(Checked(), L"a2 b1 ");
+  EXPECT_EQ(HeardOfClick(L"a2"), L"a2 ") << "it was the checked one already";
 }
 
-TEST_F(ButtonTest, OperationsWithoutAWindowSayThatTheControlIsNotValid) {
-  Button button;
-  EXPECT_EQ(button.Type(), BaseGUIObject::GuiType::Button);
-  auto expectInvalid = [](auto operation) {
-    try {
-      operation();
-      ADD_FAILURE() << "nothing was thrown";
-    } catch (const std::exception& error) {
-      EXPECT_STREQ(error.what(), "Control is not valid.");
-    }
-  };
-  expectInvalid([&] { button.Show(true, false); });
-  expectInvalid([&] { button.Enable(true, true); });
-  expectInvalid([&] { button.GetClientRect(); });
-  expectInvalid([&] { button.SetChecked(true); });
-  button.SetText(L"Kept");
-  EXPECT_EQ(button.GetText(), L"Kept");
-  EXPECT_FALSE(button.Create(nullptr));
+TEST_F(RadioGroupTest, AClickAfterTheProgramsCheckIsToldAsAChange) {
+  Open(Form());
+  Listen();
+  Click(L"a1");
+  Radio(L"a2").SetCheck();
+  EXPECT_EQ(Checked(), L"a2 ");
+  EXPECT_EQ(HeardOfClick(L"a2"), L"a2 ");
+  Radio(L"a1").SetCheck();
+  EXPECT_EQ(HeardOfClick(L"a2"), L"a2 changed ");
+}
+
+TEST_F(RadioGroupTest, ChecksCountBeforeTheDialogIsShownAndAfterItsEnd) {
+  dialog_ = Make(Form());
+  Radio(L"a1").SetCheck();
+  Radio(L"a2").SetCheck();
+  Radio(L"b1").SetCheck();
+  EXPECT_EQ(Checked(), L"a2 b1 ");
+  for (int showing = 0; showing < 2; ++showing) {
+    dialog_->DoModeless(true);
+    EXPECT_EQ(Checked(), L"a2 b1 ") << showing;
+    dialog_->Done(Dialog::Accepted);
+    EXPECT_EQ(Checked(), L"a2 b1 ") << showing;
+  }
+}
+
+TEST_F(RadioGroupTest, TheLastOneThatTheFormChecksIsChecked) {
+  Open(ColumnForm(RadioXml("a1", "a", True("checked")) + RadioXml("a2", "a", True("checked")) +
+                  RadioXml("b1", "b", True("checked")) + RadioXml("b2", "b")));
+  EXPECT_EQ(Checked(), L"a2 b1 ");
+}
+
+TEST_F(RadioGroupTest, IdsMayBeginAgainWithinAGroup) {
+  constexpr UINT kWidgetIds = 6;  // each widget takes one before the groups take theirs
+  while (NextControlId() != 65535 - kWidgetIds - 1) {
+  }
+  Open(Form());
+  Listen();
+  EXPECT_GT(Radio(L"a1").GetGroupInfo()->firstId, Radio(L"a2").GetGroupInfo()->lastId);
+  EXPECT_EQ(HeardOfClick(L"a1"), L"a1 changed ");
+  EXPECT_EQ(HeardOfClick(L"a2"), L"a2 changed ");
+  EXPECT_EQ(Checked(), L"a2 ");
 }
 
 }  // namespace
