@@ -1,6 +1,7 @@
 #include "classes/MessagePump.h"
 
 #include "platform/Classes.h"
+#include "platform/PreTranslation.h"
 #include "window/Queue.h"
 
 namespace {
@@ -10,9 +11,13 @@ HWND Above(HWND window) {
   return isChild ? GetParent(window) : nullptr;
 }
 
-// Asks the objects from the message's window up to its top-level window.
+// Asks the windows and their objects from the message's own up to its top-level one.
 bool PreTranslate(MSG& message) {
   for (HWND window = message.hwnd; window; window = Above(window)) {
+    const LRESULT answer =
+        SendMessageW(window, WM_PRETRANSLATE, 0, reinterpret_cast<LPARAM>(&message));
+    if (answer == PRETRANSLATE_USED) return true;
+    if (answer == PRETRANSLATE_DISPATCH) return false;
     CWnd* object = CWnd::FromHandlePermanent(window);
     if (object && object->PreTranslateMessage(&message)) return true;
   }

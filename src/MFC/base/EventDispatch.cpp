@@ -11,6 +11,7 @@
 #include "MFC/base/InputWatch.h"
 #include "WexaUtils.h"
 #include "layout/Layout.h"
+#include "platform/PreTranslation.h"
 #include "platform/SessionState.h"
 #include "platform/Theme.h"
 #include "platform/VirtualKeys.h"
@@ -106,6 +107,7 @@ class EventDispatch {
       case kDeferredCallMessage: RunDeferredCall(&widget_, wParam_); return Default(message);
       case WM_GETCONTROLPALETTE: return OnGetPalette();
       case WM_GETCONTROLSTATE: return OnGetState();
+      case WM_PRETRANSLATE: return OnPreTranslate();
       case WM_DESTROY: return OnDestroy();
       case WM_NCDESTROY: return OnFinalDestroy();
       default: return Default(message);
@@ -345,6 +347,16 @@ class EventDispatch {
     const LRESULT result = Default(WM_GETCONTROLSTATE);
     if (lParam_) impl_.RefineState(*reinterpret_cast<ControlState*>(lParam_));
     return result;
+  }
+
+  LRESULT OnPreTranslate() {
+    const auto procedure = widget_.PreTranslateMessage();  // it may replace itself
+    if (!procedure) return PRETRANSLATE_GOON;
+    switch (procedure(reinterpret_cast<MSG*>(lParam_))) {
+      case 1: return PRETRANSLATE_USED;
+      case 0: return PRETRANSLATE_DISPATCH;
+      default: return PRETRANSLATE_GOON;
+    }
   }
 
   LRESULT OnDestroy() {

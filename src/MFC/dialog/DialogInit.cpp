@@ -214,13 +214,6 @@ bool Dialog::impl::OnPreTranslate(MSG& message, BOOL& result) {
   if (!Owner()) return false;
   if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN)
     window_->OnInputWithin(*Owner(), message.hwnd, message.message);
-  if (const auto& procedure = Owner()->PreTranslateMessage()) {
-    int answer = procedure(&message);
-    if (answer == 0 || answer == 1) {
-      result = answer;
-      return true;
-    }
-  }
   if (!FollowBuddyMnemonic(message) && !FollowContainerMnemonic(message) &&
       !TurnHoveredArea(message))
     return false;

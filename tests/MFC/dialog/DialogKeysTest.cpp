@@ -143,27 +143,50 @@ TEST_F(DialogKeysTest, ADeadBuddyIsForgotten) {
   EXPECT_EQ(FocusedName(), L"edit");
 }
 
+// By the pre-filter of the dialog or of any widget from the focus up.
 TEST_F(DialogKeysTest, AHostMayConsumeMessagesOrKeepThemFromTheDialogKeys) {
-  Open(ColumnForm(LineEdit("a") + LineEdit("b")));
-  int answer = 1;
-  dialog_->SetPreTranslateMessage([&](void* message) {
-    return static_cast<MSG*>(message)->message == WM_KEYDOWN ? answer : 2;
+  const std::string group = ItemXml(WidgetXml(
+      "QGroupBox", "group", "<layout class=\"QVBoxLayout\">" + LineEdit("a") + "</layout>"));
+  for (const wchar_t* name : {L"", L"group", L"a"}) {
+    Open(ColumnForm(group + LineEdit("b")));
+    BaseGUIObject& filtering = *name ? Find<BaseGUIObject>(name) : *dialog_;
+    int answer = 1;
+    filtering.SetPreTranslateMessage([&](void* message) {
+      return static_cast<MSG*>(message)->message == WM_KEYDOWN ? answer : 2;
+    });
+    int reached = 0;
+    Find<BaseGUIObject>(L"a").SetEventProcedure([&](BaseGUIObject*, Event* event) {
+      if (event->GetType() == Event::KeyPress) ++reached;
+      return false;
+    });
+    robot_.Tab();
+    EXPECT_EQ(FocusedName(), L"a");
+    EXPECT_EQ(reached, 0) << "consumed";
+    answer = 0;
+    robot_.Tab();
+    EXPECT_EQ(FocusedName(), L"a");
+    EXPECT_GE(reached, 1) << "dispatched, without the dialog's keys";
+    answer = 5;
+    robot_.Tab();
+    EXPECT_EQ(FocusedName(), L"b");
+  }
+}
+
+TEST_F(DialogKeysTest, AFilterComesBeforeAWidgetsOwnKeysAndMayEndTheDialog) {
+  Open(ColumnForm(PushButton("drawn")));
+  auto& button = Find<Button>(L"drawn");
+  button.SetStyle(Button::ButtonStyle::Flat);  // takes Return before it is dispatched
+  int clicks = 0;
+  button.Clicked.Connect([&] { ++clicks; });
+  Focus(L"drawn");
+  button.SetPreTranslateMessage([&](void* message) {
+    if (static_cast<MSG*>(message)->message != WM_KEYDOWN) return 2;
+    dialog_.reset();
+    return 1;
   });
-  int reached = 0;
-  Find<BaseGUIObject>(L"a").SetEventProcedure([&](BaseGUIObject*, Event* event) {
-    if (event->GetType() == Event::KeyPress) ++reached;
-    return false;
-  });
-  robot_.Tab();
-  EXPECT_EQ(FocusedName(), L"a");
-  EXPECT_EQ(reached, 0) << "consumed";
-  answer = 0;
-  robot_.Tab();
-  EXPECT_EQ(FocusedName(), L"a");
-  EXPECT_GE(reached, 1) << "dispatched, without the dialog's keys";
-  answer = 5;
-  robot_.Tab();
-  EXPECT_EQ(FocusedName(), L"b");
+  robot_.Key(VK_RETURN);
+  EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(dialog_, nullptr);
 }
 
 }  // namespace
