@@ -28,7 +28,7 @@ struct CreationRecord {
   DWORD style = WS_CHILD | WS_VISIBLE;
   DWORD exStyle = 0;
   UINT controlId = 0;
-  bool enabled = true;
+  bool enabled = true;  // as told to remember, also from one showing to the next
 };
 
 // The common behaviour of all widgets with a native window.
@@ -207,7 +207,6 @@ class BaseImplMFC : public BaseImpl {
   std::shared_ptr<CFont> font_;  // null for the default
   bool mouseTracked_ = false;
   bool acceptDrops_ = false;
-  bool enabledState_ = true;
   Rect lastGeometry_;
   std::vector<BaseGUIObject*> children_;
   std::weak_ptr<BaseImpl> holder_;  // the widget that has this one among its children

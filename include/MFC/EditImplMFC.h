@@ -52,7 +52,8 @@ class Edit::impl : public BaseImplMFC {
   int limit_ = -1;
   bool frame_ = true;
   int radius_ = GetEditRadius();  // 96-DPI units
-  bool changedByProgram_ = false;
+  bool changedByProgram_ = false;  // notifications are then not the user's
+  bool isBeingMade_ = false;       // nor anybody's
 };
 
 }  // namespace Wexa

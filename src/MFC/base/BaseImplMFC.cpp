@@ -134,10 +134,10 @@ bool BaseImplMFC::IsVisible() {
 
 void BaseImplMFC::Enable(bool enable, bool remember) {
   CWnd& window = Window();
-  bool keepsDisabled = enable && !enabledState_ && !remember;
+  bool keepsDisabled = enable && !creation_.enabled && !remember;
   if (!keepsDisabled) {
     window.EnableWindow(enable);
-    if (remember) enabledState_ = enable;
+    if (remember) creation_.enabled = enable;
   }
   window.Invalidate(true);
 }

@@ -3,6 +3,7 @@
 #include "MFC/ContainerImpl.h"
 #include "MFC/base/WidgetColors.h"
 #include "RGBColor.h"
+#include "WexaUtils.h"
 
 namespace Wexa {
 
@@ -13,6 +14,13 @@ class ChildDialog::impl : public ContainerImpl {
   // Its parent's background, unless it was given one.
   COLORREF BackgroundColor() override {
     return hasBackground_ ? DialogBackground(GetSkinManager()) : ContainerImpl::BackgroundColor();
+  }
+
+  // Children that the form places stand one unit further in for each whole step of the scale.
+  void TakeChild(BaseGUIObject& child, const FormReader&) override {
+    const int offset = static_cast<int>(WexaUtils::GetScaleFactor());
+    CRect& place = ImplOf(&child)->Creation().rect;
+    place = place.Moved(offset, offset);
   }
 
   void SetBackground(COLORREF color) {

@@ -16,7 +16,7 @@ constexpr int kFrame = 2;
 constexpr int kCaretRoom = 4;  // device pixels
 constexpr DWORD kAlignmentMask = ES_CENTER | ES_RIGHT;
 
-// Raised while the program sets a text: its notifications are then not the user's.
+// A flag that is up for a while.
 class FlagGuard {
  public:
   explicit FlagGuard(bool& flag) : flag_(flag) { flag_ = true; }
@@ -61,6 +61,7 @@ bool Edit::impl::CreateNative(CWnd* parent) {
   if (passwordMode_ == PasswordMode::Password) window_->SetPasswordChar(kPasswordCharacter);
   if (!placeHolder_.empty()) window_->SetCueBanner(placeHolder_);
   if (limit_ >= 0) window_->SetLimitText(static_cast<UINT>(limit_));
+  FlagGuard quiet(isBeingMade_);
   SetText(Creation().text);
   return true;
 }
@@ -154,7 +155,7 @@ void Edit::impl::SetFrameMode(bool frame) {
 }
 
 void Edit::impl::OnNotify(int code) {
-  if (!Owner()) return;
+  if (!Owner() || isBeingMade_) return;
   auto& owner = *static_cast<Edit*>(Owner());
   if (code == EN_KILLFOCUS) return owner.EditingFinished();
   if (code != EN_CHANGE) return;

@@ -164,6 +164,56 @@ TEST_F(DialogTest, ADialogThatRefusesInitialisationIsNotShown) {
   EXPECT_EQ(dialog.DoModal(), kOwnState) << "ended while it was initialised";
 }
 
+// What was remembered counts in the next showing, what was not does not.
+TEST_F(DialogTest, RememberedDisablingOutlastsAShowing) {
+  struct Step {
+    bool enable;
+    bool remember;
+  };
+  struct Case {
+    const char* byForm;
+    std::vector<Step> steps;
+    bool enabledAfter;
+    bool enabledAgain;
+    bool temporaryEnables;  // whether Enable(true, false) enables it in the second showing
+  };
+  const Case kCases[] = {{"true", {}, true, true, true},
+                         {"true", {{false, true}}, false, false, false},
+                         {"true", {{false, false}}, false, true, true},
+                         {"true", {{false, true}, {true, false}}, false, false, false},
+                         {"true", {{false, true}, {true, true}}, true, true, true},
+                         {"false", {}, false, false, false},
+                         {"false", {{true, true}}, true, true, true},
+                         {"false", {{true, true}, {false, false}}, false, true, true}};
+  for (const Case& c : kCases) {
+    Open(ColumnForm(LineEdit("edit", PropertyXml("enabled", "bool", c.byForm))));
+    auto& edit = Find<Edit>(L"edit");
+    for (const Step& step : c.steps) edit.Enable(step.enable, step.remember);
+    const auto at = std::to_string(&c - kCases);
+    EXPECT_EQ(edit.IsEnabled(), c.enabledAfter) << at;
+    dialog_->Done(Dialog::Accepted);
+    dialog_->DoModeless(true);
+    EXPECT_EQ(edit.IsEnabled(), c.enabledAgain) << at;
+    edit.Enable(false, false);
+    edit.Enable(true, false);
+    EXPECT_EQ(edit.IsEnabled(), c.temporaryEnables) << at;
+  }
+}
+
+TEST_F(DialogTest, ATextThatIsThereFromTheBeginningIsNoChange) {
+  dialog_ = Make(ColumnForm(LineEdit("edit")));
+  std::wstring told;
+  Find<Edit>(L"edit").TextChanged.Connect([&](const std::wstring& text) { told += text; });
+  Find<Edit>(L"edit").SetText(L"before");
+  for (int showing = 0; showing < 2; ++showing) {
+    dialog_->DoModeless(true);
+    Robot::PumpAll();
+    EXPECT_EQ(told, L"");
+  }
+  Find<Edit>(L"edit").SetText(L"shown");
+  EXPECT_EQ(told, L"shown");
+}
+
 TEST_F(DialogTest, ANestedModalDialogDisablesItsOwnerOnly) {
   auto& outer = Scripted(ColumnForm(LineEdit("edit")));
   int innerResult = -1;
