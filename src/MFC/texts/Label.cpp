@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "MFC/BaseImplMFC.h"
 #include "MFC/EventDispatch.h"
@@ -48,10 +49,13 @@ class LabelWnd : public CStatic {
   LRESULT Indent(UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
     if (lParam == 0) return result;
+    RECT sides = indent;  // the rectangle is one of the screen
+    if (GetWindowLongPtrW(GetSafeHwnd(), GWL_EXSTYLE) & WS_EX_LAYOUTRTL)
+      std::swap(sides.left, sides.right);
     auto& client = *reinterpret_cast<RECT*>(lParam);
-    client.left = std::min(client.left + indent.left, client.right);
-    client.top = std::min(client.top + indent.top, client.bottom);
-    client.right = std::max(client.right - indent.right, client.left);
+    client.left = std::min(client.left + sides.left, client.right);
+    client.top = std::min(client.top + sides.top, client.bottom);
+    client.right = std::max(client.right - sides.right, client.left);
     return result;
   }
 };
