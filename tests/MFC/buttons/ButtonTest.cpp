@@ -14,8 +14,13 @@
 namespace Wexa {
 namespace {
 
-std::string RadioXml(const std::string& name, const std::string& group) {
-  return WidgetItem("QRadioButton", name, TextXml(name) + AttributeXml("buttonGroup", group));
+std::string ButtonXml(const std::string& name, const std::string& more = "") {
+  return TextWidget("QPushButton", name, name, more);
+}
+
+std::string RadioXml(const std::string& name, const std::string& group,
+                     const std::string& more = "") {
+  return TextWidget("QRadioButton", name, name, more + AttributeXml("buttonGroup", group));
 }
 
 std::string True(const std::string& property) {
@@ -89,7 +94,7 @@ TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
   EXPECT_EQ(toggle.GetPlatformHandle(), window);
   EXPECT_TRUE(toggle.GetCheck());
   EXPECT_EQ(toggle.GetWindowRect(), before);
-  EXPECT_EQ(toggle.GetText(), L"toggle");
+  EXPECT_EQ(toggle.GetText(), L"Toggle");
   int clicks = 0;
   toggle.Clicked.Connect([&] { ++clicks; });
   Click(L"toggle");

@@ -13,6 +13,7 @@
 #include "MFC/DialogImplMFC.h"
 #include "MFC/base/DialogFont.h"
 #include "MultiLineEdit.h"
+#include "RadioButton.h"
 #include "RichEdit.h"
 #include "Splitter.h"
 #include "StackedDialog.h"
