@@ -1,5 +1,7 @@
 #include "SkinManagerColor.h"
 
+#include <gtest/gtest.h>
+
 #include <memory>
 
 #include "RGBColor.h"

@@ -1,5 +1,7 @@
 // Order of the queue, posting, timers, keys, settings.
 
+#include <gmock/gmock.h>
+
 #include <functional>
 #include <thread>
 

@@ -65,9 +65,9 @@ HRGN CreateEllipticRgn(int left, int top, int right, int bottom) {
 }
 
 int CombineRgn(HRGN result, HRGN a, HRGN b, int mode) {
-  PixelRegion* target = Table().Find(result);
-  const PixelRegion* first = Table().Find(a);
-  const PixelRegion* second = Table().Find(b);
+  PixelRegion* target = Regions().Find(result);
+  const PixelRegion* first = Regions().Find(a);
+  const PixelRegion* second = Regions().Find(b);
   if (!target || !first || (!second && mode != RGN_COPY)) return RGN_ERROR;
   PixelRegion area = *first;
   if (mode != RGN_COPY && !Combine(area, *second, mode)) return RGN_ERROR;
@@ -87,7 +87,7 @@ BOOL PtInRegion(HRGN region, int x, int y) {
 }
 
 int GetRgnBox(HRGN region, RECT* box) {
-  const PixelRegion* area = Table().Find(region);
+  const PixelRegion* area = Regions().Find(region);
   if (!area || !box) return RGN_ERROR;
   *box = area->Bounds();
   return Kind(*area);

@@ -5,7 +5,7 @@
 namespace core {
 namespace {
 
-Click& Latest() {
+Click& LatestClick() {
   return CurrentSession().latestClick;
 }
 

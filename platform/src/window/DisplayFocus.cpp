@@ -1,5 +1,7 @@
 #include "window/DisplayFocus.h"
 
+#include <algorithm>
+
 #include "window/Session.h"
 
 namespace core {

@@ -14,7 +14,7 @@ namespace {
 
 using display::Input;
 
-LatestKey& Latest() {
+KeyStroke& LatestKey() {
   return CurrentSession().latestKey;
 }
 

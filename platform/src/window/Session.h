@@ -26,7 +26,7 @@ struct Key {
 };
 
 // The latest key message and the characters that it gives.
-struct LatestKey {
+struct KeyStroke {
   MSG message{};
   std::u32string text;
 };
@@ -93,7 +93,7 @@ struct Session {
 
   static constexpr int kKeyCount = 256;
   std::array<Key, kKeyCount> keys;
-  LatestKey latestKey;
+  KeyStroke latestKey;
   bool keyboardUsedLast = false;
 
   HWND hoveredRoot = nullptr;

@@ -1,6 +1,9 @@
 #include "window/Timers.h"
 
+#include <algorithm>
+
 #include "window/Session.h"
+#include "window/WindowObject.h"
 
 namespace core {
 namespace {

@@ -13,7 +13,8 @@ namespace {
 // The words of a name, in small letters.
 std::vector<std::string> WordsOf(const std::string& name) {
   std::vector<std::string> words(1);
-  for (const unsigned char c : name) {
+  for (const char letter : name) {
+    const auto c = static_cast<unsigned char>(letter);
     if (std::isalpha(c)) {
       words.back().push_back(static_cast<char>(std::tolower(c)));
     } else if (!words.back().empty()) {
