@@ -7,6 +7,8 @@
 #include <list>
 #include <memory>
 #include <mutex>
+#include <tuple>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -66,8 +68,9 @@ class CallbackList {
   ConnectionId Connect(Callback callback) {
     return state_->Add(ConnectionMode::Direct, std::move(callback), nullptr);
   }
-  // Posts each call to the receiver's window, to run after the current handler. Calls are dropped
-  // while the receiver has no window, and when it is gone.
+  // Posts each call to the receiver's window, to run after the current handler, with copies of the
+  // arguments, those passed by reference too. Calls are dropped while the receiver has no window,
+  // and when it is gone.
   ConnectionId Connect(BaseGUIObject* receiver, Callback callback) {
     return state_->Add(ConnectionMode::Queued, std::move(callback), receiver);
   }
@@ -130,7 +133,10 @@ class CallbackList {
       if (!CanReceiveDeferredCalls(connection.receiver)) return;
       while (!pending.empty() && pending.front()->done) pending.pop_front();
       auto call = std::make_shared<DeferredCall>();
-      call->call = [callback = connection.callback, args...] { callback(args...); };
+      call->call = [callback = connection.callback,
+                    values = std::tuple<std::decay_t<Args>...>(args...)]() mutable {
+        std::apply(callback, values);
+      };
       pending.push_back(call);
       PostDeferredCall(connection.receiver, call);
     }

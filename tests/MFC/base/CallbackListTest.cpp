@@ -141,6 +141,22 @@ TEST_F(QueuedCallTest, CallsForAReceiverThatIsGoneAreDropped) {
   EXPECT_EQ(calls, 0);
 }
 
+TEST_F(QueuedCallTest, ReferencesReachWhoIsCalledAtOnceAndCopiesWhoIsCalledLater) {
+  Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
+  CallbackList<std::vector<int>&> list;
+  std::size_t seen = 0;
+  list.Connect([](std::vector<int>& values) { values.push_back(2); });
+  list.Connect(dialog_.get(), [&](std::vector<int>& values) {
+    values.push_back(3);
+    seen = values.size();
+  });
+  std::vector<int> values{1};
+  list(values);
+  Robot::PumpAll();
+  EXPECT_EQ(values, (std::vector<int>{1, 2}));
+  EXPECT_EQ(seen, 3u);
+}
+
 TEST_F(QueuedCallTest, AReceiverGetsCallsAgainWhenItsWindowIsBack) {
   Open(ColumnForm(WidgetItem("QLineEdit", "edit")));
   List list;
