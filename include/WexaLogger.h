@@ -12,7 +12,7 @@
 // Any thread may log.
 class WEXA_API WexaLogger {
  public:
-  enum ErrorCode { Info = 0, Warning = 1, Error = 2, FatalError = 3, Exception = 4 };
+  enum ErrorCode : int { Info = 0, Warning = 1, Error = 2, FatalError = 3, Exception = 4 };
 
   static WexaLogger& GetInstance();
   WexaLogger(const WexaLogger&) = delete;

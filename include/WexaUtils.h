@@ -25,17 +25,17 @@ struct PluginVersionInfo {
 // What widgets share: the scale factor, pictures, and conversions to and from platform values.
 class WEXA_API WexaUtils {
  public:
-  enum CheckBoxStates { Unchecked = 0, Checked = 1, PartiallyChecked = 2 };
-  enum ImageTypes { Unknown = 0, BMP = 1, GIF = 2, JPG = 3, PNG = 4, ICO = 6, CUR = 7 };
+  enum CheckBoxStates : int { Unchecked = 0, Checked = 1, PartiallyChecked = 2 };
+  enum ImageTypes : int { Unknown = 0, BMP = 1, GIF = 2, JPG = 3, PNG = 4, ICO = 6, CUR = 7 };
   // How a picture gets its size. Those that fit or fill take the rest from a target rectangle.
-  enum ScalePicture {
+  enum ScalePicture : int {
     ScaleByFactor = 0,  // by the screen's scale factor
     KeepSize = 1,
     FitWidth = 2,
     FitHeight = 3,
     FillTarget = 4
   };
-  enum CursorTypes {
+  enum CursorTypes : int {
     Custom = 1,  // the dialog's own; without one the arrow
     Wait = 2,
     IBeam = 3,
