@@ -18,6 +18,7 @@ class WEXA_API bad_any_cast : public std::bad_cast {
 // Holds at most one copyable value of any type: the item data of lists and combo boxes.
 class WEXA_API any {
  public:
+  // What a holder of any type answers.
   class WEXA_API placeholder {
    public:
     virtual ~placeholder();
@@ -37,6 +38,7 @@ class WEXA_API any {
     T held;
   };
 
+  // Empty.
   any() = default;
   template <typename T>
   requires(!std::is_same_v<std::decay_t<T>, any>) any(T&& value)
@@ -46,6 +48,7 @@ class WEXA_API any {
   any& operator=(const any& other) { return *this = any(other); }
   any& operator=(any&&) noexcept = default;
 
+  // Whether there is no value.
   bool empty() const { return content_ == nullptr; }
   // typeid(void) when empty.
   const std::type_info& type() const { return empty() ? typeid(void) : content_->type(); }

@@ -30,6 +30,7 @@ class WEXA_API Button : public BaseGUIObject {
     Link = 7
   };
 
+  // Without a native window: the dialog that holds the widget makes it.
   Button();
   // Adopts a native button object, whose window may exist already.
   explicit Button(std::shared_ptr<CButton> native);
@@ -38,6 +39,7 @@ class WEXA_API Button : public BaseGUIObject {
   // Fired by a click: pointer, Space, Return on the default button, mnemonic.
   CallbackList<> Clicked;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;

@@ -25,17 +25,20 @@ class WEXA_API ButtonBox : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   ButtonBox();
   // A box of the buttons whose bits are set.
   explicit ButtonBox(unsigned standardButtons);
   ~ButtonBox() override;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
   // Empty when the box has no such button.
   std::shared_ptr<Button> GetButton(StandardButton button);
+  // A row, or a column when vertical. The box is laid out again.
   void SetOrientation(bool vertical);
 
  private:

@@ -11,9 +11,11 @@ class WEXA_API ChildDialog : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   ChildDialog();
   ~ChildDialog() override;
 
+  // As BaseGUIObject says.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
 
@@ -21,6 +23,7 @@ class WEXA_API ChildDialog : public BaseGUIObject {
   void SetVisible(bool visible);
   // 0x00RRGGBB.
   void SetBackgroundColor(int color);
+  // The colour set, else that of the skin, as 0x00RRGGBB.
   int BackgroundColor();
 
  private:

@@ -12,9 +12,11 @@ class WEXA_API DoubleSpinEdit : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   DoubleSpinEdit();
   ~DoubleSpinEdit() override;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
@@ -22,6 +24,7 @@ class WEXA_API DoubleSpinEdit : public BaseGUIObject {
   // The value is kept within the range.
   void SetRange(double minimum, double maximum);
   void SetValue(double value);
+  // As set, kept within the range.
   double GetValue() const;
   // Shown before and after the value.
   void SetPrefix(const std::wstring& prefix);

@@ -16,9 +16,11 @@ class WEXA_API DrawElement : public BaseGUIObject {
   // Gets the area to paint in device pixels; the background is there already.
   using PaintProcedure = std::function<void(Painter&, const Rect&)>;
 
+  // Without a native window: the dialog that holds the widget makes it.
   DrawElement();
   ~DrawElement() override;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;

@@ -12,16 +12,19 @@ class WEXA_API GroupBox : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   GroupBox();
   ~GroupBox() override;
 
   // Fired with the new state when the user, or the host, switches a checkable box.
   CallbackList<bool> Toggled;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
+  // "&" marks the mnemonic, which gives the focus to what is in the box.
   void SetTitle(const std::wstring& title);
   std::wstring GetTitle();
   enum class TitleAlignment { Left = 0, Center = 1, Right = 2 };

@@ -17,9 +17,11 @@ class WEXA_API Label : public BaseGUIObject {
 
   enum class Alignment { Left = 0, Center = 1, Right = 2 };
 
+  // Without a native window: the dialog that holds the widget makes it.
   Label();
   ~Label() override;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
@@ -31,8 +33,8 @@ class WEXA_API Label : public BaseGUIObject {
   void SetVerticallyCentered(bool centered);
   // A wrapped label's height depends on its width.
   void SetWordWrap(bool wrap);
-  // Space, in 96-DPI units, between the text and the edges that it is aligned to; none for less than
-  // 0, and none at an edge from which the text is centred.
+  // Space, in 96-DPI units, between the text and the edges that it is aligned to; none for less
+  // than 0, and none at an edge from which the text is centred.
   void SetIndent(int units);
   void SetFont(const FontData& font);
   // Shows a picture, grey while the label is disabled. What fits or fills follows the label's size.

@@ -13,9 +13,11 @@ class WEXA_API ListBox : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   ListBox();
   ~ListBox() override;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;

@@ -12,14 +12,18 @@ class WEXA_API MultiLineEdit : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   MultiLineEdit();
   ~MultiLineEdit() override;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
+  // Replaces the text. Lines end with a line feed.
   void SetText(const std::wstring& text);
+  // The whole text, also after the window is gone.
   std::wstring GetText() const;
 
  private:

@@ -12,16 +12,20 @@ class WEXA_API ProgressBar : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   ProgressBar();
   ~ProgressBar() override;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;
 
   // The value is kept within the range. From 0 to 0 the bar is indeterminate.
   void SetRange(int minimum, int maximum);
+  // Repaints only when the bar looks different.
   void SetValue(int value);
+  // As set, kept within the range.
   int GetValue() const;
   int GetMinimum() const;
   int GetMaximum() const;

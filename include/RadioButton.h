@@ -22,6 +22,7 @@ class WEXA_API RadioButton : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   RadioButton();
   ~RadioButton() override;
 
@@ -30,6 +31,7 @@ class WEXA_API RadioButton : public BaseGUIObject {
   // Fired after Clicked when another button of the group was checked before.
   CallbackList<> GroupChanged;
 
+  // As BaseGUIObject says. IdealSize is what the content asks for at the widget's font.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
   Size IdealSize() override;

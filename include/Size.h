@@ -10,15 +10,19 @@ namespace Wexa {
 // A width and a height. Sums wrap around as 32-bit integers.
 class WEXA_API Size {
  public:
+  // 0 by 0.
   constexpr Size() = default;
   constexpr Size(int width, int height) : width_(width), height_(height) {}
+  // The same numbers as a native size.
   constexpr Size(const CSize& size) : width_(size.cx), height_(size.cy) {}
 
+  // Whether they are pixels or 96-DPI units is said where sizes are given.
   constexpr int Width() const { return width_; }
   constexpr int Height() const { return height_; }
   constexpr void SetWidth(int width) { width_ = width; }
   constexpr void SetHeight(int height) { height_ = height; }
 
+  // Component-wise.
   constexpr Size& operator+=(const Size& other) {
     width_ = Sum(width_, other.width_);
     height_ = Sum(height_, other.height_);

@@ -51,8 +51,8 @@ class WEXA_API SkinManager {
   bool LoadSkin(SkinMode mode, bool lockColors, bool detach);
   // The same, unlocked and detached.
   bool SetSkinMode(SkinMode mode);
-  // Shows what the other shows, locked slots too: takes over its colours, what they fall back on and
-  // its state, and calls the mode Custom. Always true.
+  // Shows what the other shows, locked slots too: takes over its colours, what they fall back on
+  // and its state, and calls the mode Custom. Always true.
   bool SetCustomSkin(const SkinManager& other);
   // Loads a palette below a parent; null, or this skin, stands for none. A skin that is its own
   // parent and was initialised before is left as it is.

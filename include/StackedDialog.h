@@ -13,15 +13,19 @@ class WEXA_API StackedDialog : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   StackedDialog();
   ~StackedDialog() override;
 
+  // As BaseGUIObject says.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
 
+  // The last page from now on; null is ignored. The first one is shown.
   void AddChildDialog(ChildDialog* page);
   // Null for an index out of range.
   virtual ChildDialog* GetPage(int index);
+  // -1 without pages.
   virtual int GetCurrentIndex();
   // An index out of range changes nothing, but the area is repainted.
   virtual void SetCurrentIndex(int index);

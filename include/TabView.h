@@ -17,12 +17,14 @@ class WEXA_API TabView : public BaseGUIObject {
  public:
   class impl;
 
+  // Without a native window: the dialog that holds the widget makes it.
   TabView();
   ~TabView() override;
 
   // Fired with the new index after the current page changed.
   CallbackList<int> CurrentChanged;
 
+  // As BaseGUIObject says.
   bool Create(HWND parent) override;
   std::shared_ptr<BaseImpl> GetBaseImpl() const override;
 

@@ -12,8 +12,10 @@
 // Any thread may log.
 class WEXA_API WexaLogger {
  public:
+  // From the least severe on.
   enum ErrorCode : int { Info = 0, Warning = 1, Error = 2, FatalError = 3, Exception = 4 };
 
+  // The one of the process.
   static WexaLogger& GetInstance();
   WexaLogger(const WexaLogger&) = delete;
   WexaLogger& operator=(const WexaLogger&) = delete;

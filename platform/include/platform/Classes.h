@@ -13,14 +13,17 @@
 
 #pragma GCC visibility push(default)  // hosts may use all of this
 
+// Owns one font.
 class PLATFORM_API CFont {
  public:
   CFont() = default;
   CFont(const CFont&) = delete;
   CFont& operator=(const CFont&) = delete;
   ~CFont() { DeleteObject(); }
+  // Replaces the font. FALSE for a null record.
   BOOL CreateFontIndirect(const LOGFONTW* description);
   BOOL CreatePointFontIndirect(const LOGFONTW* description);  // lfHeight in tenths of a point
+  // Widgets that use the font fall back to the system's.
   void DeleteObject();
   HFONT GetSafeHandle() const { return font_; }
 
@@ -43,6 +46,7 @@ class PLATFORM_API CPaintDC {
   PAINTSTRUCT paint_{};
 };
 
+// An object for a window. It is found by FromHandle, and hears the window's messages in WindowProc.
 class PLATFORM_API CWnd {
  public:
   CWnd() = default;
@@ -62,23 +66,32 @@ class PLATFORM_API CWnd {
   // Creates a window whose messages go through WindowProc. FALSE when it could not be made.
   BOOL CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style,
                 const RECT& rect, CWnd* parent, UINT id);
+  // FALSE when this object has a window already, or that one has another object.
   BOOL Attach(HWND window);  // takes over an existing window
+  // Leaves the window alive and without an object; returns it.
   HWND Detach();
+  // FALSE when there is no window.
   virtual BOOL DestroyWindow();
 
+  // The operations below are those of Window.h on this object's window. Without one they do nothing
+  // and return 0, null or an empty value.
   LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
   DWORD GetStyle() const;
   DWORD GetExStyle() const;
+  // Takes words out of the style and adds others; with position flags SetWindowPos follows. FALSE
+  // when nothing changed.
   BOOL ModifyStyle(DWORD remove, DWORD add, UINT positionFlags = 0);
   BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT positionFlags = 0);
   int GetDlgCtrlID() const;
+  // The parent's object, perhaps a temporary; null where there is no parent.
   CWnd* GetParent() const;
   CWnd* GetTopLevelParent() const;
 
   void SetWindowText(const std::wstring& text);
   std::wstring GetWindowText() const;
+  // The font stays the caller's, and has to live as long as the window shows it.
   void SetFont(HFONT font, bool redraw = true);
   HFONT GetFont() const;  // the system font when none was set
 
@@ -128,6 +141,7 @@ class PLATFORM_API CWnd {
   bool owned_ = false;
 };
 
+// A text that is shown: the class WC_STATIC.
 class PLATFORM_API CStatic : public CWnd {
  public:
   BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
@@ -138,13 +152,17 @@ class PLATFORM_API CStatic : public CWnd {
   MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
+// A push button, check box or radio button, by its style: the class WC_BUTTON.
 class PLATFORM_API CButton : public CWnd {
  public:
   virtual BOOL Create(const std::wstring& text, DWORD style, const RECT& rect, CWnd* parent,
                       UINT id);
+  // BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE.
   int GetCheck() const;
   void SetCheck(int check);
+  // The check with BST_PUSHED and BST_FOCUS.
   UINT GetState() const;
+  // The BS_ words of the style.
   DWORD GetButtonStyle() const;
   void SetButtonStyle(DWORD style, bool redraw = true);
   // In which the text fits, with the button's frame or its check mark.
@@ -154,14 +172,19 @@ class PLATFORM_API CButton : public CWnd {
   MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
+// A field to edit one line of text: the class WC_EDIT. Positions count UTF-16 code units.
 class PLATFORM_API CEdit : public CWnd {
  public:
   BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+  // Selects from one position up to another; 0, -1 selects all, -1 as `from` nothing.
   void SetSel(int from, int to);
   void GetSel(int& from, int& to) const;
+  // The caret stands behind the new text; it can be undone.
   void ReplaceSel(const std::wstring& text);
   void SetReadOnly(bool readOnly);
+  // How much the user may enter; texts set by the program may be longer.
   void SetLimitText(UINT characters);
+  // 0 shows the text itself.
   void SetPasswordChar(wchar_t c);
   void SetCueBanner(const std::wstring& text);  // shown while the edit is empty
   int GetIdealHeight() const;                   // of a line of its font with the frame
@@ -170,6 +193,7 @@ class PLATFORM_API CEdit : public CWnd {
   MoveInterest Moves() const override { return MoveInterest::SizeOnly; }
 };
 
+// A dialog made of a template in memory.
 class PLATFORM_API CDialogEx : public CWnd {
  public:
   ~CDialogEx() override;
@@ -181,12 +205,15 @@ class PLATFORM_API CDialogEx : public CWnd {
   // here after the dialog is destroyed and owner, focus and capture are restored. On a display that
   // nobody sees the dialog is closed when nothing can happen any more.
   virtual std::intptr_t DoModal();
+  // Makes a modeless dialog. FALSE for a malformed template, and when OnInitDialog destroyed it.
   BOOL CreateIndirect(const DLGTEMPLATE* dialogTemplate, CWnd* owner);
   // Hides the dialog; a modal one is destroyed when its loop is left, a modeless one by its host.
   void EndDialog(int result);
   bool IsModal() const { return run_ != nullptr; }  // inside DoModal
+  // The button that Return presses.
   void SetDefID(UINT id);
   UINT GetDefID() const;
+  // Moves the focus on to the next stop, or to a control, as the Tab key does.
   void NextDlgCtrl();
   void GotoDlgCtrl(HWND control);
 
