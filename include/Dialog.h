@@ -34,6 +34,10 @@ class WEXA_API Dialog : public BaseGUIObject {
 
   // -- Showing and ending
 
+  // Fired in each showing when the widgets have their windows, before the dialog is seen: here
+  // widgets are enabled, shown, checked and timed for the first time. A handler may end the dialog.
+  CallbackList<> Initialized;
+
   // Shows the dialog and returns what it was ended with. Throws WexaException when the native
   // dialog cannot be made; exceptions of handlers pass through after the dialog is taken down. On
   // the offscreen display, where no user can end it, the dialog is closed as by its user when
@@ -54,6 +58,8 @@ class WEXA_API Dialog : public BaseGUIObject {
   // The widget that has the focus; null when none has.
   BaseGUIObject* GetFocusedCtrlPtr();
   void SetFocusToCtrl(BaseGUIObject* widget);
+  // The button that Return clicks while no other has the focus, in this showing and later ones;
+  // before the first one, too. Nothing happens for null.
   void SetDefaultButton(Button* button);
   // The tip shown while the pointer rests on the widget, or on an area of its client area: one for
   // each id. Disabled widgets have theirs, too. Without title and text the tip is removed.
@@ -107,7 +113,8 @@ class WEXA_API Dialog : public BaseGUIObject {
 
   // The state a dialog is about to end with; -1 keeps it open.
   virtual int FilterDone(int state) { return state; }
-  // Called after the widgets have their windows, before the dialog is shown. False ends it.
+  // Called after the widgets have their windows, before Initialized fires and the dialog is seen.
+  // False ends it.
   virtual bool InitializeControls() { return true; }
   // Embeds the window, or the widget's, as a page: it becomes a child without a frame that fills
   // the dialog's client area, also when that is resized. With `show` it is shown in front of the

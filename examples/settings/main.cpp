@@ -32,10 +32,10 @@ class SettingsDialog {
     fontSize_.SetValue(settings_.fontSize);
     lineNumbers_.SetCheck(settings_.lineNumbers ? WexaUtils::Checked : WexaUtils::Unchecked);
 
-    name_.TextChanged.Connect([this](const std::wstring&) { message_.SetText(L""); });
-    auto& box = Find<Wexa::ButtonBox>(dialog_, L"buttonBox");
-    box.GetButton(Wexa::StandardButton::OK)->Clicked.Connect([this] { Accept(); });
-    box.GetButton(Wexa::StandardButton::Cancel)->Clicked.Connect([this] {
+    dialog_.Initialized.Connect([this] { AskForName(); });  // from here on there are windows
+    name_.TextChanged.Connect([this](const std::wstring&) { AskForName(); });
+    ok_.Clicked.Connect([this] { Accept(); });
+    box_.GetButton(Wexa::StandardButton::Cancel)->Clicked.Connect([this] {
       dialog_.Done(Wexa::Dialog::Rejected);
     });
   }
@@ -43,12 +43,13 @@ class SettingsDialog {
   bool Run() { return dialog_.DoModal() == Wexa::Dialog::Accepted; }
 
  private:
+  void AskForName() {
+    const bool hasName = !name_.GetText().empty();
+    ok_.Enable(hasName, true);
+    message_.SetText(hasName ? L"" : L"Please enter a name.");
+  }
+
   void Accept() {
-    if (name_.GetText().empty()) {
-      message_.SetText(L"Please enter a name.");
-      dialog_.SetFocusToCtrl(&name_);
-      return;
-    }
     settings_.name = name_.GetText();
     settings_.fontSize = fontSize_.GetValue();
     settings_.lineNumbers = lineNumbers_.GetCheck() == WexaUtils::Checked;
@@ -60,6 +61,8 @@ class SettingsDialog {
   Wexa::Edit& name_ = Find<Wexa::Edit>(dialog_, L"nameEdit");
   Wexa::SpinEdit& fontSize_ = Find<Wexa::SpinEdit>(dialog_, L"fontSizeSpin");
   Wexa::CheckBox& lineNumbers_ = Find<Wexa::CheckBox>(dialog_, L"lineNumbersCheck");
+  Wexa::ButtonBox& box_ = Find<Wexa::ButtonBox>(dialog_, L"buttonBox");
+  Wexa::Button& ok_ = *box_.GetButton(Wexa::StandardButton::OK);
   Wexa::Label& message_ = Find<Wexa::Label>(dialog_, L"messageLabel");
 };
 

@@ -166,6 +166,8 @@ class BaseImplMFC : public BaseImpl {
   virtual void OnChildCreated(BaseGUIObject&) {}
   // A window inside the widget got the focus.
   virtual void OnFocusWithin(HWND) {}
+  // Whether the wheel turns it while the pointer is over it, wherever the focus is.
+  virtual bool TurnsUnderPointer() const { return false; }
   // Alt and a character; true when it is a mnemonic of the widget, which has followed it.
   virtual bool OnMnemonic(wchar_t) { return false; }
   // Child widgets whose skins follow this one's.

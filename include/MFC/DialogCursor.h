@@ -4,17 +4,19 @@
 #include <span>
 
 #include "Point.h"
+#include "WexaUtils.h"
 #include "platform/Bitmap.h"
 
 namespace Wexa {
 
-// The cursor that a host gave its dialog.
+// The cursor that a host chose for its dialog: one of the system's, or a picture of its own.
 class DialogCursor {
  public:
   // Takes over the picture, enlarged to the screen's resolution. False, and the former cursor
   // stays, when the bytes are none.
   bool Load(std::span<const unsigned char> bytes, Point hotSpot);
-  // Shows it under the pointer; false without one.
+  void SetType(WexaUtils::CursorTypes type) { type_ = type; }
+  // Shows it under the pointer; false when the host chose none.
   bool Show() const;
 
  private:
@@ -22,6 +24,7 @@ class DialogCursor {
     void operator()(HCURSOR cursor) const { DestroyIcon(cursor); }
   };
 
+  WexaUtils::CursorTypes type_ = WexaUtils::CursorTypes{};
   std::unique_ptr<HICON__, Deleter> cursor_;
 };
 

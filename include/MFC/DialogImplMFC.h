@@ -2,28 +2,26 @@
 
 #include <memory>
 #include <string>
-#include <unordered_map>
-#include <vector>
 
 #include "Dialog.h"
 #include "MFC/BaseImplMFC.h"
 #include "MFC/BuildStatistics.h"
 #include "MFC/DialogCursor.h"
 #include "MFC/EmbeddedPages.h"
+#include "MFC/dialog/DialogElements.h"
+#include "MFC/dialog/DialogInput.h"
+#include "MFC/dialog/DialogLife.h"
+#include "MFC/dialog/DialogResolution.h"
+#include "MFC/dialog/DialogSkin.h"
 
 namespace Wexa {
 
 class BaseDialogMFC;
-class ButtonBox;
 class ToolTips;
 
+// A dialog as a widget: its place and size, and the parts that do the rest.
 class Dialog::impl : public BaseImplMFC {
  public:
-  struct Element {
-    std::wstring name;
-    std::shared_ptr<BaseGUIObject> widget;
-  };
-
   impl(Dialog* owner, DWORD style, CWnd* parent);
   ~impl() override;
 
@@ -41,34 +39,27 @@ class Dialog::impl : public BaseImplMFC {
   bool SetSkinMode(SkinMode mode, bool repaint) override;
   void SetCustomSkin(const SkinManager& skin, bool update);
 
-  int DoModal();
-  void DoModeless(CWnd* parent, bool show);
-  void Done(int state);
+  // The client area as the form states it, in pixels.
+  Size ClientSize() const { return clientSize_; }
+  void SetClientSize(Size size) { clientSize_ = size; }
+  // What caption and frame add to it.
+  Size FrameSize();
   // Gives the client area this size in pixels, kept within the dialog's limits.
   void ResizeClient(int width, int height);
+  void MarkInitialized();
 
-  void AddElement(const std::wstring& name, std::shared_ptr<BaseGUIObject> widget);
-  const std::vector<Element>& Elements() const { return elements_; }
-  std::shared_ptr<BaseGUIObject> ElementByName(const std::wstring& name) const;
-  BaseGUIObject* FocusedElement() const;
-  BaseGUIObject* WidgetOf(HWND window) const;
-  void SetDefaultButton(Button* button);
-
-  Size clientSize;  // as built, in pixels
-  std::wstring title;
-  bool resizable = true;
-  std::vector<std::wstring> tabOrder;
-  WexaUtils::CursorTypes cursorType = WexaUtils::CursorTypes{};
-  DialogCursor customCursor;
-  BuildStatistics statistics;
+  Dialog& Facade() const { return *static_cast<Dialog*>(Owner()); }
+  DialogElements& Elements() { return elements_; }
+  DialogInput& Input() { return input_; }
+  DialogLife& Life() { return life_; }
+  DialogResolution& Resolution() { return resolution_; }
   ToolTips& Tips() { return *toolTips_; }
   EmbeddedPages& Pages() { return pages_; }
+  DialogCursor& Cursor() { return cursor_; }
+  BuildStatistics& Statistics() { return statistics_; }
 
   // -- From the native dialog
-  bool OnInitDialog();
-  bool OnPreTranslate(MSG& message, BOOL& result);
-  void OnCloseRequest();
-  bool OnSetCursor();
+  bool OnPreTranslate(const MSG& message);
   void OnGetMinMaxInfo(MINMAXINFO& info);
   void OnPositionChanging(WINDOWPOS& request);
 
@@ -76,46 +67,20 @@ class Dialog::impl : public BaseImplMFC {
   bool CreateNative(CWnd* parent) override;
 
  private:
-  void InitSkin();
   void DropElements();
-  void BuildTemplate();
-  void MakeWindow();
-  void SettleStyle();
-  void SizeToClient();
-  void CreateElements();
-  void CreateElement(std::shared_ptr<BaseGUIObject> widget);
-  void AttachSelf();
-  void Centre();
-  void ShowFirstTime();
-  void ApplyTabOrder();
-  void ArrangeFirstTime() { Arrange(clientSize); }
-  void Arrange(Size client);
-  void ArrangeLayout(Layout& layout, Size client);
-  void FollowResolution();
-  void ArrangeRescaled(const Rescaling& rescale, Size client);
-  void PlaceUnplaced(const Rescaling& rescale);
-  DLGTEMPLATE& Template();
-  void ChooseDefaultButton();
-  void SettleFrame();
-  bool EnterKeyMapMode();
-  void ReinitialiseChildSkins(SkinMode mode);
-  bool FollowBuddyMnemonic(const MSG& message);
-  bool FollowContainerMnemonic(const MSG& message);
-  bool TurnHoveredArea(const MSG& message);
-  Size FrameSize();
   Size WithinLimits(Size client);
 
   std::unique_ptr<BaseDialogMFC> window_;
-  CWnd* parentWindow_;
-  std::vector<Element> elements_;
-  std::unordered_map<std::wstring, std::size_t> elementsByName_;
-  std::vector<std::uint32_t> dialogTemplate_;  // keeps the records aligned
-  int defaultButtonId_ = -1;
-  double scaleFactor_ = WexaUtils::GetScaleFactor();  // of all sizes in pixels
-  Size sizeAsArranged_;  // of the client area, before its user changed it
-  bool wasInitialized_ = false;
+  DialogElements elements_;
+  DialogInput input_;
+  DialogSkin skin_;
+  DialogLife life_;
+  DialogResolution resolution_;
   std::unique_ptr<ToolTips> toolTips_;
   EmbeddedPages pages_{*this};
+  DialogCursor cursor_;
+  BuildStatistics statistics_;
+  Size clientSize_;
 };
 
 }  // namespace Wexa

@@ -43,7 +43,7 @@ Json EntryJson(Preview& preview, Wexa::Size request, bool hidden) {
 
 Json SizesJson(Preview& preview, const std::vector<Wexa::Size>& sizes, bool hidden) {
   Json entries = Json::array();
-  if (sizes.empty()) entries.push_back(EntryJson(preview, preview.Impl().clientSize, hidden));
+  if (sizes.empty()) entries.push_back(EntryJson(preview, preview.Impl().ClientSize(), hidden));
   for (const Wexa::Size& size : sizes) {
     preview.Resize(size);
     entries.push_back(EntryJson(preview, size, hidden));

@@ -64,7 +64,7 @@ Report ReportForm(const Options& options, const std::string& file) {
   std::string error;
   try {
     Preview preview(file);
-    statistics = preview.Impl().statistics;
+    statistics = preview.Impl().Statistics();
     timing = Exercise(preview, options);
   } catch (const std::exception&) {
     error = DescribeError(file);

@@ -29,6 +29,7 @@ class ScrollArea::impl : public ArrangingImpl {
   bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
   bool OnPreTranslate(const MSG& message) override;
   void OnFocusWithin(HWND window) override;
+  bool TurnsUnderPointer() const override { return true; }
   HWND HolderOf(const BaseGUIObject& child) override;
   void ForgetChild(BaseGUIObject& child) override;
   void ReadForm(const FormReader& form) override;

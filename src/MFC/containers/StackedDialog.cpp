@@ -24,8 +24,8 @@ constexpr std::array<std::wstring_view, 4> kFramed{L"QFrame::Box", L"QFrame::Pan
 void StackedDialog::impl::ReadForm(const FormReader& form) {
   PagesImpl::ReadForm(form);
   const std::wstring shape = form.Text(PropertyId::FrameShape);
-  isFramed_ = std::ranges::any_of(
-      kFramed, [&](std::wstring_view word) { return IsEnumWord(shape, word); });
+  isFramed_ =
+      std::ranges::any_of(kFramed, [&](std::wstring_view word) { return IsEnumWord(shape, word); });
   Creation().style &= ~WS_BORDER;
 }
 

@@ -8,9 +8,7 @@
 namespace Wexa {
 
 BOOL BaseDialogMFC::PreTranslateMessage(MSG* message) {
-  BOOL result = FALSE;
-  if (impl_.OnPreTranslate(*message, result)) return result;
-  return CDialogEx::PreTranslateMessage(message);
+  return impl_.OnPreTranslate(*message) || CDialogEx::PreTranslateMessage(message);
 }
 
 // The pointer alone moves tool tips only; all other input ends balloons too.
@@ -26,7 +24,7 @@ void BaseDialogMFC::OnUntakenInputWithin(BaseGUIObject& widget, HWND window, UIN
 LRESULT BaseDialogMFC::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SETCURSOR:
-      if (LOWORD(lParam) == HTCLIENT && impl_.OnSetCursor()) return TRUE;
+      if (LOWORD(lParam) == HTCLIENT && impl_.Cursor().Show()) return TRUE;
       break;
     case WM_SIZE: impl_.Pages().Fit(); break;
     case WM_GETMINMAXINFO:
@@ -44,11 +42,11 @@ LRESULT BaseDialogMFC::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 BOOL BaseDialogMFC::OnInitDialog() {
   CDialogEx::OnInitDialog();
-  return impl_.OnInitDialog();
+  return impl_.Life().OnInitDialog();
 }
 
 void BaseDialogMFC::OnCancel() {
-  impl_.OnCloseRequest();
+  impl_.Life().OnCloseRequest();
 }
 
 int BaseDialogMFC::ClosedResult() const {

@@ -43,13 +43,13 @@ std::shared_ptr<BaseImpl> Dialog::GetBaseImpl() const {
 int Dialog::DoModal() {
   modal_ = true;
   const auto held = impl_;  // a handler may destroy the dialog
-  return held->DoModal();
+  return held->Life().ShowModal();
 }
 
 void Dialog::DoModeless(CWnd* parent, bool show) {
   modal_ = false;
   const auto held = impl_;
-  held->DoModeless(parent, show);
+  held->Life().ShowModeless(parent, show);
 }
 
 void Dialog::DoModeless(bool show) {
@@ -58,15 +58,15 @@ void Dialog::DoModeless(bool show) {
 
 void Dialog::Done(DoneState state) {
   const auto held = impl_;
-  held->Done(state);
+  held->Life().End(state);
 }
 
 std::shared_ptr<BaseGUIObject> Dialog::GetElementByName(const std::wstring& name) {
-  return impl_ ? impl_->ElementByName(name) : nullptr;
+  return impl_ ? impl_->Elements().Find(name) : nullptr;
 }
 
 BaseGUIObject* Dialog::GetFocusedCtrlPtr() {
-  return impl_->FocusedElement();
+  return impl_->Elements().Focused();
 }
 
 void Dialog::SetFocusToCtrl(BaseGUIObject* widget) {
@@ -75,7 +75,7 @@ void Dialog::SetFocusToCtrl(BaseGUIObject* widget) {
 }
 
 void Dialog::SetDefaultButton(Button* button) {
-  impl_->SetDefaultButton(button);
+  impl_->Input().SetDefaultButton(button);
 }
 
 void Dialog::SetToolTip(const std::shared_ptr<BaseGUIObject>& widget, const std::wstring& title,
@@ -111,7 +111,7 @@ void Dialog::UpdateWindow() {
 }
 
 void Dialog::SetCursorType(WexaUtils::CursorTypes type) {
-  impl_->cursorType = type;
+  impl_->Cursor().SetType(type);
 }
 
 bool Dialog::LoadCustomCursor(const std::wstring& path, int hotSpotX, int hotSpotY) {
@@ -123,7 +123,7 @@ bool Dialog::LoadCustomCursor(const std::wstring& path, int hotSpotX, int hotSpo
 bool Dialog::LoadCustomCursor(const unsigned char* data, int size, int hotSpotX, int hotSpotY,
                               WexaUtils::ImageTypes type) {
   if (!data || size < 1 || type != WexaUtils::PNG) return false;
-  return impl_->customCursor.Load({data, static_cast<std::size_t>(size)}, {hotSpotX, hotSpotY});
+  return impl_->Cursor().Load({data, static_cast<std::size_t>(size)}, {hotSpotX, hotSpotY});
 }
 
 HWND Dialog::GetHandle() const {

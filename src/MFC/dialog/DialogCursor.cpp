@@ -21,7 +21,10 @@ bool DialogCursor::Load(std::span<const unsigned char> bytes, Point hotSpot) {
 }
 
 bool DialogCursor::Show() const {
-  return SetCursorPicture(cursor_.get());
+  if (type_ == WexaUtils::CursorTypes{}) return false;
+  if (type_ == WexaUtils::Custom && SetCursorPicture(cursor_.get())) return true;
+  SetCursor(WexaUtils::GetPlattformCursorType(type_));
+  return true;
 }
 
 }  // namespace Wexa

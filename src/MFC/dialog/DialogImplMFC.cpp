@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <utility>
 
-#include "Configuration.h"
 #include "MFC/base/WidgetColors.h"
 #include "MFC/dialog/BaseDialogMFC.h"
 #include "MFC/tips/ToolTips.h"
-#include "WexaException.h"
 #include "WexaUtils.h"
 #include "platform/Theme.h"
 
@@ -16,9 +13,6 @@ namespace Wexa {
 
 namespace {
 
-constexpr const char* kHeader = "include/MFC/DialogImplMFC";
-constexpr const char* kSource = "src/MFC/DialogImplMFC";
-constexpr int kFilteredOut = -1;
 // A dialog's surface stays within what memory and servers bear.
 constexpr int kLargestSide = 16384;
 constexpr std::int64_t kMostPixels = 32 << 20;
@@ -29,39 +23,18 @@ Size WithinSurfaceLimits(Size size) {
   return {width, std::min(height, static_cast<int>(kMostPixels / width))};
 }
 
-// High contrast overrides the host's colours.
-const SkinManager* KeyMapParent() {
-  WexaConfig& config = WexaConfig::Instance();
-  config.FollowSystemColors();
-  return WexaUtils::IsSystemHighContrastMode() ? nullptr : &config.keyMapSkin;
-}
-
-void ReloadPalettesOf(const std::vector<BaseGUIObject*>& widgets) {
-  for (BaseGUIObject* widget : widgets) {
-    widget->GetSkinManager().ReloadPalette();
-    ReloadPalettesOf(ImplOf(widget)->Children());
-  }
-}
-
-void Reinitialise(BaseGUIObject& widget, const SkinManager& parent, SkinMode mode) {
-  widget.GetSkinManager().ResetInitilization();
-  widget.GetSkinManager().InitSkinManager(&parent, mode);
-}
-
-[[noreturn]] void ThrowNotCreated() {
-  throw WexaException(kSource, __LINE__, "Cannot create dialog from dialog template data.");
-}
-
 }  // namespace
 
 Dialog::impl::impl(Dialog* owner, DWORD style, CWnd* parent)
     : BaseImplMFC(owner),
       window_(std::make_unique<BaseDialogMFC>(*this)),
-      parentWindow_(parent),
+      input_(elements_, *window_),
+      skin_(GetSkinManager(), elements_),
+      life_(*this, *window_, parent),
+      resolution_(*this),
       toolTips_(std::make_unique<ToolTips>()) {
   Creation().style = style;
-  resizable = (style & WS_THICKFRAME) != 0;
-  InitSkin();
+  skin_.BeginWithGlobal();
 }
 
 Dialog::impl::~impl() {
@@ -74,102 +47,37 @@ void Dialog::impl::Release() {
   DropElements();
 }
 
-// Layouts go before the widgets that their items place; children before their parents.
 void Dialog::impl::DropElements() {
-  auto elements = std::exchange(elements_, {});
-  elementsByName_.clear();
   Children().clear();
-  for (Element& element : elements) ImplOf(element.widget.get())->DeleteLayout();
   DeleteLayout();
-  for (Element& element : elements) {
-    const bool hostHoldsIt = element.widget.use_count() > 1;
-    ImplOf(element.widget.get())->LeaveDialog(hostHoldsIt);
-  }
-  while (!elements.empty()) elements.pop_back();
+  elements_.Drop();
 }
 
 CWnd* Dialog::impl::GetCWnd() {
   return window_.get();
 }
 
-// -- Elements
-
-void Dialog::impl::AddElement(const std::wstring& name, std::shared_ptr<BaseGUIObject> widget) {
-  elementsByName_.try_emplace(name, elements_.size());
-  elements_.push_back({name, std::move(widget)});
-}
-
-std::shared_ptr<BaseGUIObject> Dialog::impl::ElementByName(const std::wstring& name) const {
-  auto found = elementsByName_.find(name);
-  return found == elementsByName_.end() ? nullptr : elements_[found->second].widget;
-}
-
-// A widget may consist of several windows.
-BaseGUIObject* Dialog::impl::FocusedElement() const {
-  for (HWND window = GetFocus(); window; window = ::GetParent(window))
-    if (BaseGUIObject* widget = WidgetOf(window)) return widget;
-  return nullptr;
-}
-
-// An element, or a part of one that is a widget itself.
-BaseGUIObject* Dialog::impl::WidgetOf(HWND window) const {
-  for (const Element& element : elements_) {
-    if (element.widget->GetPlatformHandle() == window) return element.widget.get();
-    for (BaseGUIObject* part : ImplOf(element.widget.get())->Children())
-      if (part->GetPlatformHandle() == window) return part;
-  }
-  return nullptr;
-}
-
-// -- Showing and ending
-
-int Dialog::impl::DoModal() {
-  MakeWindow();
-  window_->InitModalIndirect(&Template(), parentWindow_);
-  wasInitialized_ = false;
-  auto result = static_cast<int>(window_->DoModal());
-  if (!wasInitialized_ && Owner()) ThrowNotCreated();
-  return result;
-}
-
-void Dialog::impl::DoModeless(CWnd* parent, bool show) {
-  MakeWindow();
-  if (!show) Template().style &= ~WS_VISIBLE;
-  if (!window_->CreateIndirect(&Template(), parent) && Owner()) ThrowNotCreated();
-}
-
 bool Dialog::impl::CreateNative(CWnd* parent) {
-  DoModeless(parent, true);
+  life_.ShowModeless(parent, true);
   return true;
 }
 
-void Dialog::impl::MakeWindow() {
-  if (GetHandle()) window_->DestroyWindow();
-  FollowResolution();
-  BuildTemplate();
+void Dialog::impl::MarkInitialized() {
+  Facade().initialized_ = true;
 }
 
-void Dialog::impl::Done(int state) {
-  if (!GetHandle()) throw WexaException(kHeader, __LINE__, "Invalid Control!");
-  auto* dialog = static_cast<Dialog*>(Owner());
-  if (dialog->FilterDone(state) == kFilteredOut || !GetHandle()) return;
-  if (dialog->IsModalMode()) {
-    window_->EndDialog(state);
-  } else {
-    window_->DestroyWindow();
-  }
-}
-
-void Dialog::impl::OnCloseRequest() {
-  bool hasSystemMenu = (window_->GetStyle() & WS_SYSMENU) != 0;
-  if (hasSystemMenu && Owner()) Done(Rejected);
+bool Dialog::impl::OnPreTranslate(const MSG& message) {
+  if (!Owner()) return false;
+  if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN)
+    window_->OnInputWithin(*Owner(), message.hwnd, message.message);
+  return input_.OnInput(message);
 }
 
 // -- Size
 
 Size Dialog::impl::IdealSize() {
   Size content = BaseImplMFC::IdealSize();
-  return Links().layout ? content : clientSize;
+  return Links().layout ? content : clientSize_;
 }
 
 Size Dialog::impl::FrameSize() {
@@ -224,69 +132,30 @@ void Dialog::impl::OnPositionChanging(WINDOWPOS& request) {
   request.cy = std::min(request.cy, client.Height() + frame.Height());
 }
 
+void Dialog::impl::OnResolutionChanged() {
+  resolution_.Follow();
+  if (GetHandle()) pages_.TellResolution();
+}
+
 // -- Skin
-
-void WexaConfig::RepaintDialogs() {
-  for (HWND window : GetTopLevelWindows())
-    RedrawWindow(window, nullptr, nullptr,
-                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-}
-
-void Dialog::impl::InitSkin() {
-  WexaConfig::Instance().FollowSystemColors();
-  const SkinManager& global = WexaConfig::Instance().globalSkin;
-  if (global.GetSkinMode() == SkinMode::Custom) {
-    GetSkinManager().SetCustomSkin(global);
-  } else {
-    GetSkinManager().InitSkinManager(&global, global.GetRequestedMode());
-  }
-}
 
 COLORREF Dialog::impl::BackgroundColor() {
   return DialogBackground(GetSkinManager());
 }
 
-// The window core has the dialog painted.
 void Dialog::impl::OnSystemColorsChanged() {
-  WexaConfig::Instance().FollowSystemColors();
-  SkinManager& skin = GetSkinManager();
-  if (skin.GetRequestedMode() == SkinMode::XML) skin.SetParentSkinManager(KeyMapParent());
-  skin.ReloadPalette();
-  ReloadPalettesOf(Children());
+  skin_.FollowSystem(Children());
 }
 
 bool Dialog::impl::SetSkinMode(SkinMode mode, bool repaint) {
-  const bool entered =
-      mode == SkinMode::XML ? EnterKeyMapMode() : GetSkinManager().SetSkinMode(mode);
-  if (!entered) return false;
-  ReinitialiseChildSkins(mode);
-  if (repaint && GetHandle()) static_cast<Dialog*>(Owner())->UpdateWindow();
+  if (!skin_.SetMode(mode)) return false;
+  if (repaint && GetHandle()) Facade().UpdateWindow();
   return true;
 }
 
-bool Dialog::impl::EnterKeyMapMode() {
-  if (!WexaConfig::Instance().keyMapSkin.IsKeyMapApplied()) return false;
-  SkinManager& skin = GetSkinManager();
-  skin.ResetInitilization();
-  const bool entered = skin.InitSkinManager(KeyMapParent(), SkinMode::XML);
-  if (!entered) skin.ResetInitilization();
-  return entered;
-}
-
-// The dialog's skin stays above those of its widgets, so that its colours go on reaching them.
-void Dialog::impl::ReinitialiseChildSkins(SkinMode mode) {
-  for (Element& element : elements_) {
-    Reinitialise(*element.widget, GetSkinManager(), mode);
-    if (element.widget->Type() != GuiType::ButtonBox) continue;
-    for (BaseGUIObject* button : ImplOf(element.widget.get())->Children())
-      Reinitialise(*button, element.widget->GetSkinManager(), mode);
-  }
-}
-
 void Dialog::impl::SetCustomSkin(const SkinManager& skin, bool update) {
-  GetSkinManager().SetCustomSkin(skin);
-  ReinitialiseChildSkins(SkinMode::Default);
-  if (update && GetHandle()) static_cast<Dialog*>(Owner())->UpdateWindow();
+  skin_.SetCustom(skin);
+  if (update && GetHandle()) Facade().UpdateWindow();
 }
 
 }  // namespace Wexa

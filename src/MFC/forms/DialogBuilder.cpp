@@ -59,16 +59,16 @@ void DialogBuilder::Build() {
   BuildChildren(root, {&dialog_});
   FillWithCentralWidget(root);
   ResolveBuddies();
-  impl_.tabOrder = model_.tabOrder;
+  impl_.Elements().SetTabOrder(model_.tabOrder);
   GroupRadioButtons();
 }
 
 void DialogBuilder::ConfigureDialog(const FormNode& root) {
   ApplySizeLimits(dialog_, FormReader(root));
-  if (const std::wstring* title = root.Text(PropertyId::Title)) impl_.title = *title;
+  if (const std::wstring* title = root.Text(PropertyId::Title)) impl_.Life().SetTitle(*title);
   dialog_.SetName(root.name);
   impl_.SetFont(root.font);
-  impl_.clientSize = ScaledSize(root, PropertyId::Width, PropertyId::Height);
+  impl_.SetClientSize(ScaledSize(root, PropertyId::Width, PropertyId::Height));
 }
 
 // Main windows state no layout for their central widget: it fills them.
@@ -142,7 +142,7 @@ std::shared_ptr<BaseGUIObject> DialogBuilder::MakeWidget(std::wstring className)
 }
 
 void DialogBuilder::NoteUnknown(const std::wstring& className) {
-  auto& unknown = impl_.statistics.unknownClasses;
+  auto& unknown = impl_.Statistics().unknownClasses;
   if (std::find(unknown.begin(), unknown.end(), className) == unknown.end())
     unknown.push_back(className);
 }
@@ -162,9 +162,9 @@ void DialogBuilder::BuildWidget(const FormNode& node, const Place& place) {
                                            ChildModeOf(impl_.GetSkinManager()));
   const FormReader form(node);
   ApplyWidgetSettings(*widget, form);
-  impl_.AddElement(node.name, widget);
+  impl_.Elements().Add(node.name, widget);
   AddToolTip(form, widget);
-  ++impl_.statistics.widgets;
+  ++impl_.Statistics().widgets;
   PlaceWidget(node, *widget, place);
   if (const std::wstring* buddy = node.Text(PropertyId::Buddy);
       buddy && widget->Type() == GuiType::Label)
@@ -188,7 +188,7 @@ void DialogBuilder::PlaceWidget(const FormNode& node, BaseGUIObject& widget, con
 
 void DialogBuilder::ResolveBuddies() {
   for (const auto& [label, name] : buddies_)
-    static_cast<Label*>(label)->SetBuddy(impl_.ElementByName(name).get());
+    static_cast<Label*>(label)->SetBuddy(impl_.Elements().Find(name).get());
 }
 
 // Radio buttons of one group name form a group; those without one, a group in each parent. A

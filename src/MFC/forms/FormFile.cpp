@@ -83,16 +83,16 @@ void Dialog::impl::Build(const std::wstring& uiFile) {
     auto start = std::chrono::steady_clock::now();
     const FormText form = ReadFormText(uiFile);
     hasLines = form.hasLines;
-    statistics.readMilliseconds = MillisecondsSince(start);
+    statistics_.readMilliseconds = MillisecondsSince(start);
 
     start = std::chrono::steady_clock::now();
     FormModel model;
     ParseForm(form.text, model);
-    statistics.parseMilliseconds = MillisecondsSince(start);
+    statistics_.parseMilliseconds = MillisecondsSince(start);
 
     start = std::chrono::steady_clock::now();
     DialogBuilder(*static_cast<Dialog*>(Owner()), *this, model).Build();
-    statistics.buildMilliseconds = MillisecondsSince(start);
+    statistics_.buildMilliseconds = MillisecondsSince(start);
   } catch (FormError& error) {
     error.diagnostic.file = uiFile;
     if (!hasLines) error.diagnostic.line = 0;

@@ -13,6 +13,7 @@
 #include "form/RichText.h"
 #include "layout/WidgetLink.h"
 #include "platform/ControlConstants.h"
+#include "platform/DialogManager.h"
 #include "platform/Painter.h"
 #include "platform/Theme.h"
 
@@ -104,6 +105,15 @@ class Label::impl : public BaseImplMFC {
     if (const std::wstring* picture = form.Find(L"pixmap"))
       LoadPictureOfForm(*picture, form.Flag(L"scaledContents", false) ? WexaUtils::FillTarget
                                                                       : WexaUtils::ScaleByFactor);
+  }
+
+  // Its mnemonic gives the focus to the buddy, wherever that stands in the tab order.
+  bool OnMnemonic(wchar_t letter) override {
+    const HWND target = buddy ? buddy.Widget()->GetPlatformHandle() : nullptr;
+    if (!IsWindowEnabled(target) || GetFocus() == target) return false;
+    if (!IsMnemonic(Text(), letter)) return false;
+    window_.GetTopLevelParent()->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target), TRUE);
+    return true;
   }
 
   using BaseImplMFC::SetText;

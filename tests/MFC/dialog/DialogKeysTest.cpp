@@ -56,16 +56,42 @@ TEST_F(DialogKeysTest, ReturnClicksTheFormsDefaultButtonElseTheBoxesOkElseTheFir
             L"a");
 }
 
+// Chosen before the dialog is shown or while it is, also for its second showing.
 TEST_F(DialogKeysTest, AHostsDefaultButtonWins) {
-  Open(ColumnForm(LineEdit("edit") + PushButton("a") + PushButton("b")));
-  std::wstring clicked;
-  Find<Button>(L"a").Clicked.Connect([&] { clicked += L"a"; });
-  Find<Button>(L"b").Clicked.Connect([&] { clicked += L"b"; });
-  dialog_->SetDefaultButton(&Find<Button>(L"b"));
+  for (const bool before : {true, false}) {
+    dialog_ = Make(ColumnForm(LineEdit("edit") + PushButton("a") +
+                              PushButton("b", BoolXml("default")) + PushButton("c")));
+    std::wstring clicked;
+    for (const wchar_t* name : {L"a", L"b", L"c"})
+      Find<Button>(name).Clicked.Connect([&clicked, name] { clicked += name; });
+    const auto choose = [&] { dialog_->SetDefaultButton(&Find<Button>(L"c")); };
+    if (before) choose();
+    for (int showing = 0; showing < 2; ++showing) {
+      dialog_->DoModeless(true);
+      Robot::PumpAll();
+      if (!before && showing == 0) choose();
+      Focus(L"edit");
+      robot_.Key(VK_RETURN);
+    }
+    Focus(L"a");
+    robot_.Key(VK_RETURN);
+    EXPECT_EQ(clicked, L"cca") << "a focused button answers itself";
+  }
+}
+
+TEST_F(DialogKeysTest, ADeadDefaultButtonGivesWayToTheForms) {
+  dialog_ = Make(ColumnForm(LineEdit("edit") + PushButton("a")));
+  int clicked = 0;
+  Find<Button>(L"a").Clicked.Connect([&] { ++clicked; });
+  {
+    Button temporary;
+    dialog_->SetDefaultButton(&temporary);
+  }
+  dialog_->DoModeless(true);
+  Robot::PumpAll();
+  Focus(L"edit");
   robot_.Key(VK_RETURN);
-  Focus(L"a");
-  robot_.Key(VK_RETURN);
-  EXPECT_EQ(clicked, L"ba") << "a focused button answers itself";
+  EXPECT_EQ(clicked, 1);
 }
 
 TEST_F(DialogKeysTest, TheFirstTabStopHasTheFocusAtFirst) {

@@ -110,13 +110,13 @@ TEST_F(ResolutionTest, PicturesAndWhatItsUserMadeOfTheWindowGrow) {
 }
 
 TEST_F(ResolutionTest, AHandlerMayDestroyTheDialogMeanwhile) {
-  std::size_t count = 1;
-  for (std::size_t which = 0; which < count; ++which) {
+  std::ptrdiff_t count = 1;
+  for (std::ptrdiff_t which = 0; which < count; ++which) {
     SetResolution(96);
     dialog_ = Shown(testdata::Form("garden_settings.ui"));
     const auto& elements = static_cast<Dialog::impl&>(*dialog_->GetBaseImpl()).Elements();
-    count = elements.size();
-    elements[which].widget->SetEventProcedure([this](BaseGUIObject*, Event* event) {
+    count = elements.end() - elements.begin();
+    elements.begin()[which].widget->SetEventProcedure([this](BaseGUIObject*, Event* event) {
       if (event->GetType() == Event::Resize) dialog_.reset();
       return false;
     });

@@ -152,16 +152,55 @@ TEST_F(DialogTest, AHiddenModelessDialogIsShownLater) {
   EXPECT_FALSE(Find<Button>(L"button").IsVisible());
 }
 
-TEST_F(DialogTest, ADialogThatRefusesInitialisationIsNotShown) {
-  auto& dialog = Scripted(ColumnForm(LineEdit("edit")));
-  dialog.initialize = [] { return false; };
-  EXPECT_EQ(dialog.DoModal(), Dialog::Rejected);
-  EXPECT_TRUE(GetTopLevelWindows().empty());
-  dialog.initialize = [&] {
-    dialog.Done(kOwnState);
-    return true;
-  };
-  EXPECT_EQ(dialog.DoModal(), kOwnState) << "ended while it was initialised";
+// Refused or ended before it is seen, in each place where the host can.
+TEST_F(DialogTest, ADialogMayEndBeforeItIsSeen) {
+  for (const bool modal : {true, false})
+    for (const int place : {0, 1, 2}) {
+      auto& dialog = Scripted(ColumnForm(LineEdit("edit")));
+      dialog.initialize = [&] {
+        if (place == 1) dialog.Done(kOwnState);
+        return place != 0;
+      };
+      if (place == 2) dialog.Initialized.Connect([&] { dialog.Done(kOwnState); });
+      if (modal)
+        EXPECT_EQ(dialog.DoModal(), place == 0 ? static_cast<int>(Dialog::Rejected) : kOwnState);
+      else
+        EXPECT_NO_THROW(dialog.DoModeless(true)) << place;
+      EXPECT_EQ(dialog.GetHandle(), nullptr);
+      EXPECT_TRUE(GetTopLevelWindows().empty());
+    }
+}
+
+TEST_F(DialogTest, InitializedIsFiredWithWindowsThatNobodyHasSeen) {
+  auto& dialog = Scripted(ColumnForm(LineEdit("edit") + PushButton("button") + LineEdit("other")));
+  std::string order;
+  dialog.initialize = [&] { return order += "overridden ", true; };
+  dialog.Initialized.Connect([&] {
+    order += "connected ";
+    EXPECT_TRUE(dialog.IsInitialized());
+    EXPECT_FALSE(dialog.IsVisible());
+    Find<Edit>(L"edit").Enable(false, true);
+    Find<Button>(L"button").Show(false, true);
+    EXPECT_NE(Find<Button>(L"button").SetTimer(1, 50), 0u);
+  });
+  for (int showing = 0; showing < 2; ++showing) {
+    dialog.DoModeless(true);
+    Robot::PumpAll();
+    EXPECT_FALSE(Find<Edit>(L"edit").IsEnabled());
+    EXPECT_FALSE(Find<Button>(L"button").IsVisible());
+    EXPECT_EQ(FocusedName(), L"other");
+  }
+  EXPECT_EQ(order, "overridden connected overridden connected ");
+}
+
+TEST_F(DialogTest, ADialogMayBeDestroyedBeforeItIsSeen) {
+  for (const bool modal : {true, false}) {
+    auto& dialog = Scripted(ColumnForm(LineEdit("edit")));
+    dialog.Initialized.Connect([&] { dialog_.reset(); });
+    modal ? static_cast<void>(dialog.DoModal()) : dialog.DoModeless(true);
+    EXPECT_EQ(dialog_, nullptr);
+    EXPECT_TRUE(GetTopLevelWindows().empty());
+  }
 }
 
 // What was remembered counts in the next showing, what was not does not.

@@ -250,7 +250,8 @@ TEST_F(BuilderTest, ChildrenOfUnknownClassesAreBuiltInTheirPlace) {
   EXPECT_EQ(Find<Edit>(L"a").GetParent(), dialog_.get());
   EXPECT_GE(PlaceOf(L"a").Left(), PlaceOf(L"label").Right());
   EXPECT_GE(PlaceOf(L"b").Top(), PlaceOf(L"a").Bottom());
-  EXPECT_EQ(dialog_->GetImpl()->statistics.unknownClasses, std::vector<std::wstring>{L"QToolBox"});
+  EXPECT_EQ(dialog_->GetImpl()->Statistics().unknownClasses,
+            std::vector<std::wstring>{L"QToolBox"});
 }
 
 TEST_F(BuilderTest, CustomClassesStandForTheirBase) {

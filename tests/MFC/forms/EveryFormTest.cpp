@@ -193,7 +193,7 @@ class EveryFormTest : public FormTest {
   bool HasUnknownContainer(const std::wstring& file) {
     FormModel model;
     FormParser().Parse(*PlainFormText(testdata::BytesOf(NarrowUtf8(file))), model);
-    return HasContainerOf(Impl().statistics.unknownClasses, *model.root);
+    return HasContainerOf(Impl().Statistics().unknownClasses, *model.root);
   }
 
   // What a layout places lies beside its like and, unless it is scrolled or the form itself limits
@@ -277,7 +277,8 @@ class EveryFormTest : public FormTest {
   void ExpectPlaces(const std::vector<CRect>& expected, const std::vector<CRect>& places) {
     ASSERT_EQ(places.size(), expected.size());
     for (std::size_t i = 0; i < places.size(); ++i)
-      EXPECT_EQ(Rect(places[i]), Rect(expected[i])) << NarrowUtf8(Impl().Elements()[i].name);
+      EXPECT_EQ(Rect(places[i]), Rect(expected[i]))
+          << NarrowUtf8((Impl().Elements().begin() + static_cast<std::ptrdiff_t>(i))->name);
   }
 
   void ExpectSamePlacesAtTheSameSize() {
