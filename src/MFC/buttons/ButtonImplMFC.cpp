@@ -100,8 +100,8 @@ void Button::impl::MakeCheckable() {
   auto next = std::make_shared<ButtonMFC<Button>>(*this);
   checkable_ = true;
   const DWORD style = (old.GetStyle() & ~BS_TYPEMASK) | NativeType();
-  checkable_ = next->Create(old.GetWindowText(), style, rect, parent,
-                            static_cast<UINT>(old.GetDlgCtrlID()));
+  checkable_ =
+      next->Create(old.GetWindowText(), style, rect, parent, static_cast<UINT>(old.GetDlgCtrlID()));
   if (!checkable_)
     throw WexaException("include/MFC/ButtonImplMFC", __LINE__, "SetChecked re-create error");
   next->SetFont(old.GetFont());

@@ -23,10 +23,6 @@ std::string RadioXml(const std::string& name, const std::string& group,
   return TextWidget("QRadioButton", name, name, more + AttributeXml("buttonGroup", group));
 }
 
-std::string True(const std::string& property) {
-  return PropertyXml(property, "bool", "true");
-}
-
 class ButtonTest : public FormTest {
  protected:
   void Click(const wchar_t* name) {
@@ -35,8 +31,7 @@ class ButtonTest : public FormTest {
 };
 
 TEST_F(ButtonTest, AClickReachesClickedOnceOnRelease) {
-  Open(ColumnForm(TextWidget("QPushButton", "ok", "OK") +
-                  TextWidget("QPushButton", "other", "Other")));
+  Open(ColumnForm(ButtonXml("ok") + ButtonXml("other")));
   int clicks = 0;
   Find<Button>(L"ok").Clicked.Connect([&] { ++clicks; });
   HWND window = Find<Button>(L"ok").GetPlatformHandle();
@@ -50,34 +45,8 @@ TEST_F(ButtonTest, AClickReachesClickedOnceOnRelease) {
   EXPECT_EQ(clicks, 1) << "released outside";
 }
 
-TEST_F(ButtonTest, QueuedConnectionsRunInOrderAfterTheHandler) {
-  Dialog& dialog = Open(ColumnForm(TextWidget("QPushButton", "ok", "OK")));
-  std::string order;
-  auto& clicked = Find<Button>(L"ok").Clicked;
-  clicked.Connect(&dialog, [&] { order += 'a'; });
-  clicked.Connect([&] { order += 'd'; });
-  clicked.Connect(&dialog, [&] { order += 'b'; });
-  clicked();
-  EXPECT_EQ(order, "d");
-  Robot::PumpAll();
-  EXPECT_EQ(order, "dab");
-}
-
-TEST_F(ButtonTest, CallsOnTheirWayDieWithTheirList) {
-  Dialog& dialog = Open(ColumnForm(TextWidget("QPushButton", "ok", "OK")));
-  int calls = 0;
-  {
-    CallbackList<int> list;
-    list.Connect(&dialog, [&](int n) { calls += n; });
-    list(1);
-  }
-  Robot::PumpAll();
-  EXPECT_EQ(calls, 0);
-}
-
 TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
-  Open(ColumnForm(TextWidget("QPushButton", "first", "First") +
-                  TextWidget("QPushButton", "toggle", "Toggle")));
+  Open(ColumnForm(ButtonXml("first") + ButtonXml("toggle")));
   auto& toggle = Find<Button>(L"toggle");
   Rect before = toggle.GetWindowRect();
   dialog_->SetFocusToCtrl(&toggle);
@@ -105,7 +74,7 @@ TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
 }
 
 TEST_F(ButtonTest, AnAdoptedNativeButtonGivesEvents) {
-  Open(ColumnForm(TextWidget("QPushButton", "ok", "OK")));
+  Open(ColumnForm(ButtonXml("ok")));
   const auto native = std::make_shared<CButton>();
   native->Create(L"native", WS_VISIBLE, CRect(0, 0, 50, 20), CWnd::FromHandle(dialog_->GetHandle()),
                  77);
@@ -128,7 +97,7 @@ TEST_F(ButtonTest, ATogglesCheckFollowsClicksInEveryStyleAndStays) {
     std::vector<Style> stylesBefore;
     std::vector<Style> stylesAfter;
   };
-  const std::string byForm = True("checkable") + True("checked");
+  const std::string byForm = BoolXml("checkable") + BoolXml("checked");
   const Case kCases[] = {{byForm.c_str(), false, {}, {}},
                          {"", true, {}, {}},
                          {"", true, {Style::Framed}, {}},
@@ -159,7 +128,7 @@ TEST_F(ButtonTest, ATogglesCheckFollowsClicksInEveryStyleAndStays) {
 }
 
 TEST_F(ButtonTest, BorderColorsKeepTheirAlphaFromStyleFourOn) {
-  Open(ColumnForm(TextWidget("QPushButton", "ok", "OK")));
+  Open(ColumnForm(ButtonXml("ok")));
   auto& button = Find<Button>(L"ok");
   RGBColor half(10, 20, 30, 128);
   button.SetStyle(Button::ButtonStyle::Framed);
@@ -171,8 +140,7 @@ TEST_F(ButtonTest, BorderColorsKeepTheirAlphaFromStyleFourOn) {
 }
 
 TEST_F(ButtonTest, ReturnOnALibraryDrawnButtonClicksIt) {
-  Open(ColumnForm(TextWidget("QPushButton", "first", "First") +
-                  TextWidget("QPushButton", "drawn", "Drawn")));
+  Open(ColumnForm(ButtonXml("first") + ButtonXml("drawn")));
   auto& drawn = Find<Button>(L"drawn");
   drawn.SetStyle(Button::ButtonStyle::Framed);
   drawn.SetBackgroundColor(0x1E1EC8u, true);
@@ -186,9 +154,9 @@ TEST_F(ButtonTest, ReturnOnALibraryDrawnButtonClicksIt) {
 }
 
 TEST_F(ButtonTest, ABoxHasItsButtonsInTheFixedOrder) {
-  Open(ColumnForm(WidgetItem(
+  Open(ColumnForm(ItemXml(WidgetXml(
       "QDialogButtonBox", "box",
-      PropertyXml("standardButtons", "set", "QDialogButtonBox::Cancel|QDialogButtonBox::Ok"))));
+      PropertyXml("standardButtons", "set", "QDialogButtonBox::Cancel|QDialogButtonBox::Ok")))));
   auto& box = Find<ButtonBox>(L"box");
   auto ok = box.GetButton(StandardButton::OK);
   auto cancel = box.GetButton(StandardButton::Cancel);
@@ -203,7 +171,7 @@ TEST_F(ButtonTest, ABoxHasItsButtonsInTheFixedOrder) {
 }
 
 TEST_F(ButtonTest, CheckBoxesKeepTheirStateThroughTheDialogsEnd) {
-  Open(ColumnForm(WidgetItem("QCheckBox", "check", TextXml("On"))));
+  Open(ColumnForm(TextWidget("QCheckBox", "check", "On")));
   auto& check = Find<CheckBox>(L"check");
   Click(L"check");
   EXPECT_EQ(check.GetCheck(), WexaUtils::Checked);
@@ -295,8 +263,9 @@ TEST_F(RadioGroupTest, ChecksCountBeforeTheDialogIsShownAndAfterItsEnd) {
 }
 
 TEST_F(RadioGroupTest, TheLastOneThatTheFormChecksIsChecked) {
-  Open(ColumnForm(RadioXml("a1", "a", True("checked")) + RadioXml("a2", "a", True("checked")) +
-                  RadioXml("b1", "b", True("checked")) + RadioXml("b2", "b")));
+  Open(ColumnForm(RadioXml("a1", "a", BoolXml("checked")) +
+                  RadioXml("a2", "a", BoolXml("checked")) +
+                  RadioXml("b1", "b", BoolXml("checked")) + RadioXml("b2", "b")));
   EXPECT_EQ(Checked(), L"a2 b1 ");
 }
 

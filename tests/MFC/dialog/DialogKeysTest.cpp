@@ -171,8 +171,7 @@ TEST_F(DialogKeysTest, ADeadBuddyIsForgotten) {
 
 // By the pre-filter of the dialog or of any widget from the focus up.
 TEST_F(DialogKeysTest, AHostMayConsumeMessagesOrKeepThemFromTheDialogKeys) {
-  const std::string group = ItemXml(WidgetXml(
-      "QGroupBox", "group", "<layout class=\"QVBoxLayout\">" + LineEdit("a") + "</layout>"));
+  const std::string group = WidgetItem("QGroupBox", "group", ColumnXml(LineEdit("a")));
   for (const wchar_t* name : {L"", L"group", L"a"}) {
     Open(ColumnForm(group + LineEdit("b")));
     BaseGUIObject& filtering = *name ? Find<BaseGUIObject>(name) : *dialog_;

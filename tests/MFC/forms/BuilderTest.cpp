@@ -13,7 +13,6 @@
 #include "MFC/DialogImplMFC.h"
 #include "MFC/base/DialogFont.h"
 #include "MultiLineEdit.h"
-#include "RadioButton.h"
 #include "RichEdit.h"
 #include "Splitter.h"
 #include "StackedDialog.h"
@@ -186,6 +185,16 @@ TEST_F(BuilderTest, ChildrenOfContainersAreTheirsAndCountFromThem) {
             Rect(Scale(30) + Scale(7), Scale(40) + Scale(21), Scale(90), Scale(22)));
 }
 
+TEST_F(BuilderTest, AChildDialogPlacesItsChildrenAUnitFurtherInForEachStepOfTheScale) {
+  const int offset = static_cast<int>(WexaUtils::GetScaleFactor());
+  Open(FormXml(WidgetXml("QWidget", "page",
+                         GeometryXml(30, 40, 150, 100) +
+                             WidgetXml("QLineEdit", "inner", GeometryXml(7, 21, 90, 22))),
+               300, 200));
+  EXPECT_EQ(PlaceOf(L"inner"), Rect(Scale(30) + Scale(7 + offset), Scale(40) + Scale(21 + offset),
+                                    Scale(90), Scale(22)));
+}
+
 TEST_F(BuilderTest, PagesAndPanesAreAddedInTheirOrder) {
   const auto page = [](const std::string& name) {
     return WidgetXml("QWidget", name,
@@ -226,17 +235,6 @@ TEST_F(BuilderTest, ItemsStandAlignedInTheirCells) {
   EXPECT_GT(corner.Top(), wide.Bottom() + 6);
   EXPECT_EQ(nested.Width(), Find<BaseGUIObject>(L"nested").IdealSize().Width());
   EXPECT_NEAR(nested.Left() - wide.Left(), wide.Right() - nested.Right(), 1);
-}
-
-TEST_F(BuilderTest, RadioButtonsAreCheckedInTheirGroups) {
-  const auto radio = [](const std::string& name, const std::string& group, bool checked) {
-    return WidgetItem("QRadioButton", name,
-                      BoolXml("checked", checked) + AttributeXml("buttonGroup", group));
-  };
-  Open(ColumnForm(radio("a", "one", true) + radio("b", "two", true) + radio("c", "one", false)));
-  EXPECT_EQ(Find<RadioButton>(L"a").GetGroupInfo(), Find<RadioButton>(L"c").GetGroupInfo());
-  EXPECT_TRUE(Find<RadioButton>(L"a").Checked());
-  EXPECT_TRUE(Find<RadioButton>(L"b").Checked()) << "of the other group";
 }
 
 TEST_F(BuilderTest, ChildrenOfUnknownClassesAreBuiltInTheirPlace) {
