@@ -63,7 +63,7 @@ TEST_F(ButtonTest, SetCheckedMakesAToggleOnceInPlace) {
   EXPECT_EQ(toggle.GetPlatformHandle(), window);
   EXPECT_TRUE(toggle.GetCheck());
   EXPECT_EQ(toggle.GetWindowRect(), before);
-  EXPECT_EQ(toggle.GetText(), L"Toggle");
+  EXPECT_EQ(toggle.GetText(), L"toggle");
   int clicks = 0;
   toggle.Clicked.Connect([&] { ++clicks; });
   Click(L"toggle");
