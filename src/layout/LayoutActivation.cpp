@@ -213,8 +213,7 @@ void Layout::UpdateWidgetGeometry() {
   if (Layout* holder = LayoutOf(parent)) {
     holder->Invalidate(true);
   } else if (arranger && !arranger->AgreesWith(widget)) {
-    ForgetSizesFrom(&widget);
-    RequestPassAround(&widget);
+    InvalidateSizesFrom(&widget);
   }
 }
 

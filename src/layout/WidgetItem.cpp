@@ -158,9 +158,4 @@ void WidgetItemV2::InvalidateSizeCache() {
   ForgetSizesFrom(owner_->ParentWidget());
 }
 
-void WidgetItemV2::InvalidateSizes() {
-  InvalidateSizeCache();
-  if (owner_) owner_->Invalidate(true);
-}
-
 }  // namespace Wexa

@@ -78,8 +78,6 @@ class WidgetItemV2 : public WidgetItem {
   void ForgetSizes();
   // Forgets the sizes, and those of all that holds the widget, up to the top.
   void InvalidateSizeCache();
-  // The widget asks for other sizes than before: the layouts take it into account in a new pass.
-  void InvalidateSizes();
 
   // The layout that holds the item; null once it was taken out.
   Layout* Owner() const { return owner_; }

@@ -57,8 +57,9 @@ void ForgetSizesFrom(const BaseGUIObject* widget) {
   }
 }
 
-void RequestPassAround(const BaseGUIObject* widget) {
+void InvalidateSizesFrom(const BaseGUIObject* widget) {
   if (!widget) return;
+  ForgetSizesFrom(widget);
   const BaseGUIObject* placed = widget;
   if (const BaseGUIObject* outermost = Holders::Of(*widget).outermost) placed = outermost;
   WidgetItemV2* item = NearestItemOf(placed);

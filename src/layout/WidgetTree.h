@@ -33,7 +33,7 @@ struct Holders {
 // The widget may ask for other sizes than before: nothing around it remembers them, up to the top.
 void ForgetSizesFrom(const BaseGUIObject* widget);
 
-// Asks what places the widget, and what that stands in, to do so again.
-void RequestPassAround(const BaseGUIObject* widget);
+// The same, and what places the widget, with what that stands in, is asked to do so again.
+void InvalidateSizesFrom(const BaseGUIObject* widget);
 
 }  // namespace Wexa

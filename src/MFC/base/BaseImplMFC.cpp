@@ -253,8 +253,7 @@ void BaseImplMFC::UpdateLayout() {
 }
 
 void BaseImplMFC::InvalidateLayout() {
-  ForgetSizesFrom(owner_);
-  RequestPassAround(owner_);
+  InvalidateSizesFrom(owner_);
 }
 
 void BaseImplMFC::PlaceAsRequested() {
