@@ -43,22 +43,19 @@ TEST_F(BoxLayoutTest, AcrossTheLastItemThatDoesNotExpandGivesTheMaximum) {
   EXPECT_EQ(row_.MaximumSize(), Size(2006, 80));
 }
 
-TEST_F(BoxLayoutTest, PlacesARow) {
+TEST_F(BoxLayoutTest, PlacesRowsAndColumns) {
   FakeWidget& a = AddTo(row_, Make({50, 20}, {10, 10}));
   FakeWidget& b = AddTo(row_, Make({50, 20}, {10, 10}));
   row_.SetContentsMargins(10, 5, 20, 15);
   row_.SetGeometry({100, 200, 236, 60});
   EXPECT_EQ(a->place, Rect(110, 205, 100, 40));
   EXPECT_EQ(b->place, Rect(216, 205, 100, 40));
-}
-
-TEST_F(BoxLayoutTest, PlacesAColumn) {
-  FakeWidget& a = AddTo(column_, Make({50, 20}, {10, 10}));
-  FakeWidget& b = AddTo(column_, Make({50, 20}, {10, 10}));
+  FakeWidget& c = AddTo(column_, Make({50, 20}, {10, 10}));
+  FakeWidget& d = AddTo(column_, Make({50, 20}, {10, 10}));
   column_.SetStretch(1, 1);
   column_.SetGeometry({0, 0, 80, 106});
-  EXPECT_EQ(a->place, Rect(0, 0, 80, 20));
-  EXPECT_EQ(b->place, Rect(0, 26, 80, 80));
+  EXPECT_EQ(c->place, Rect(0, 0, 80, 20));
+  EXPECT_EQ(d->place, Rect(0, 26, 80, 80));
 }
 
 TEST_F(BoxLayoutTest, HiddenWidgetTakesNeitherSpaceNorGap) {
@@ -140,7 +137,7 @@ TEST_F(BoxLayoutTest, TakenItemsForgetTheLayout) {
   const std::unique_ptr<LayoutItem> layoutItem(outer->TakeAt(0));
   EXPECT_EQ(nested->GetParent(), nullptr);
   outer.reset();
-  static_cast<WidgetItemV2*>(widgetItem.get())->InvalidateSizes();
+  static_cast<WidgetItemV2*>(widgetItem.get())->InvalidateSizeCache();
   nested->Invalidate(true);
 }
 
@@ -190,7 +187,7 @@ TEST_F(BoxLayoutTest, ColumnGivesTheHeightThatTheWidthNeeds) {
   column_.SetContentsMargins(5, 5, 5, 5);
   EXPECT_EQ(column_.HeightForWidth(50), 50 + 6 + 30 + 10);
   below->minimumIdeal = {10, 12};
-  below->Links().layoutItem->InvalidateSizes();
+  InvalidateSizesFrom(&below);
   EXPECT_EQ(column_.MinimumHeightForWidth(50), 50 + 6 + 12 + 10);
   EXPECT_EQ(column_.HeightForWidth(50), 50 + 6 + 30 + 10);
   column_.SetGeometry({0, 0, 50, 96});
@@ -211,7 +208,7 @@ TEST_F(BoxLayoutTest, HeightForWidthFollowsAChange) {
   text->height = [](int) { return 10; };
   EXPECT_EQ(row_.HeightForWidth(50), 10);
   text->height = [](int) { return 35; };
-  text->Links().layoutItem->InvalidateSizes();
+  InvalidateSizesFrom(&text);
   EXPECT_EQ(row_.HeightForWidth(50), 35);
 }
 

@@ -9,6 +9,7 @@
 #include "layout/GridLayout.h"
 #include "layout/SpacerItem.h"
 #include "layout/WidgetItem.h"
+#include "layout/WidgetTree.h"
 #include "support/FakeWidget.h"
 #include "support/Printers.h"
 

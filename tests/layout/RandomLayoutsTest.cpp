@@ -147,30 +147,6 @@ TEST_P(RandomLayouts, SizeDecidesAloneNotTheWayToIt) {
   EXPECT_EQ(Places(), places);
 }
 
-// In a row or column, what is not empty and can grow covers the area with its gaps.
-TEST_P(RandomLayouts, SizesAndGapsFillTheArea) {
-  Build(GetParam());
-  Resize(dialog_, 2000, 1500);
-  Settle();
-  for (Layout* layout : layouts_) {
-    if (!dynamic_cast<HBoxLayout*>(layout) || layout->IsEmpty()) continue;
-    int sum = 0;
-    int gaps = -1;
-    bool fillsUp = false;
-    for (int i = 0; LayoutItem* item = layout->ItemAt(i); ++i) {
-      const int limit = item->MaximumSize().Width();
-      fillsUp = fillsUp || (limit >= LayoutSizeLimit() && !item->IsEmpty());
-      gaps += item->IsEmpty() ? 0 : 1;
-      if (!item->Widget() || !item->IsEmpty()) sum += item->Geometry().Width();
-    }
-    int left = 0;
-    int right = 0;
-    layout->GetContentsMargins(&left, nullptr, &right, nullptr);
-    if (!fillsUp) continue;
-    EXPECT_EQ(sum + gaps * 6 + left + right, layout->Geometry().Width());
-  }
-}
-
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomLayouts, testing::Range(1u, 61u));
 
 }  // namespace

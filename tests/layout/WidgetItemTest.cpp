@@ -162,7 +162,7 @@ TEST_F(WidgetItemTest, SizesAreReadOnceUntilInvalidated) {
   EXPECT_EQ(widget->reads, 1);
   widget->ideal = {70, 20};
   EXPECT_EQ(item.SizeHint(), Size(60, 20));
-  item.InvalidateSizes();
+  item.InvalidateSizeCache();
   EXPECT_EQ(item.SizeHint(), Size(70, 20));
 }
 
@@ -213,7 +213,7 @@ TEST_F(WidgetItemTest, ItemOfADeadWidgetIsEmpty) {
   EXPECT_EQ(item.SizeHint(), Size());
   EXPECT_EQ(item.Widget(), nullptr);
   item.SetGeometry({0, 0, 10, 10});
-  item.InvalidateSizes();
+  item.InvalidateSizeCache();
 }
 
 TEST_F(WidgetItemTest, GrowingWidgetExpandsWithItsLayout) {
