@@ -18,6 +18,7 @@ FLOORS = LAYER + ["engine"] + ROOMS
 
 # Headers of the layer that belong above its lowest floor, and implementation headers without a source.
 PLACES = {
+    "platform/include/platform/OffscreenScreen.h": "display",
     "platform/include/platform/Window.h": "window",
     "platform/include/platform/Picture.h": "window",
     "platform/include/platform/SelfDrawn.h": "controls",

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "platform/Bitmap.h"
 #include "platform/Painter.h"
 #include "platform/Picture.h"
 #include "window/WindowTest.h"
@@ -279,15 +280,21 @@ TEST_F(PaintTest, PictureOfAHiddenWindowShowsItWhole) {
   const auto path = std::filesystem::path(testing::TempDir()) / "hidden-window.png";
   SaveWindowPicture(hidden, path.string());
   EXPECT_GT(std::filesystem::file_size(path), 100U);
+  std::filesystem::remove(path);
+  const UniqueBitmap picture(PictureOfWindow(hidden));
+  const auto pixels = BitmapPixels(picture.get());
+  ASSERT_EQ(pixels.size(), 100U * 80U);
+  EXPECT_EQ(pixels[60 * 100 + 50], 0xFF000000 | kGreenPixel);
   EXPECT_FALSE(IsWindowVisible(hidden));
   EXPECT_EQ(robot_.PixelAt(hidden, 5, 5), kGreenPixel);
-  std::filesystem::remove(path);
 }
 
 TEST_F(PaintTest, PictureNeedsATopLevelWindow) {
   const HWND child = MakeChild(window_, {0, 0, 10, 10});
+  EXPECT_EQ(PictureOfWindow(child), nullptr);
   EXPECT_THROW(SaveWindowPicture(child, "x.png"), std::runtime_error);
   EXPECT_THROW(SaveWindowPicture(nullptr, "x.png"), std::runtime_error);
+  EXPECT_THROW(SavePicture(nullptr, "x.png"), std::runtime_error);
 }
 
 TEST_F(PaintTest, OnlyContextsThatWereDrawnIntoArePresented) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/OffscreenScreen.h"
 #include "platform/SystemColors.h"
 #include "platform/Types.h"
 
@@ -51,7 +52,7 @@ struct Pixels {
   int stride = 0;
 };
 
-enum class MouseButton { Left, Right, Middle, Extra1, Extra2 };
+using offscreen::MouseButton;
 
 // One thing the user or the desktop did. Positions are screen pixels.
 struct Input {
