@@ -3,11 +3,11 @@
 
 set(WEXA_HOST_INCLUDE_DIR ${PROJECT_BINARY_DIR}/host-include)
 
-file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/*.h)
-file(MAKE_DIRECTORY ${WEXA_HOST_INCLUDE_DIR}/wexa)
-foreach(header IN LISTS headers)
-  get_filename_component(name ${header} NAME)
-  file(CREATE_LINK ${header} ${WEXA_HOST_INCLUDE_DIR}/wexa/${name} SYMBOLIC)
+set(folder ${PROJECT_SOURCE_DIR}/include)
+file(GLOB headers RELATIVE ${folder} CONFIGURE_DEPENDS ${folder}/*.h ${folder}/testing/*.h)
+file(MAKE_DIRECTORY ${WEXA_HOST_INCLUDE_DIR}/wexa/testing)
+foreach(name IN LISTS headers)
+  file(CREATE_LINK ${folder}/${name} ${WEXA_HOST_INCLUDE_DIR}/wexa/${name} SYMBOLIC)
 endforeach()
 file(CREATE_LINK ${PROJECT_SOURCE_DIR}/platform/include/platform
   ${WEXA_HOST_INCLUDE_DIR}/wexa/platform SYMBOLIC)

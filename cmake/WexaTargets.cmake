@@ -59,9 +59,10 @@ function(wexa_quick target precompiled)
   target_precompile_headers(${target} REUSE_FROM ${precompiled})
 endfunction()
 
-# wexa_room(name folder... LINKS target...): the sources of some folders as one object library.
+# wexa_room(name FOLDERS folder... LINKS target... APART): the sources of some folders as one object
+# library, which is part of libwexa.so unless it stands apart.
 function(wexa_room name)
-  cmake_parse_arguments(ROOM "" "" "LINKS;FOLDERS" ${ARGN})
+  cmake_parse_arguments(ROOM "APART" "" "LINKS;FOLDERS" ${ARGN})
   wexa_sources(sources ${ROOM_FOLDERS})
   if(NOT sources)
     return()
@@ -71,7 +72,9 @@ function(wexa_room name)
   target_compile_definitions(${name} PRIVATE WEXA_BUILDING)
   target_link_libraries(${name} PUBLIC wexa_headers ${ROOM_LINKS})
   wexa_quick(${name} wexa_standard_headers)
-  set_property(GLOBAL APPEND PROPERTY WEXA_ROOMS ${name})
+  if(NOT ROOM_APART)
+    set_property(GLOBAL APPEND PROPERTY WEXA_ROOMS ${name})
+  endif()
 endfunction()
 
 # The test programs that run under the thread sanitizer: those with the label "threads".

@@ -24,7 +24,7 @@ endfunction()
 
 set(root ${PROJECT_SOURCE_DIR})
 
-file(GLOB headers CONFIGURE_DEPENDS ${root}/include/*.h)
+file(GLOB headers CONFIGURE_DEPENDS ${root}/include/*.h ${root}/include/testing/*.h)
 wexa_headers_alone(public_headers_alone BASE ${root}/include PREFIX wexa/ HEADERS ${headers})
 file(GLOB headers CONFIGURE_DEPENDS ${root}/platform/include/platform/*.h)
 wexa_headers_alone(layer_headers_alone BASE ${root}/platform/include PREFIX wexa/ HEADERS ${headers})

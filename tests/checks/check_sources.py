@@ -5,6 +5,7 @@ Prints every offending line and fails if there is one. It first offends against 
 rule that finds nothing is noticed."""
 
 import pathlib
+import posixpath
 import re
 import sys
 
@@ -14,7 +15,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 # each other. The rooms of the widgets come from the folders of src/MFC.
 LAYER = ["graphics", "display", "window", "controls", "classes"]
 ROOMS = ["base", "drawn", "tips", "buttons|texts|ranges|edits|lists|menus", "containers", "dialog", "forms"]
-FLOORS = LAYER + ["engine"] + ROOMS
+FLOORS = LAYER + ["engine"] + ROOMS + ["testing"]
 
 # Headers of the layer that belong above its lowest floor, and implementation headers without a source.
 PLACES = {
@@ -74,6 +75,8 @@ def room_of(path):
         return "graphics"
     if path.startswith("src/MFC/"):
         return path.split("/")[2]
+    if path.startswith(("include/testing/", "src/testing/")):
+        return "testing"
     if path.startswith("include/MFC/"):
         return ROOM_OF_FAMILY.get(bare(path), "a room without sources")
     return "engine" if path.startswith(("include/", "src/")) else None
@@ -112,7 +115,8 @@ def broken_library_rule(source, header):
 
 def resolve(source, name):
     folders = [source.rpartition("/")[0] + "/", "platform/include/", "platform/src/", "include/", "src/"]
-    return next((folder + name for folder in folders if folder + name in KNOWN), None)
+    paths = [posixpath.normpath(folder + name) for folder in folders]
+    return next((path for path in paths if path in KNOWN), None)
 
 
 def check_file(path, lines, complain):
@@ -146,9 +150,14 @@ OFFENCES = [("platform/src/window/Pen.cpp", '#include "Event.h"'),
             ("src/MFC/base/Pen.cpp", '#include "MFC/dialog/BaseDialogMFC.h"'),
             ("src/MFC/texts/Pen.cpp", '#include "MFC/ButtonImplMFC.h"'),
             ("src/MFC/dialog/Pen.cpp", '#include "graphics/Surface.h"'),
+            ("src/MFC/forms/Pen.cpp", '#include "testing/Robot.h"'),
+            ("src/testing/Pen.cpp", '#include "display/offscreen/OffscreenDisplay.h"'),
+            ("include/testing/Pen.h", '#include "../../src/KeyMap.h"'),
             ("src/MFC/buttons/Button.cpp", '#include "Edit.h"'),
             ("docs/a.md", "TOD" "O"), ("docs/a.md", "the spe" "c"), ("docs/a.md", "end ")]
-INNOCENT = [("src/MFC/dialog/Pen.cpp", '#include "platform/Classes.h"'),
+INNOCENT = [("include/testing/Pen.h", '#include "../Dialog.h"'),
+            ("src/testing/Pen.cpp", '#include "platform/Classes.h"'),
+            ("src/MFC/dialog/Pen.cpp", '#include "platform/Classes.h"'),
             ("src/MFC/containers/Pen.cpp", '#include "MFC/drawn/HolderView.h"'),
             ("platform/src/display/DisplayFactory.cpp", '#include "display/offscreen/OffscreenDisplay.h"')]
 
