@@ -100,4 +100,22 @@ class Robot {
   void TypeCharacter(wchar_t c);
 };
 
+// -- Pictures
+
+struct PictureTolerance {
+  int channel = 0;     // how far a pixel's red, green or blue may be off, of 255
+  double share = 0.0;  // which part of the pixels may be further off, of 1
+};
+
+// Whether a top-level window, its frame included, looks like the picture in a file. If it does not,
+// what it shows is written beside the file as NAME-shown.png and, where the sizes are equal,
+// NAME-difference.png, with the pixels that are off in red. Without the file the answer is false,
+// too: look at NAME-shown.png, and keep it as NAME.png. Throws std::runtime_error naming a file
+// that cannot be written or is no picture, and for a window that is none.
+bool LooksLike(HWND window, const std::string& file, PictureTolerance tolerance = {});
+inline bool LooksLike(const Dialog& dialog, const std::string& file,
+                      PictureTolerance tolerance = {}) {
+  return LooksLike(dialog.GetHandle(), file, tolerance);
+}
+
 }  // namespace Wexa::Testing

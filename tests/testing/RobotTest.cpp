@@ -2,6 +2,8 @@
 
 #include "testing/Robot.h"
 
+#include <filesystem>
+#include <fstream>
 #include <stdexcept>
 
 #include "Edit.h"
@@ -16,8 +18,21 @@ namespace {
 class RobotTest : public DialogTest {
  protected:
   RobotTest() {
+    std::filesystem::remove_all(folder_);
+    std::filesystem::create_directories(folder_);
     Open(ColumnForm(LineEdit("name") + TextWidget("QLabel", "label", "before"), 200, 100));
   }
+  ~RobotTest() override { std::filesystem::remove_all(folder_); }
+
+  std::string FileAt(const std::string& name) const { return (folder_ / name).string(); }
+  bool Exists(const std::string& name) const { return std::filesystem::exists(folder_ / name); }
+  // Keeps what the dialog shows as the picture it should look like.
+  void Keep() {
+    EXPECT_FALSE(Testing::LooksLike(*dialog_, FileAt("dialog.png")));
+    std::filesystem::rename(folder_ / "dialog-shown.png", folder_ / "dialog.png");
+  }
+
+  std::filesystem::path folder_ = std::filesystem::path(::testing::TempDir()) / "wexa-robot";
 };
 
 TEST_F(RobotTest, FindsWidgetsOfTheirType) {
@@ -59,6 +74,25 @@ TEST_F(RobotTest, ChangesTheDesktop) {
   EXPECT_GT(PlaceOf(L"name").Width(), width);
   robot_.SetResolution(96);
   EXPECT_EQ(PlaceOf(L"name").Width(), width);
+}
+
+TEST_F(RobotTest, ComparesPictures) {
+  Keep();
+  EXPECT_TRUE(Testing::LooksLike(*dialog_, FileAt("dialog.png")));
+  EXPECT_FALSE(Exists("dialog-shown.png"));
+
+  Find<Label>(L"label").SetText(L"after");
+  Robot::PumpAll();
+  EXPECT_FALSE(Testing::LooksLike(*dialog_, FileAt("dialog.png")));
+  EXPECT_TRUE(Exists("dialog-shown.png") && Exists("dialog-difference.png"));
+  EXPECT_TRUE(Testing::LooksLike(*dialog_, FileAt("dialog.png"), {.share = 0.1}));
+  EXPECT_TRUE(Testing::LooksLike(*dialog_, FileAt("dialog.png"), {.channel = 255}));
+}
+
+TEST_F(RobotTest, RefusesWhatIsNoPicture) {
+  std::ofstream(FileAt("dialog.png")) << "no picture";
+  EXPECT_THROW(Testing::LooksLike(*dialog_, FileAt("dialog.png")), std::runtime_error);
+  EXPECT_THROW(Testing::LooksLike(HWND{}, FileAt("none.png")), std::runtime_error);
 }
 
 }  // namespace
