@@ -27,10 +27,15 @@ function(check_with_cmake name example)
 endfunction()
 
 function(check_with_pkgconfig name example)
+  file(READ ${example}/CMakeLists.txt project)
+  set(package wexa)
+  if(project MATCHES Wexa::Testing)
+    set(package wexa-testing)
+  endif()
   file(GLOB_RECURSE found ${prefix}/*/wexa.pc)
   get_filename_component(pc_dir ${found} DIRECTORY)
   set(ENV{PKG_CONFIG_PATH} ${pc_dir})
-  execute_process(COMMAND pkg-config --cflags --libs wexa OUTPUT_VARIABLE flags
+  execute_process(COMMAND pkg-config --cflags --libs ${package} OUTPUT_VARIABLE flags
     OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
   separate_arguments(flags UNIX_COMMAND "${flags}")
   file(GLOB sources ${example}/*.cpp)
