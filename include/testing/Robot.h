@@ -90,7 +90,8 @@ class Robot {
 
   // -- Desktop
 
-  // In open windows, too; 96 dots an inch are 100 %.
+  // In open windows, too; 96 dots an inch are 100 %. Throws std::invalid_argument below 48 and
+  // above 960.
   void SetResolution(int dpi);
   // What the desktop asks for, one of platform/SystemColors.h. What WEXA_HIGH_CONTRAST or the
   // program itself chose stands above it.

@@ -74,6 +74,7 @@ TEST_F(RobotTest, ChangesTheDesktop) {
   EXPECT_GT(PlaceOf(L"name").Width(), width);
   robot_.SetResolution(96);
   EXPECT_EQ(PlaceOf(L"name").Width(), width);
+  EXPECT_THROW(robot_.SetResolution(47), std::invalid_argument);
 }
 
 TEST_F(RobotTest, ComparesPictures) {

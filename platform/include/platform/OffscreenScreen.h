@@ -33,7 +33,8 @@ void AdvanceTime(std::uint64_t milliseconds);
 // The longest time between the presses of a double click, in milliseconds.
 std::uint32_t DoubleClickTime();
 
-// Takes effect in open windows, too; 96 pixels an inch are 100 %.
+// Takes effect in open windows, too; 96 pixels an inch are 100 %. Throws std::invalid_argument
+// below 48 and above 960.
 void ChangeResolution(int dpi);
 // The desktop asks for other colours.
 void ChangeScheme(SystemScheme scheme);

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "display/offscreen/OffscreenDisplay.h"
+#include "graphics/Environment.h"
 
 namespace offscreen {
 
@@ -53,6 +54,7 @@ std::uint32_t DoubleClickTime() {
 }
 
 void ChangeResolution(int dpi) {
+  if (!IsServedDpi(dpi)) throw std::invalid_argument("A screen has 48 to 960 dots an inch.");
   Screen().ChangeResolution(dpi);
 }
 
