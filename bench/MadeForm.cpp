@@ -43,8 +43,9 @@ class Maker {
     Open("ui version=\"4.0\"");
     Line("<class>Form</class>");
     Open("widget class=\"QWidget\" name=\"Form\"");
-    Line("<property name=\"geometry\"><rect><x>0</x><y>0</y><width>400</width>"
-         "<height>300</height></rect></property>");
+    Line(
+        "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>400</width>"
+        "<height>300</height></rect></property>");
     Property("windowTitle", "string", "Form of " + std::to_string(widgets) + " widgets");
     OpenLayout("QVBoxLayout");
     Item([this] { MakeBoxes(nesting_.depth, "QHBoxLayout"); });
@@ -78,8 +79,7 @@ class Maker {
     const int more = grids_++ < leaves_ % innermost_ ? 1 : 0;
     const int count = leaves_ / innermost_ + more;
     OpenLayout("QGridLayout");
-    for (int i = 0; i < count; ++i)
-      Item([this] { MakeLeaf(); }, Cell(i / kColumns, i % kColumns));
+    for (int i = 0; i < count; ++i) Item([this] { MakeLeaf(); }, Cell(i / kColumns, i % kColumns));
     Item([this] { MakeSpacer("Qt::Vertical", 20, 40); },
          Cell(count / kColumns + 1, 0) + " colspan=\"4\"");
     Close("layout");

@@ -3,7 +3,6 @@
 //   gallery                                  shows it
 //   gallery --pictures PREFIX [dark] [rtl]   writes a picture of each page
 
-
 #include <algorithm>
 #include <clocale>
 #include <cstdio>

@@ -51,7 +51,7 @@ class Edit::impl : public BaseImplMFC {
   PasswordMode passwordMode_ = PasswordMode::Normal;
   int limit_ = -1;
   bool frame_ = true;
-  int radius_ = GetEditRadius();  // 96-DPI units
+  int radius_ = GetEditRadius();   // 96-DPI units
   bool changedByProgram_ = false;  // notifications are then not the user's
   bool isBeingMade_ = false;       // nor anybody's
 };

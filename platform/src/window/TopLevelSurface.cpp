@@ -1,8 +1,8 @@
 #include "window/TopLevelSurface.h"
 
 #include "window/DisplayFocus.h"
-#include "window/Session.h"
 #include "window/Frame.h"
+#include "window/Session.h"
 
 namespace core {
 namespace {

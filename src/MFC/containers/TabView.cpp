@@ -58,8 +58,7 @@ class TabView::impl : public PagesImpl {
     SetPosition(PositionOf(form));
   }
   void TakeChild(BaseGUIObject& child, const FormReader&) override {
-    AddPage(dynamic_cast<ChildDialog*>(&child),
-            ImplOf(&child)->Creation().text);
+    AddPage(dynamic_cast<ChildDialog*>(&child), ImplOf(&child)->Creation().text);
   }
   SizePolicy DefaultPolicy() const override {
     return {SizePolicy::Expanding, SizePolicy::Expanding};
