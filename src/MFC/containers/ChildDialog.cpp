@@ -20,7 +20,7 @@ class ChildDialog::impl : public ContainerImpl {
   void TakeChild(BaseGUIObject& child, const FormReader&) override {
     const int offset = static_cast<int>(WexaUtils::GetScaleFactor());
     CRect& place = ImplOf(&child)->Creation().rect;
-    place = place.Moved(offset, offset);
+    place = Rect(place).OffsetRect(offset, offset).PlatformRect();  // places wrap around
   }
 
   void SetBackground(COLORREF color) {
